@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/commit.h"
+
+#include "engine/engine.h"
+#include "engine/number_format.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr std::string_view kOutOfRange = "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t;
+constexpr int kSmallRegisterDigits = 3;
+
+}  // namespace
+
+void Commit::cmdEnter_Click() {
+    EngineState& s = calc.s;
+    const auto slots = static_cast<std::size_t>(s.StackPtr) + 2;
+    if (s.Stack.size() < slots) {
+        s.Stack.resize(slots);
+    }
+    s.CurrentProc = "cmdEnter";
+    s.BaseTagDue = false;
+    if (s.Xreg.isEmpty() || s.Xreg.isEmptyText()) {
+        s.Xreg = s.depth() > 0 ? s.LastX : ValueCell::zero();
+    }
+    if (!s.EntryOpen) {
+        s.StackPtr = std::max(s.StackPtr - 1, 0);
+    }
+    ValueCell savedLastX;
+    if (!std::exchange(s.StoreAsIs, false) && !std::exchange(s.ValueInXreg, false)) {
+        readEntry(savedLastX);
+    }
+    storeOnStack();
+    if (!std::exchange(s.SkipCommitTail, false)) {
+        showAndFinish(savedLastX);
+    }
+}
+
+void Commit::readEntry(ValueCell& savedLastX) {
+    EngineState& s = calc.s;
+    const std::string& typed = calc.entryText();
+    if (typed.empty()) {
+        calc.setEntry(calc.text(s.Xreg));
+        s.StackPtr += 1;
+        s.LastX = s.Xreg;
+        return;
+    }
+    savedLastX = std::exchange(s.LastX, s.Xreg);
+    const bool keepsExactValue =
+        s.RoundTripCheck && goOn([&](const Failure& failure) { onFailure(failure); },
+                                 [&] {
+                                     if (calc.xNumber() == 0.0 || !sameAfterRoundTrip(s.Xreg, typed)) {
+                                         s.Xreg = typed;
+                                     }
+                                 });
+    if (!keepsExactValue) {
+        s.Xreg = typed;
+    }
+}
+
+bool Commit::sameAfterRoundTrip(const ValueCell& left, std::string_view right) const {
+    const char decimal = calc.s.DecimalChar;
+    const auto throughText = [decimal](double value) { return readNumber(plainText(value, decimal), decimal); };
+    return throughText(left.number(decimal)) - throughText(readNumber(right, decimal)) == 0.0;
+}
+
+void Commit::storeOnStack() {
+    EngineState& s = calc.s;
+    s.Stack[static_cast<std::size_t>(s.StackPtr)] = s.Xreg;
+    if (s.StackPtr != 0) {
+        s.Yreg = s.Stack[static_cast<std::size_t>(s.StackPtr) - 1];
+        if (!s.QuizMode) {
+            calc.form.cmdDown.enabled = true;
+            calc.form.cmdXchgY.enabled = true;
+            calc.form.cmdLastx.enabled = true;
+            calc.form.cmdSTO.enabled = true;
+        }
+    } else {
+        s.Yreg = ValueCell::zero();
+        calc.form.cmdDown.enabled = false;
+        calc.form.cmdXchgY.enabled = false;
+    }
+    s.StackPtr += 1;
+    s.EntryOpen = false;
+    s.EexActive = false;
+}
+
+void Commit::showAndFinish(const ValueCell& savedLastX) {
+    EngineState& s = calc.s;
+    const bool shown = display();
+    s.CurrentProc = "cmdEnter";
+    if (std::exchange(s.FormatFault, false)) {
+        s.Xreg = s.LastX;
+        s.LastX = savedLastX;
+        s.StackPtr = std::max(s.StackPtr - 1, 1);
+        s.Yreg = s.slot(s.StackPtr - 2);
+    } else if (shown) {
+        calc.display.DisplayChg();
+        s.CurrentProc = "cmdEnter";
+    }
+    // A label belongs to the line of its own commit; one that was not printed stands on no other.
+    s.FnLabel.clear();
+    calc.stackList.refresh();
+    ShowSmallRegs();
+    s.BaseNumberDone = false;
+    if (!std::exchange(s.KeepEntryText, false)) {
+        calc.setEntry({});
+    }
+    s.EntryTouched = false;
+}
+
+bool Commit::display() {
+    EngineState& s = calc.s;
+    try {
+        calc.display.DspFmat(s.Xreg);
+        return !s.FormatFault;
+    } catch (const Failure& failure) {
+        const std::string_view typed = s.Xreg.textView();
+        if (failure.number() != FailureNumber::TypeMismatch || (!typed.ends_with('e') && !typed.ends_with('E'))) {
+            onFailure(failure);
+            return false;
+        }
+    }
+    // An exponent was left without digits.
+    std::string mended{s.Xreg.textView()};
+    mended.back() = 'e';
+    mended += '0';
+    s.Xreg = std::move(mended);
+    s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = s.Xreg;
+    return goOn([&](const Failure& failure) { onFailure(failure); }, [&] { calc.display.DspFmat(s.Xreg); });
+}
+
+void Commit::onFailure(const Failure& failure) {
+    EngineState& s = calc.s;
+    if (failure.number() == FailureNumber::Overflow) {
+        calc.errorBox(BoxKind::Stop, kOutOfRange);
+        s.Xreg = ValueCell::zero();
+        s.StackPtr = std::max(s.StackPtr - 1, 1);
+        s.Yreg = s.slot(s.StackPtr - 2);
+        return;
+    }
+    calc.errorBox(BoxKind::Stop, "Error number " + std::to_string(failure.code()));
+    calc.LightModifiers(0);
+}
+
+void Commit::PushResult() {
+    EngineState& s = calc.s;
+    const int digits = s.DisplayDigits;
+    const DisplayMode mode = s.Mode;
+    if (!s.KeepDigits) {
+        goOn([&](const Failure& failure) { onFailure(failure); }, [&] { AutoDigits(); });
+    }
+    s.EntryOpen = true;
+    s.ValueInXreg = true;
+    cmdEnter_Click();
+    // Stays set, so that a commit by the caller's own tail does not read the entry line.
+    s.ValueInXreg = true;
+    s.DisplayDigits = digits;
+    s.Mode = mode;
+}
+
+void Commit::AutoDigits() {
+    EngineState& s = calc.s;
+    if (s.Xreg.textView() == kNothingDone) {
+        return;
+    }
+    const double size = std::abs(calc.xNumber());
+    if (size == 0.0) {
+        s.DisplayDigits = 2;
+    } else if (size >= 10000.0 || size < 1.0) {
+        s.Mode = DisplayMode::Engineering;
+        s.DisplayDigits = 3;
+    }
+}
+
+void Commit::FetchX() {
+    EngineState& s = calc.s;
+    if (s.EntryOpen) {
+        cmdEnter_Click();
+    } else if (s.StackPtr <= 1) {
+        if (s.Xreg.isEmpty() || s.Xreg.isEmptyText()) {
+            s.Xreg = ValueCell::zero();
+        }
+        return;
+    } else if (s.BaseMode) {
+        s.Xreg = calc.tape.value(calc.tape.selected());
+    } else {
+        s.Xreg = s.slot(s.StackPtr - 1);
+    }
+    s.Yreg = s.slot(s.StackPtr - 2);
+    if (s.Yreg.isEmpty()) {
+        s.Yreg = ValueCell::zero();
+    }
+    s.ValueInXreg = true;
+    s.SkipCommitTail = false;
+}
+
+void Commit::BeginEntry() {
+    EngineState& s = calc.s;
+    if (!s.EntryOpen) {
+        s.EntryOpen = true;
+        calc.setEntry({});
+    }
+    if (!s.QuizMode) {
+        calc.form.cmdSTO.enabled = true;
+    }
+}
+
+void Commit::lowerStack(int operands) {
+    calc.s.StackPtr = std::max(calc.s.StackPtr - (operands - 1), 1);
+}
+
+void Commit::TapeLine(std::string_view text) {
+    calc.display.SetUpDisplay(std::string(text));
+    calc.display.DisplayChg();
+    calc.s.Xreg = ValueCell::zero();
+}
+
+void Commit::ShowSmallRegs() {
+    EngineState& s = calc.s;
+    calc.form.txtXreg.caret = calc.form.txtXreg.text.size();
+    if (s.Yreg.isEmpty()) {
+        s.Yreg = ValueCell::zero();
+    }
+    const auto small = [&](const ValueCell& cell) {
+        const auto value = cell.tryNumber(s.DecimalChar);
+        return value ? formatScientific(*value, kSmallRegisterDigits, s.DecimalChar) : calc.text(cell);
+    };
+    calc.form.txtLastx.text = small(s.LastX);
+    calc.form.txty_Reg.text = small(s.Yreg);
+}
+
+}  // namespace tallyforge

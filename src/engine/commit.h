@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The commit: the one step by which every number reaches the stack, and the few operations around
+// it. Functions leave a result in Xreg and a label in FnLabel; nothing but the commit changes the
+// top of the stack for good. Four ways to deliver a result:
+//   one operand    FetchX, set Xreg and FnLabel, cmdEnter_Click: the top is replaced
+//   two operands   the same with StackPtr lowered by one before the commit
+//   pushing        set Xreg and FnLabel, PushResult
+//   no value       Xreg = "ZZZ" and return
+#pragma once
+
+#include "engine/failure.h"
+#include "engine/value_cell.h"
+
+#include <string_view>
+
+namespace tallyforge {
+
+class Engine;
+
+class Commit {
+public:
+    explicit Commit(Engine& calculator) : calc(calculator) {}
+
+    /// The commit, also the click of the Enter key. Reads the entry line unless Xreg was set by
+    /// a function (ValueInXreg); on an empty line it duplicates X. Raises nothing: failures are
+    /// shown in a box and repaired.
+    void cmdEnter_Click();
+
+    /// Delivers X as a new stack element where there is no entry to consider. Chooses digits with
+    /// AutoDigits unless KeepDigits is set; the user's format is as before afterwards.
+    void PushResult();
+
+    /// Brings the operand into X: commits a number that is still being typed, else takes the top
+    /// of the stack. First call of every key function.
+    void FetchX();
+
+    /// Before the first character of a number reaches the entry line.
+    void BeginEntry();
+
+    /// Engineering format with three digits for a result of 10000 or more, or below 1; two digits
+    /// for 0. Leaves the format alone for all others. Raises 13 for a text that is no number.
+    void AutoDigits();
+
+    /// Writes a line of text on the tape and sets X to 0.
+    void TapeLine(std::string_view text);
+
+    /// Lowers the depth by `operands` - 1, for a function that has taken so many; a stack too
+    /// short is taken as holding zeros, and StackPtr stays at least 1.
+    void lowerStack(int operands);
+
+    /// Writes the last-x and y fields.
+    void ShowSmallRegs();
+
+private:
+    void readEntry(ValueCell& savedLastX);
+    void storeOnStack();
+    void showAndFinish(const ValueCell& savedLastX);
+    bool display();
+    void onFailure(const Failure& failure);
+    [[nodiscard]] bool sameAfterRoundTrip(const ValueCell& left, std::string_view right) const;
+
+    Engine& calc;
+};
+
+}  // namespace tallyforge

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/engine.h"
+
+#include "engine/number_format.h"
+
+namespace tallyforge {
+
+Engine::Engine(Platform& desktop) : platform(desktop), stackList(*this), display(*this), commit(*this) {
+    form.lstDisplayReg.rows = &tape;
+    form.lstStack.rows = &stackList;
+    tape.clear(s.TapeRows);
+}
+
+std::string Engine::patternText(const ValueCell& cell, std::string_view pattern) const {
+    try {
+        return formatPattern(number(cell), pattern, s.DecimalChar);
+    } catch (const Failure&) {
+        return text(cell);
+    }
+}
+
+void Engine::message(BoxKind kind, std::string_view title, std::string_view text) {
+    platform.messageBox({.kind = kind, .title = std::string(title), .text = std::string(text)});
+}
+
+void Engine::errorBox(BoxKind kind, std::string_view text) {
+    message(kind, s.CurrentProc + " Error!", text);
+}
+
+bool Engine::question(std::string_view title, std::string_view text) {
+    return platform.messageBox({.kind = BoxKind::Question,
+                                .title = std::string(title),
+                                .text = std::string(text),
+                                .buttons = BoxButtons::YesNo}) == Answer::Yes;
+}
+
+void Engine::reportIn(std::string_view procedure, int number, std::string_view what) {
+    errorBox(BoxKind::Stop, "Error " + std::to_string(number) + " (" + std::string(what) + ") in procedure " +
+                                std::string(procedure) + " of Form " + form.name);
+}
+
+void Engine::LightModifiers(std::uint8_t mask) {
+    form.shaShift.visible = (mask & kShift) != 0;
+    form.shaCtrl.visible = (mask & kCtrl) != 0;
+    form.shaAlt.visible = (mask & kAlt) != 0;
+    s.CtrlHeld = false;
+}
+
+void Engine::ClearOptKeys() {
+    if (s.ModifierLatched) {
+        keypads().RepaintKeypad();
+    }
+    s.ModifierMask = 0;
+    s.ModifierLatched = false;
+    for (Control& option : form.optKey) {
+        option.checked = false;
+    }
+    form.optKey.back().checked = true;
+    LightModifiers(0);
+    focusEntry();
+}
+
+void Engine::focusEntry() {
+    form.setFocus(form.txtXreg);
+    form.txtXreg.caret = form.txtXreg.text.size();
+}
+
+void Engine::setEntry(std::string_view text) {
+    form.txtXreg.text = text;
+    form.txtXreg.caret = text.size();
+}
+
+}  // namespace tallyforge

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The spine: state, form, tape, display and commit of one calculator, wired together. Whoever
+// makes a number for the calculator is given an Engine. There is no global one; a test makes as
+// many as it likes.
+#pragma once
+
+#include "engine/commit.h"
+#include "engine/engine_state.h"
+#include "engine/idle_keypads.h"
+#include "engine/keypad_port.h"
+#include "engine/main_form.h"
+#include "engine/number_display.h"
+#include "engine/stack_list.h"
+#include "engine/tape.h"
+#include "platform/platform.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+class Engine {
+public:
+    explicit Engine(Platform& desktop);
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    Platform& platform;
+    MainForm form;
+    EngineState s;
+    Tape tape;
+    StackList stackList;
+    NumberDisplay display;
+    Commit commit;
+
+    /// The folder of all data files; set at start.
+    std::filesystem::path AppDataDir;
+    /// Cuts the digits of a number of base `letter` to the word size; answered by the number bases.
+    std::function<std::string(std::string_view digits, char letter, int wordSize)> cutToWord;
+    /// A dialog is open over the main form.
+    bool dialogOpen = false;
+
+    [[nodiscard]] KeypadPort& keypads() const { return *keypads_; }
+    /// Must be called before the first key; the port outlives the engine.
+    void connect(KeypadPort& port) { keypads_ = &port; }
+
+    /// X as number or as plain text, by the locale.
+    [[nodiscard]] double xNumber() const { return s.Xreg.number(s.DecimalChar); }
+    [[nodiscard]] double number(const ValueCell& cell) const { return cell.number(s.DecimalChar); }
+    [[nodiscard]] std::string text(const ValueCell& cell) const { return cell.text(s.DecimalChar); }
+    /// `cell` by `pattern`; a text that is no number as it stands.
+    [[nodiscard]] std::string patternText(const ValueCell& cell, std::string_view pattern) const;
+
+    /// A message box with an OK button. `title` as it stands.
+    void message(BoxKind kind, std::string_view title, std::string_view text);
+    /// Message box titled `CurrentProc` + " Error!".
+    void errorBox(BoxKind kind, std::string_view text);
+    /// A Yes/No question.
+    [[nodiscard]] bool question(std::string_view title, std::string_view text);
+    /// "Error N (description) in procedure NAME of Form frm_Tallyforge", stop icon.
+    void reportIn(std::string_view procedure, int number, std::string_view what);
+
+    // Lamps and on-screen modifiers.
+    void LightModifiers(std::uint8_t mask);
+    void ClearOptKeys();
+
+    /// Gives the entry line the keyboard, caret behind its last character.
+    void focusEntry();
+    [[nodiscard]] std::string& entryText() { return form.txtXreg.text; }
+    void setEntry(std::string_view text);
+    /// The empty-line rule: with nothing typed a function works on the X that is on the stack.
+    void closeEmptyEntry() {
+        if (form.txtXreg.text.empty()) {
+            s.EntryOpen = false;
+        }
+    }
+
+private:
+    IdleKeypads idle_;
+    KeypadPort* keypads_ = &idle_;
+};
+
+}  // namespace tallyforge

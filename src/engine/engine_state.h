@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The calculator's state: registers X and Y, the stack, last x, and the flags by which keys, entry
+// line and commit talk to each other. A number travels one road: key handler, BeginEntry, entry
+// line, commit (commit.h), stack, display, tape.
+//
+// What holds after every commit that was not taken back:
+//   1. Stack[StackPtr-1] is Xreg, and Yreg is Stack[StackPtr-2].
+//   2. EntryOpen and EexActive are false.
+//   3. Stack[0] stays Empty unless a commit ran on an empty stack with EntryOpen false; Y is then 0.
+//   4. Stack has at least StackPtr + 1 slots.
+#pragma once
+
+#include "engine/value_cell.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tallyforge {
+
+/// Function keys on the bank, and memory registers.
+inline constexpr int kBankKeys = 24;
+inline constexpr int kRegisters = 24;
+
+/// The three ways to show a number; also the index of the option keys `optFix`.
+enum class DisplayMode : std::uint8_t { Fixed = 0, Scientific = 1, Engineering = 2 };
+inline constexpr int kMaxDisplayDigits = 12;
+
+enum class AngleMode : std::uint8_t { Degrees, Radians, Grads };
+
+/// Keypads by their id. The last four are transient and never part of the keypad cycle.
+enum class Keypad : std::uint8_t {
+    Standard = 0,
+    Engineering = 1,
+    Trigonometry = 2,
+    Convert = 4,
+    Magnetics = 8,
+    Binary = 10,
+    Tables = 20,
+    Percent = 5,       ///< for one key press: key 4 means percent whatever keypad is shown
+    Program = 11,      ///< Program mode
+    MemoryArray = 12,  ///< the function keys are register keys
+    LetterDrill = 21,  ///< overlay of the Tables keypad
+};
+
+/// What a save of the tape writes, or an undo reads (see tape_file.h).
+enum class TapeFileKind : std::uint8_t {
+    None = 0,
+    Registers = 1,
+    StackAndTape = 2,
+    Everything = 3,
+    Undo = 4,
+    SavedByUser = 255,
+};
+
+/// Value of BaseSuspended while BaseMode is lifted for one key.
+inline constexpr std::uint8_t kBaseSuspended = 99;
+
+/// Sentinels that a function leaves in Xreg.
+inline constexpr const char* kNoMeaning = "XXX";    ///< this modifier has no meaning for the key
+inline constexpr const char* kNothingDone = "ZZZ";  ///< nothing to commit
+
+struct EngineState {
+    EngineState();
+
+    // Registers and stack.
+    ValueCell Xreg;
+    ValueCell Yreg = ValueCell::zero();
+    ValueCell LastX;
+    ValueCell LastY;
+    std::vector<ValueCell> Stack;  ///< slot 0 lies under the stack; element 1 is the bottom
+    int StackPtr = 1;              ///< next free slot; 1 is an empty stack
+    double Xnum = 0.0;             ///< working copy for functions that compute in doubles
+    std::string FnLabel;           ///< label of the coming tape line
+    std::string CurrentProc;       ///< last procedure that stored its name; titles of messages
+
+    // One-shot flags, set by the caller and cleared by the commit.
+    bool EntryOpen = false;       ///< the coming commit pushes; false: it replaces the top
+    bool ValueInXreg = false;     ///< the commit takes Xreg, not the entry line
+    bool StoreAsIs = false;       ///< the commit leaves out reading an entry altogether
+    bool SkipCommitTail = false;  ///< the commit stores but writes no tape line
+    bool FormatFault = false;     ///< the value could not be shown: take the push back
+    bool KeepEntryText = false;   ///< the commit leaves the entry line's text in place
+    bool KeepDigits = false;      ///< PushResult keeps the digits that the caller has set
+    bool ShowRawOnce = false;     ///< the next numDisplay gives the plain text
+    bool DmsDisplay = false;      ///< the next numDisplay shows minutes and seconds
+
+    // The entry line.
+    bool EntryTouched = false;
+    bool EexActive = false;       ///< the entry line holds an exponent
+    bool BaseTagDue = false;      ///< a "#" was typed, its base letter is still to come
+    bool BaseNumberDone = false;  ///< the entry line holds a whole number of a base
+    bool DigitTyped = false;
+    std::string BaseLetter;       ///< last base letter typed
+    bool RoundTripCheck = false;  ///< a running program feeds a stored number back
+
+    // Modifiers.
+    std::uint8_t ModifierMask = 0;
+    bool ModifierLatched = false;  ///< chosen on screen, waits for a key
+    bool CtrlHeld = false;
+    bool ShiftCtrlHeld = false;
+    bool NoKeyPaint = false;           ///< captions stay as they are under a modifier
+    bool SkipModifierRelease = false;  ///< the next key-up does not repaint
+
+    // Modes.
+    Keypad ActiveKeypad = Keypad::Standard;
+    bool BaseMode = false;
+    std::uint8_t BaseSuspended = 0;
+    bool QuizMode = false;
+    bool ProgramMode = false;
+    bool MemoryArrayMode = false;
+    bool TablesShown = false;
+    bool ConvertWait = false;  ///< the Convert key waits for a choice
+
+    // Format.
+    int DisplayDigits = 2;
+    DisplayMode Mode = DisplayMode::Fixed;
+    int SavedDigits = 2;
+    DisplayMode SavedMode = DisplayMode::Fixed;
+    bool DisplaySaved = false;
+    int WordSize = 64;
+    char DecimalChar = '.';
+    AngleMode Angle = AngleMode::Degrees;
+    std::string BaseRemainder;  ///< remainder of the last base division, base form
+
+    // Tape.
+    TapeFileKind UndoKind = TapeFileKind::None;
+    std::string TapeHeader;  ///< header line of the tape file while it is read
+    std::string TapeFileName;
+    std::string MemoryFileName;
+    bool CompactForm = false;  ///< the display runs at other than 96 dots per inch
+    int TapeRows = 7;
+
+    // Memory registers, by number 1 to 24 (slot 0 is unused); names by key index.
+    std::array<ValueCell, kRegisters + 1> Registers;
+    std::array<std::string, kBankKeys> RegisterNames;
+    bool RegistersUsed = false;
+
+    // View and life cycle.
+    bool ViewExtended = false;
+    bool ShowYField = false;
+    bool ShowLastxField = false;
+    bool TallForm = false;
+    int BasicHeight = 6200;  ///< height of the plain form, twips
+    bool FormActive = false;
+    bool AutoLoadProgram = false;
+    float TaxRate = 7.75F;
+    std::string DefaultProgram;
+    int SavedTop = 0;
+    int SavedLeft = 0;
+    int LastTop = 0;
+    int LastLeft = 0;
+    DisplayMode RememberedMode = DisplayMode::Fixed;  ///< while the form is not the active one
+
+    /// Multi-input functions that have still to clear their stored inputs, one bit each.
+    std::uint32_t FunctionResetMask = 0x7FFFFFFF;
+    std::uint32_t CalcResetWord = 0x7FFFFFFF;
+
+    [[nodiscard]] int depth() const { return StackPtr - 1; }
+    /// Stack slot `slot`, or an Empty cell where there is none.
+    [[nodiscard]] const ValueCell& slot(int slot) const;
+};
+
+/// The register that a key of the bank stands for in memory array mode, 1 to 24.
+[[nodiscard]] int registerOfKey(int keyIndex);
+/// The key of a register, 0 to 23.
+[[nodiscard]] int keyOfRegister(int registerNumber);
+/// The name that the register of a key has until it is renamed: its number, four characters wide.
+[[nodiscard]] std::string defaultRegisterName(int keyIndex);
+
+}  // namespace tallyforge

@@ -1,0 +1,552 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/entry_line.h"
+
+#include "engine/engine.h"
+#include "platform/key_codes.h"
+
+#include <array>
+#include <string>
+#include <utility>
+
+namespace tallyforge {
+
+namespace {
+
+// Control characters that Ctrl with a letter types.
+constexpr int kCtrlC = 3;
+constexpr int kCtrlP = 16;
+constexpr int kCtrlV = 22;
+constexpr int kCtrlX = 24;
+constexpr int kBackTick = 96;
+
+constexpr std::size_t kLongestEntry = 22;
+
+// Function keys that the keyboard reaches, by index on the bank.
+constexpr int kReciprocal = 0;
+constexpr int kSquare = 1;
+constexpr int kSquareRoot = 2;
+constexpr int kPi = 3;
+constexpr int kPercent = 4;
+constexpr int kPower = 5;
+constexpr int kToBase = 6;
+constexpr int kShiftLeft = 7;
+constexpr int kShiftRight = 10;
+constexpr int kFactorial = 23;
+
+/// Arithmetic key of a character, or -1.
+int arithmeticKey(int key) {
+    switch (key) {
+        case '/':
+        case 'd':
+        case 'D':
+            return 0;
+        case '*':
+        case 'm':
+        case 'M':
+            return 1;
+        case '-':
+            return 2;
+        case '+':
+        case 'a':
+        case 'A':
+            return 3;
+        default:
+            return -1;
+    }
+}
+
+bool isDigit(int key) {
+    return key >= '0' && key <= '9';
+}
+
+}  // namespace
+
+void EntryLine::txtXreg_KeyDown(KeyEvent event) {
+    EngineState& s = calc.s;
+    if (s.ModifierLatched) {
+        if (event.keyCode == kKeyEscape) {
+            cmdEsc_Click();
+        }
+        return;
+    }
+    takeModifiers(event.shift);
+    if (s.Xreg.textView() == kNoMeaning || shortCut(event)) {
+        return;
+    }
+    if (event.keyCode == kKeyF10) {
+        calc.keypads().PerformConvertFn();
+        return;
+    }
+    navigate(event.keyCode);
+    if (!calc.entryText().empty()) {
+        editLine(event.keyCode);
+    }
+}
+
+void EntryLine::takeModifiers(std::uint8_t shift) {
+    EngineState& s = calc.s;
+    s.CtrlHeld = false;
+    s.ShiftCtrlHeld = false;
+    calc.LightModifiers(shift);
+    s.ModifierMask = shift;
+    const bool paints = !s.NoKeyPaint && !s.MemoryArrayMode && !s.ProgramMode;
+    if (paints && (shift != 0 || painted_)) {
+        calc.keypads().PaintModifiers(shift);
+        painted_ = shift != 0;
+    }
+    s.CtrlHeld = shift == kCtrl;
+    s.ShiftCtrlHeld = shift == (kShift | kCtrl);
+}
+
+// Digit keys that mean a function with Ctrl. Returns whether nothing more is to be done.
+bool EntryLine::shortCut(KeyEvent event) {
+    const bool ctrl = event.shift == kCtrl;
+    const bool shiftCtrl = event.shift == (kShift | kCtrl);
+    if (ctrl && (event.keyCode == kKeyDigit6 || event.keyCode == kKeyPad6)) {
+        calc.closeEmptyEntry();
+        pressOn(Keypad::Standard, kPower, kCtrl);
+    } else if ((ctrl || shiftCtrl) && (event.keyCode == kKeyDigit5 || event.keyCode == kKeyPad5)) {
+        if (!calc.s.BaseMode) {
+            calc.closeEmptyEntry();
+            pressOn(Keypad::Percent, kPercent, ctrl ? kCtrl : kShift);
+        }
+        return true;
+    }
+    return false;
+}
+
+void EntryLine::navigate(int keyCode) {
+    KeypadPort& keypads = calc.keypads();
+    switch (keyCode) {
+        case kKeyF9:
+            return keypads.ShowKeypad(Keypad::Tables);
+        case kKeyF11:
+            return keypads.ToggleProgramMode();
+        case kKeyF12:
+            return keypads.MemoryArray();
+        case kKeyDelete:
+            return calc.form.cmdDown.enabled ? stackKeys.cmdDown_Click() : void();
+        case kKeyEnd:
+            return calc.form.cmdXchgY.enabled ? stackKeys.cmdXchgY_Click() : void();
+        case kKeyInsert:
+            return calc.form.cmdLastx.enabled ? stackKeys.cmdLastx_Click() : void();
+        default:
+            break;
+    }
+    if (calc.s.ProgramMode) {
+        return;
+    }
+    switch (keyCode) {
+        case kKeyLeft:
+            return keypads.KeypadHistoryBack();
+        case kKeyRight:
+            return keypads.KeypadHistoryForward();
+        case kKeyUp:
+            return keypads.PrevKeypad();
+        case kKeyDown:
+            return keypads.NextKeypad();
+        default:
+            break;
+    }
+}
+
+void EntryLine::editLine(int keyCode) {
+    if (keyCode == kKeyEscape) {
+        clearEntryFlags();
+        calc.setEntry({});
+    } else if (keyCode == kKeyBackspace) {
+        calc.commit.BeginEntry();
+        dropLastCharacter();
+    }
+}
+
+void EntryLine::dropLastCharacter() {
+    EngineState& s = calc.s;
+    std::string text = calc.entryText();
+    if (text.empty()) {
+        return;
+    }
+    switch (text.back()) {
+        case 'e':
+        case 'E':
+            s.EexActive = false;
+            break;
+        case 'b':
+        case 'd':
+        case 'h':
+        case 'o':
+            s.BaseTagDue = true;
+            s.BaseNumberDone = false;
+            break;
+        default:
+            break;
+    }
+    text.pop_back();
+    calc.setEntry(text);
+    if (text.empty()) {
+        clearEntryFlags();
+    }
+}
+
+void EntryLine::clearEntryFlags() {
+    EngineState& s = calc.s;
+    s.EntryTouched = false;
+    s.DigitTyped = false;
+    s.EexActive = false;
+    s.BaseTagDue = false;
+    s.BaseNumberDone = false;
+    s.EntryOpen = false;
+}
+
+void EntryLine::txtXreg_KeyPress(int& keyAscii) {
+    EngineState& s = calc.s;
+    const int key = std::exchange(keyAscii, 0);
+    if (s.ModifierLatched) {
+        return;
+    }
+    if (s.ProgramMode && key >= 'A') {
+        programLetter(key);
+        return;
+    }
+    if (s.BaseNumberDone && !passesDoneNumber(key)) {
+        s.CtrlHeld = false;
+        s.ShiftCtrlHeld = false;
+        return;
+    }
+    const int wanted = !s.EntryOpen && key == 'h' ? 'H' : key;
+    calc.commit.BeginEntry();
+    if (std::exchange(s.CtrlHeld, false)) {
+        if (!s.ShiftCtrlHeld) {
+            controlCharacter(wanted);
+        }
+    } else {
+        keyAscii = accept(wanted);
+    }
+    if (keyAscii != 0) {
+        s.EntryTouched = true;
+        s.DigitTyped = s.DigitTyped || isDigit(keyAscii);
+    } else if (calc.entryText().empty()) {
+        // Nothing is being typed, so nothing is open: Enter then duplicates X.
+        clearEntryFlags();
+    }
+}
+
+bool EntryLine::passesDoneNumber(int key) const {
+    return std::string_view{"*+-/<>ADMadm"}.find(static_cast<char>(key)) != std::string_view::npos && key > 0;
+}
+
+void EntryLine::programLetter(int key) {
+    if (key == kBackTick) {
+        if (const int typed = eex(); typed != 0) {
+            calc.commit.BeginEntry();
+            calc.setEntry(calc.entryText() + static_cast<char>(typed));
+        }
+    } else if (key == '\\') {
+        stackKeys.cmdChs_Click();
+    } else if (key >= 'a' && key <= 'z') {
+        calc.keypads().ProgramLetter(key - 'a' + 1);
+    } else if (key >= 'A' && key <= 'Z') {
+        calc.keypads().ProgramLetter(key - 'A' + 1);
+    }
+}
+
+void EntryLine::controlCharacter(int key) {
+    switch (key) {
+        case kCtrlC:
+            calc.closeEmptyEntry();
+            calc.keypads().mnuCopy_Click();
+            break;
+        case kCtrlV:
+            calc.keypads().mnuPaste_Click();
+            break;
+        case kCtrlP:
+            calc.closeEmptyEntry();
+            withoutBase([this] { pressOn(Keypad::Standard, kPi, kCtrl); });
+            break;
+        case kCtrlX:
+            if (!calc.s.BaseMode) {
+                calc.closeEmptyEntry();
+                pressFunction(kSquareRoot);
+            }
+            break;
+        default:
+            break;
+    }
+}
+
+// The character that goes into the line for `key`: itself, another one, or 0.
+int EntryLine::accept(int key) {
+    if (key == calc.s.DecimalChar) {
+        return calc.entryText().find(calc.s.DecimalChar) == std::string::npos ? key : 0;
+    }
+    if (isDigit(key)) {
+        return key;
+    }
+    if (key >= 'A' && key <= 'F') {
+        return acceptLetter(key);
+    }
+    if (arithmetic(key) || functionCharacter(key)) {
+        return 0;
+    }
+    return key == 'e' || key == kBackTick ? (key == 'e' && calc.s.BaseTagDue ? 0 : eex()) : acceptBaseKey(key);
+}
+
+int EntryLine::acceptLetter(int key) {
+    if (calc.s.BaseTagDue) {
+        return key;
+    }
+    if (key == 'E') {
+        return eex();
+    }
+    arithmetic(key);
+    return 0;
+}
+
+bool EntryLine::arithmetic(int key) {
+    const int index = arithmeticKey(key);
+    if (index < 0) {
+        return false;
+    }
+    calc.closeEmptyEntry();
+    if (!calc.s.QuizMode) {
+        calc.keypads().cmdMath_Click(index);
+    }
+    return true;
+}
+
+bool EntryLine::functionCharacter(int key) {
+    EngineState& s = calc.s;
+    const auto withoutBaseMode = [&](Keypad keypad, int function, std::uint8_t mask) {
+        if (!s.BaseMode) {
+            calc.closeEmptyEntry();
+            pressOn(keypad, function, mask);
+        }
+        return true;
+    };
+    switch (key) {
+        case kCtrlX:
+        case 'x':
+            calc.closeEmptyEntry();
+            pressFunction(std::exchange(s.ShiftCtrlHeld, false) ? kSquare : kReciprocal);
+            return true;
+        case 'X':
+            calc.closeEmptyEntry();
+            pressFunction(kSquare);
+            return true;
+        case kCtrlP:
+        case 'P':
+        case 'p':
+            calc.closeEmptyEntry();
+            withoutBase(
+                [&] { pressOn(Keypad::Standard, kPi, s.ShiftCtrlHeld ? std::uint8_t{kCtrl | kAlt} : s.ModifierMask); });
+            return true;
+        case '\\':
+            calc.closeEmptyEntry();
+            stackKeys.cmdChs_Click();
+            return true;
+        case '^':
+            return withoutBaseMode(Keypad::Standard, kPower, 0);
+        case '!':
+            return withoutBaseMode(Keypad::Standard, kFactorial, 0);
+        case '%':
+            return withoutBaseMode(Keypad::Percent, kPercent, s.ModifierMask);
+        case '<':
+        case '>':
+            doubleOrHalve(key);
+            return true;
+        case 'H':
+            toBase();
+            return true;
+        case kKeyEscape:
+            s.EntryOpen = false;
+            return true;
+        default:
+            return false;
+    }
+}
+
+void EntryLine::toBase() {
+    EngineState& s = calc.s;
+    if (!s.BaseMode) {
+        return;
+    }
+    s.EntryOpen = false;
+    if (!s.Xreg.isTagged()) {
+        s.ModifierMask = kShift;
+    }
+    pressFunction(kToBase);
+}
+
+void EntryLine::doubleOrHalve(int key) {
+    EngineState& s = calc.s;
+    calc.closeEmptyEntry();
+    calc.commit.FetchX();
+    const bool doubles = key == '<';
+    if (s.Xreg.isTagged()) {
+        s.BaseMode = true;
+        pressFunction(doubles ? kShiftLeft : kShiftRight);
+        return;
+    }
+    s.CurrentProc = "txtXreg";
+    const auto report = [&](const Failure& failure) {
+        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
+    };
+    constexpr double kLargestToDouble = 1.7976931348623157e308 / 2.0;
+    double value = 0.0;
+    const bool read = goOn(report, [&] {
+        value = calc.xNumber();
+        if (doubles && (value > kLargestToDouble || value < -kLargestToDouble)) {
+            throw Failure{FailureNumber::Overflow};
+        }
+    });
+    if (!read) {
+        s.ValueInXreg = false;
+        return;
+    }
+    s.LastX = s.Xreg;
+    s.Xreg = doubles ? value * 2.0 : value / 2.0;
+    s.FnLabel = doubles ? "X"_t : "ö"_t;
+    s.ValueInXreg = true;
+    calc.commit.cmdEnter_Click();
+}
+
+int EntryLine::acceptBaseKey(int key) {
+    EngineState& s = calc.s;
+    if (key == '#') {
+        if (!s.BaseMode || s.BaseTagDue) {
+            return 0;
+        }
+        s.BaseTagDue = true;
+        return key;
+    }
+    if ((key == 'b' || key == 'h' || key == 'o') && std::exchange(s.BaseTagDue, false)) {
+        s.BaseLetter = static_cast<char>(key);
+        if (calc.keypads().CheckBaseDigits()) {
+            s.BaseNumberDone = true;
+            return key;
+        }
+        calc.setEntry({});
+    }
+    return 0;
+}
+
+int EntryLine::eex() {
+    if (std::exchange(calc.s.EexActive, true)) {
+        return 0;
+    }
+    if (calc.entryText().empty()) {
+        calc.commit.BeginEntry();
+        calc.setEntry("1e");
+        calc.s.EntryTouched = true;
+        return 0;
+    }
+    return 'e';
+}
+
+void EntryLine::txtXreg_KeyUp(KeyEvent event) {
+    EngineState& s = calc.s;
+    if (s.ModifierLatched) {
+        return;
+    }
+    s.ModifierMask = 0;
+    if (s.QuizMode) {
+        return;
+    }
+    if (event.shift != 0) {
+        // A modifier that is still held goes on holding, as a keyboard's repeat would have it.
+        takeModifiers(event.shift);
+        return;
+    }
+    calc.LightModifiers(0);
+    if (s.MemoryArrayMode || s.ProgramMode || s.ConvertWait || s.TablesShown) {
+        return;
+    }
+    if (!std::exchange(s.SkipModifierRelease, false) && std::exchange(painted_, false)) {
+        calc.keypads().RepaintKeypad();
+    }
+}
+
+void EntryLine::cmdNumPad_Click(int index) {
+    EngineState& s = calc.s;
+    constexpr int kDecimalKey = 10;
+    calc.commit.BeginEntry();
+    const char character = index == kDecimalKey ? s.DecimalChar : static_cast<char>('0' + index);
+    const bool secondPoint = index == kDecimalKey && calc.entryText().find(s.DecimalChar) != std::string::npos;
+    if (!secondPoint && !s.BaseNumberDone && calc.entryText().size() < kLongestEntry) {
+        calc.setEntry(calc.entryText() + character);
+        s.EntryTouched = true;
+        s.DigitTyped = true;
+    }
+    calc.focusEntry();
+}
+
+void EntryLine::cmdBackSpace_Click() {
+    if (!calc.entryText().empty()) {
+        calc.commit.BeginEntry();
+        dropLastCharacter();
+    }
+    calc.focusEntry();
+}
+
+void EntryLine::cmdEex_Click() {
+    if (calc.s.ModifierMask == 0 && !calc.s.EexActive && !calc.s.BaseNumberDone) {
+        calc.commit.BeginEntry();
+        if (const int typed = eex(); typed != 0) {
+            calc.setEntry(calc.entryText() + static_cast<char>(typed));
+        }
+    }
+    calc.focusEntry();
+}
+
+void EntryLine::cmdEsc_Click() {
+    calc.ClearOptKeys();
+    calc.setEntry({});
+    clearEntryFlags();
+    calc.focusEntry();
+}
+
+void EntryLine::cmdF11_Click() {
+    if (calc.s.ModifierMask == 0) {
+        calc.keypads().RepaintKeypad();
+        calc.keypads().ToggleProgramMode();
+    }
+    calc.focusEntry();
+}
+
+void EntryLine::cmdF12_Click() {
+    if (calc.s.ModifierMask == kShift) {
+        calc.s.ModifierMask = 0;
+        calc.keypads().PerformConvertFn();
+    } else if (calc.s.ModifierMask == 0) {
+        calc.keypads().RepaintKeypad();
+        calc.keypads().MemoryArray();
+    }
+    calc.focusEntry();
+}
+
+void EntryLine::pressFunction(int function) {
+    calc.keypads().cmdFunctions_Click(function);
+}
+
+void EntryLine::pressOn(Keypad keypad, int function, std::uint8_t mask) {
+    EngineState& s = calc.s;
+    const Keypad shown = std::exchange(s.ActiveKeypad, keypad);
+    s.ModifierMask = mask;
+    pressFunction(function);
+    s.ActiveKeypad = shown;
+    if (shown != keypad && !s.MemoryArrayMode && !s.ProgramMode) {
+        calc.keypads().RepaintKeypad();
+    }
+}
+
+template <typename Action>
+void EntryLine::withoutBase(Action action) {
+    EngineState& s = calc.s;
+    const bool base = std::exchange(s.BaseMode, false);
+    s.BaseSuspended = base ? kBaseSuspended : std::uint8_t{0};
+    action();
+    s.BaseMode = base;
+    s.BaseSuspended = 0;
+}
+
+}  // namespace tallyforge

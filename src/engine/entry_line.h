@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The entry line is a small machine of its own: it decides for every key whether it is a digit of
+// the number, a function, or nothing. The whole keyboard of the calculator is defined here, and
+// the on-screen digit keys do the same work for the mouse.
+#pragma once
+
+#include "engine/engine_state.h"
+#include "engine/stack_keys.h"
+#include "platform/form.h"
+
+#include <cstdint>
+
+namespace tallyforge {
+
+class Engine;
+
+class EntryLine {
+public:
+    EntryLine(Engine& calculator, StackKeys& keys) : calc(calculator), stackKeys(keys) {}
+
+    /// A key went down, by itself or with modifiers.
+    void txtXreg_KeyDown(KeyEvent event);
+    /// A character is about to reach the line. Sets `keyAscii` to 0 where it must not, or to
+    /// another character that goes in instead.
+    void txtXreg_KeyPress(int& keyAscii);
+    /// A key came up; `event.shift` are the modifiers that are still held.
+    void txtXreg_KeyUp(KeyEvent event);
+
+    /// Digit keys 0 to 9 on screen, 10 is the decimal key.
+    void cmdNumPad_Click(int index);
+    void cmdBackSpace_Click();
+    void cmdEex_Click();
+    void cmdEsc_Click();
+    void cmdF11_Click();
+    void cmdF12_Click();
+
+private:
+    void takeModifiers(std::uint8_t shift);
+    bool shortCut(KeyEvent event);
+    void navigate(int keyCode);
+    void editLine(int keyCode);
+    void dropLastCharacter();
+    void clearEntryFlags();
+
+    [[nodiscard]] bool passesDoneNumber(int key) const;
+    [[nodiscard]] int accept(int key);
+    [[nodiscard]] int acceptLetter(int key);
+    [[nodiscard]] int acceptBaseKey(int key);
+    [[nodiscard]] int eex();
+    void controlCharacter(int key);
+    void programLetter(int key);
+    bool arithmetic(int key);
+    bool functionCharacter(int key);
+    void doubleOrHalve(int key);
+    void toBase();
+
+    /// A function key as if keypad `keypad` were shown, with `mask` held.
+    void pressOn(Keypad keypad, int function, std::uint8_t mask);
+    void pressFunction(int function);
+    /// Runs `action` with the number handling of the bases lifted.
+    template <typename Action>
+    void withoutBase(Action action);
+
+    Engine& calc;
+    StackKeys& stackKeys;
+    bool painted_ = false;  ///< the bank shows the captions of a modifier
+};
+
+}  // namespace tallyforge

@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/main_form.h"
+
+#include "platform/text.h"
+
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr std::string_view kRegisterArithmetic =
+    " Use Ctrl+Click to perform register arithmetic with the contents of Register 1, and Alt+Click to use the "
+    "contents of Register 2 as a constant! ";
+
+constexpr Font kCaption{.face = Face::Arial, .points = 9.0F};
+constexpr Font kSmallCaption{.face = Face::SmallFonts, .points = 7.0F};
+constexpr Font kNumbers{.face = Face::Terminal, .points = 9.0F};
+constexpr Font kEntry{.face = Face::Terminal, .points = 12.0F, .bold = true};
+constexpr Font kDigits{.face = Face::Arial, .points = 11.0F, .bold = true};
+
+}  // namespace
+
+MainForm::MainForm() : Form("frm_Tallyforge", "Tallyforge") {
+    dressLists();
+    dressKeys();
+    dressOptions();
+    dressRegisters();
+    dressMenus();
+    defaultKey = &cmdEnter;
+    focus = &txtXreg;
+    place = {.left = 0, .top = 0, .width = kPlainWidth, .height = 6200};
+    arrange();
+}
+
+void MainForm::put(Control& control, std::string_view controlName, const Look& look, int index) {
+    control.name = controlName;
+    control.index = index;
+    control.kind = look.kind;
+    control.text = look.text;
+    control.tip = look.tip;
+    control.spoken = look.spoken;
+    control.font = look.font;
+    control.visible = look.visible;
+    control.enabled = look.enabled;
+    enrol(control);
+}
+
+void MainForm::dressLists() {
+    put(txtXreg, "txtXreg",
+        {.kind = ControlKind::Field, .tip = " Entry Register ", .spoken = "Entry line", .font = kEntry});
+    txtXreg.maxLength = 22;
+    txtXreg.rightAligned = true;
+    put(lblName, "lblName", {.kind = ControlKind::Label, .spoken = "Mode", .font = kCaption});
+    put(lblBank, "lblBank",
+        {.kind = ControlKind::Label, .text = "Bank             Stack", .spoken = "Keypad", .font = kCaption});
+    put(lblLists, "lblLists",
+        {.kind = ControlKind::Label, .text = "Bank   Stack", .spoken = "Stack heading", .font = kCaption});
+    put(lblCnvrt, "lblCnvrt", {.kind = ControlKind::Label, .spoken = "Conversion hint", .visible = false});
+    put(lstDisplayReg, "lstDisplayReg",
+        {.kind = ControlKind::List, .tip = " Running Tape Display ", .spoken = "Running tape", .font = kNumbers});
+    put(lstStack, "lstStack", {.kind = ControlKind::List, .tip = " Stack ", .spoken = "Stack", .font = kNumbers});
+    for (int i = 0; i < static_cast<int>(lblStkReg.size()); ++i) {
+        put(lblStkReg.at(static_cast<std::size_t>(i)), "lblStkReg",
+            {.kind = ControlKind::Label, .spoken = "Row mark", .font = kNumbers, .visible = false}, i);
+    }
+    put(Label7, "Label7", {.kind = ControlKind::Label, .text = "y", .font = kCaption, .visible = false});
+    put(txty_Reg, "txty_Reg",
+        {.kind = ControlKind::Field,
+         .text = "0",
+         .tip = " Y Register ",
+         .spoken = "Y register",
+         .font = kNumbers,
+         .visible = false});
+    put(Label9, "Label9", {.kind = ControlKind::Label, .text = "Last x", .font = kCaption, .visible = false});
+    put(txtLastx, "txtLastx",
+        {.kind = ControlKind::Field,
+         .text = "0",
+         .tip = " Last x ",
+         .spoken = "Last x",
+         .font = kNumbers,
+         .visible = false});
+    put(Label8, "Label8", {.kind = ControlKind::Label, .text = "X", .spoken = "X", .font = kCaption, .visible = false});
+    for (Control* field : {&txty_Reg, &txtLastx}) {
+        field->rightAligned = true;
+    }
+}
+
+void MainForm::dressKeys() {
+    for (int i = 0; i < kBankKeys; ++i) {
+        put(cmdFunctions.at(static_cast<std::size_t>(i)), "cmdFunctions", {.font = kCaption}, i);
+    }
+    struct MathKey {
+        std::string_view caption;
+        std::string_view spoken;
+    };
+    constexpr std::array<MathKey, 4> kMath{{{"÷"_t, "Divide"}, {"×"_t, "Multiply"}, {"-", "Subtract"}, {"+", "Add"}}};
+    for (std::size_t i = 0; i < kMath.size(); ++i) {
+        put(cmdMath.at(i), "cmdMath",
+            {.text = kMath.at(i).caption, .tip = kRegisterArithmetic, .spoken = kMath.at(i).spoken, .font = kDigits},
+            static_cast<int>(i));
+    }
+    constexpr int kDecimalKey = 10;
+    for (int i = 0; i <= kDecimalKey; ++i) {
+        const std::string digit = i == kDecimalKey ? "." : std::to_string(i);
+        put(cmdNumPad.at(static_cast<std::size_t>(i)), "cmdNumPad",
+            {.text = digit, .spoken = i == kDecimalKey ? "Decimal" : std::string_view{}, .font = kDigits}, i);
+    }
+    put(cmdEnter, "cmdEnter", {.text = "Enter <----", .tip = " Enter ", .spoken = "Enter", .font = kDigits});
+    put(cmdBackSpace, "cmdBackSpace", {.text = "<-", .tip = " Backspace ", .spoken = "Backspace", .font = kCaption});
+    put(cmdEex, "cmdEex",
+        {.text = "EEX", .tip = " Exponent - use E key ", .spoken = "Exponent", .font = kSmallCaption});
+    put(cmdEsc, "cmdEsc", {.text = "Esc", .tip = " Clear the entry line ", .spoken = "Escape", .font = kSmallCaption});
+    put(cmdDown, "cmdDown",
+        {.text = "&Drop", .tip = " Drop x - use Del key ", .font = kSmallCaption, .enabled = false});
+    put(cmdXchgY, "cmdXchgY",
+        {.text = "&x<>y",
+         .tip = " Exchange x & y - use End key ",
+         .spoken = "Exchange x and y",
+         .font = kSmallCaption,
+         .enabled = false});
+    put(cmdChs, "cmdChs",
+        {.text = "C&HS", .tip = R"( Chg Sign - use \ key )", .spoken = "Change sign", .font = kSmallCaption});
+    put(cmdLastx, "cmdLastx",
+        {.text = "&Last x", .tip = "Retrieve Last x value - use Ins key ", .font = kSmallCaption, .enabled = false});
+    put(cmdSTO, "cmdSTO",
+        {.text = "REG",
+         .tip = " Input a (Register) number: Click - retrieves; Shift+Click - saves; Ctrl+Click - names ",
+         .spoken = "Registers",
+         .font = kSmallCaption});
+    put(cmdReset, "cmdReset",
+        {.text = "Reset",
+         .tip = " Click: Initialize calculator | Ctrl+: Clear memory regs | Alt+: Both | Shift+Ctrl+Alt+: Undo last "
+                "Reset",
+         .font = kSmallCaption});
+    put(cmdView, "cmdView",
+        {.text = "&View",
+         .tip = " Click: Toggle the Extended View | Alt+Click: Toggle Y-Reg | Ctrl+ Toggle Lastx ",
+         .font = kSmallCaption});
+    put(cmdDigits, "cmdDigits",
+        {.text = "Display(2)",
+         .tip = " Click: Change Display Digits | Rt. Click: Toggle Ht ",
+         .spoken = "Display digits",
+         .font = kSmallCaption});
+    put(cmdF11, "cmdF11",
+        {.text = "F11", .tip = "Enter Program Mode", .spoken = "Program mode", .font = kSmallCaption});
+    put(cmdF12, "cmdF12",
+        {.text = "F12",
+         .tip = "Enter Memory Array | Shift + perform Convert Fn (F10)",
+         .spoken = "Memory array",
+         .font = kSmallCaption});
+}
+
+void MainForm::dressOptions() {
+    constexpr std::array<std::string_view, 3> kFormats{"F&IX", "S&CI", "EN&G"};
+    constexpr std::array<std::string_view, 3> kFormatNames{"Fixed", "Scientific", "Engineering"};
+    for (std::size_t i = 0; i < kFormats.size(); ++i) {
+        put(optFix.at(i), "optFix",
+            {.kind = ControlKind::Option,
+             .text = kFormats.at(i),
+             .tip = " Display format ",
+             .spoken = kFormatNames.at(i),
+             .font = kSmallCaption},
+            static_cast<int>(i));
+    }
+    optFix.front().checked = true;
+    put(optDeg, "optDeg",
+        {.kind = ControlKind::Option,
+         .text = "Deg",
+         .tip = " Angles in degrees ",
+         .spoken = "Degrees",
+         .font = kSmallCaption});
+    put(optRad, "optRad",
+        {.kind = ControlKind::Option,
+         .text = "Rad",
+         .tip = " Angles in radians ",
+         .spoken = "Radians",
+         .font = kSmallCaption});
+    put(optGrad, "optGrad",
+        {.kind = ControlKind::Option,
+         .text = "Grad",
+         .tip = " Angles in grads ",
+         .spoken = "Grads",
+         .font = kSmallCaption});
+    optDeg.checked = true;
+    put(fraKeyboard, "fraKeyboard", {.kind = ControlKind::Frame, .text = "Keyboard Key(s)", .font = kSmallCaption});
+    constexpr std::array<std::string_view, 8> kModifiers{"Shift",     "Ctrl",     "Shift+Ctrl",     "Alt",
+                                                         "Shift+Alt", "Ctrl+Alt", "Shift+Ctrl+Alt", ""};
+    for (std::size_t i = 0; i < kModifiers.size(); ++i) {
+        put(optKey.at(i), "optKey",
+            {.kind = ControlKind::Option,
+             .text = kModifiers.at(i),
+             .tip = " Holds the key(s) for the next click ",
+             .spoken = i == 7 ? "No modifier" : std::string_view{},
+             .font = kSmallCaption,
+             .visible = i != 7},
+            static_cast<int>(i));
+    }
+    optKey.back().checked = true;
+    put(shaShift, "shaShift", {.kind = ControlKind::Lamp, .spoken = "Shift lamp", .visible = false});
+    put(shaCtrl, "shaCtrl", {.kind = ControlKind::Lamp, .spoken = "Ctrl lamp", .visible = false});
+    put(shaAlt, "shaAlt", {.kind = ControlKind::Lamp, .spoken = "Alt lamp", .visible = false});
+}
+
+void MainForm::dressRegisters() {
+    for (int i = 0; i < kRegisters; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        const std::string number = std::to_string(i + 1);
+        const std::string_view use = i == 0 ? " - Register arithmetic" : i == 1 ? " - math constant" : "";
+        const std::string tip = "Register " + number + std::string(use);
+        const Look label{.kind = ControlKind::Label, .text = number, .font = kSmallCaption, .visible = false};
+        const Look field{.kind = ControlKind::Field, .tip = tip, .spoken = tip, .font = kNumbers, .visible = false};
+        put(lblErg_m.at(at), "lblErg_m", label, i);
+        put(txtReg_m.at(at), "txtReg_m", field, i);
+        txtReg_m.at(at).rightAligned = true;
+    }
+}
+
+void MainForm::dressMenus() {
+    struct Entry {
+        Control& control;
+        std::string_view name;
+        std::string_view menu;
+        std::string_view caption;
+    };
+    const Entry entries[] = {
+        {mnuFile, "mnuFile", "", "&File"},
+        {mnuTip, "mnuTip", "mnuFile", "&Show Tip of the Day"},
+        {mnuAOT, "mnuAOT", "mnuFile", "Always on &Top"},
+        {mnuLoad, "mnuLoad", "mnuFile", "Always Load &Default Program"},
+        {mnuPosition, "mnuPosition", "mnuFile", "Save &Window Position"},
+        {mnuSkins, "mnuSkins", "mnuFile", "View Skins"},
+        {space6, "space6", "mnuFile", "-"},
+        {mnuCopy, "mnuCopy", "mnuFile", "&Copy x-reg to Clipboard"},
+        {mnuPaste, "mnuPaste", "mnuFile", "&Paste to x-reg from Clipboard"},
+        {mnuPrint, "mnuPrint", "mnuFile", "&Print the RTD and Stack"},
+        {space4, "space4", "mnuFile", "-"},
+        {mnuWeb, "mnuWeb", "mnuFile", "Oakhollow on the &web"},
+        {mnuVersion, "mnuVersion", "mnuFile", "Check for &latest version"},
+        {space0, "space0", "mnuFile", "-"},
+        {mnuHelp, "mnuHelp", "mnuFile", "&Help"},
+        {mnuHelpIntro, "mnuHelpIntro", "mnuHelp", "The &Tallyforge"},
+        {mnuHlepStd, "mnuHlepStd", "mnuHelp", "&Standard Kepad"},
+        {mnuEngKp, "mnuEngKp", "mnuHelp", "&Engineering Keypad"},
+        {mnuBKP, "mnuBKP", "mnuHelp", "&Binary Keypad"},
+        {mnuMagKp, "mnuMagKp", "mnuHelp", "&Magnetics Keypad"},
+        {mnuTrigKp, "mnuTrigKp", "mnuHelp", "&Trig Keypad"},
+        {mnuCvrtKp, "mnuCvrtKp", "mnuHelp", "&Convert Keypad"},
+        {mnuHelpSupport, "mnuHelpSupport", "mnuHelp", "Su&pport"},
+        {mnuAbout, "mnuAbout", "mnuFile", "&About"},
+        {Space3, "Space3", "mnuFile", "-"},
+        {mnuSave, "mnuSave", "mnuFile", "&Save Settings"},
+        {mnuSaveTape, "mnuSaveTape", "mnuFile", "Save &Running Tape"},
+        {mnuSaveMem, "mnuSaveMem", "mnuFile", "Save &Memory Registers"},
+        {space2, "space2", "mnuFile", "-"},
+        {mnuTape, "mnuTape", "mnuFile", "Retrieve Running &Tape"},
+        {mnuRetMem, "mnuRetMem", "mnuFile", "Retrieve Memory Re&gisters"},
+        {mnuProgram, "mnuProgram", "mnuFile", "R&etrieve Program"},
+        {space5, "space5", "mnuFile", "-"},
+        {mnuFileExit, "mnuFileExit", "mnuFile", "E&xit"},
+        {mnuKeypad, "mnuKeypad", "", "&Keypad"},
+        {mnuStd, "mnuStd", "mnuKeypad", "&Std"},
+        {mnuEngNormal, "mnuEngNormal", "mnuKeypad", "&Engr'g"},
+        {mnuEngBinary, "mnuEngBinary", "mnuKeypad", "&Binary"},
+        {mnuMag, "mnuMag", "mnuKeypad", "&Magnetics"},
+        {mnuTrig, "mnuTrig", "mnuKeypad", "&Trig"},
+        {mnuConvert, "mnuConvert", "mnuKeypad", "Co&nvert"},
+    };
+    for (const Entry& entry : entries) {
+        const bool holds = &entry.control == &mnuFile || &entry.control == &mnuKeypad || &entry.control == &mnuHelp;
+        const ControlKind kind = holds                  ? ControlKind::Menu
+                                 : entry.caption == "-" ? ControlKind::Separator
+                                                        : ControlKind::MenuEntry;
+        const Look look{.kind = kind, .text = entry.caption};
+        put(entry.control, entry.name, look);
+        entry.control.menu = entry.menu;
+    }
+    mnuSkins.checked = true;
+}
+
+}  // namespace tallyforge

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Where everything stands. The plain form, top to bottom: name line, tape and stack list, entry
+// line, the bank beside the number pad, the modifier strip. What the tall and the extended view
+// add to the height goes to the lists; the extended view's register column stands on the right.
+#include "engine/main_form.h"
+
+#include <algorithm>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr int kMargin = 120;
+constexpr int kRight = 5190;  ///< right edge of the plain form's contents
+constexpr int kKey = 400;     ///< side of a key
+constexpr int kPitch = 480;   ///< from key to key
+constexpr int kNameTop = 30;
+constexpr int kNameHeight = 210;
+constexpr int kListTop = 250;
+constexpr int kListHeight = 1400;
+constexpr int kStackLeft = 3380;
+constexpr int kMarkLeft = 3236;
+constexpr int kMarkHeight = 175;
+constexpr int kEntryTop = 1700;
+constexpr int kEntryHeight = 450;
+constexpr int kBankTop = 2280;
+constexpr int kBankHeight = 2800;
+constexpr int kPadLeft = 2130;
+constexpr int kPadPitch = 516;
+constexpr int kPadKey = 452;
+
+/// Columns and rows of the bank's keys, by key index.
+struct Cell {
+    int column;
+    int row;
+};
+constexpr std::array<Cell, kBankKeys> kBankCells{{
+    {2, 5}, {1, 5}, {0, 5}, {3, 2}, {3, 1}, {2, 1}, {0, 4}, {0, 3}, {3, 3}, {2, 3}, {1, 3}, {0, 1},
+    {3, 0}, {2, 0}, {1, 0}, {0, 0}, {3, 4}, {2, 4}, {1, 4}, {3, 5}, {2, 2}, {1, 2}, {0, 2}, {1, 1},
+}};
+
+}  // namespace
+
+void MainForm::arrange(bool extended, int extraHeight) {
+    const int extra = std::max(extraHeight, 0);
+    clientHeight_ = kBankTop + kBankHeight + kOptionStrip + extra;
+    placeLists(extended, extra);
+    placeEntry(extended, extra);
+    placeBank(kBankTop + extra);
+    placePad(kBankTop + extra);
+    placeOptions(kBankTop + kBankHeight + extra);
+    placeRegisters();
+}
+
+void MainForm::placeLists(bool extended, int extra) {
+    lblName.place = {.left = 1500, .top = kNameTop, .width = 1700, .height = kNameHeight};
+    lblBank.place = {.left = kMargin, .top = kNameTop, .width = 1380, .height = kNameHeight};
+    lblLists.place = {
+        .left = kStackLeft - 144, .top = kNameTop, .width = kRight - kStackLeft + 144, .height = kNameHeight};
+    // The tape's width is its own: it grows once the filler lines are gone.
+    const int tapeWidth = lstDisplayReg.place.width == 0 ? 2845 : lstDisplayReg.place.width;
+    lstDisplayReg.place = {.left = kMargin, .top = kListTop, .width = tapeWidth, .height = kListHeight + extra};
+    const int stackHeight = kListHeight + (extended ? 0 : extra);
+    lstStack.place = {.left = kStackLeft, .top = kListTop, .width = kRight - kStackLeft, .height = stackHeight};
+    const int rows = static_cast<int>(lblStkReg.size());
+    for (int label = 0; label < rows; ++label) {
+        lblStkReg.at(static_cast<std::size_t>(label)).place = {.left = kMarkLeft,
+                                                               .top = kListTop + (rows - 1 - label) * kMarkHeight,
+                                                               .width = kStackLeft - kMarkLeft,
+                                                               .height = kMarkHeight};
+    }
+}
+
+void MainForm::placeEntry(bool extended, int extra) {
+    const int top = kEntryTop + extra;
+    const bool small = !extended && (txty_Reg.visible || txtLastx.visible);
+    const int left = small ? kPadLeft : kMargin;
+    txtXreg.place = {.left = left, .top = top, .width = kRight - left, .height = kEntryHeight};
+    Label8.place = {.left = kMargin, .top = top, .width = 300, .height = kEntryHeight};
+    constexpr int kLabelWidth = 560;
+    constexpr int kFieldWidth = 1230;
+    constexpr int kFieldHeight = 218;
+    if (extended) {
+        constexpr int kUnderStack = kListTop + kListHeight + 120;
+        Label7.place = {.left = kStackLeft, .top = kUnderStack, .width = kLabelWidth, .height = 260};
+        txty_Reg.place = {.left = kRight - kFieldWidth, .top = kUnderStack, .width = kFieldWidth, .height = 260};
+        Label9.place = {.left = kStackLeft, .top = kUnderStack + 340, .width = kLabelWidth, .height = 260};
+        txtLastx.place = {.left = kRight - kFieldWidth, .top = kUnderStack + 340, .width = kFieldWidth, .height = 260};
+        return;
+    }
+    Label7.place = {.left = kMargin, .top = top, .width = kLabelWidth, .height = kFieldHeight};
+    txty_Reg.place = {.left = kMargin + kLabelWidth, .top = top, .width = kFieldWidth, .height = kFieldHeight};
+    Label9.place = {.left = kMargin, .top = top + 232, .width = kLabelWidth, .height = kFieldHeight};
+    txtLastx.place = {.left = kMargin + kLabelWidth, .top = top + 232, .width = kFieldWidth, .height = kFieldHeight};
+}
+
+void MainForm::placeBank(int top) {
+    for (std::size_t i = 0; i < cmdFunctions.size(); ++i) {
+        const Cell cell = kBankCells.at(i);
+        cmdFunctions.at(i).place = {
+            .left = kMargin + cell.column * kPitch, .top = top + cell.row * kPitch, .width = kKey, .height = kKey};
+    }
+    lblCnvrt.place = {.left = kMargin, .top = top + kBankHeight + 10, .width = 1840, .height = 200};
+}
+
+void MainForm::placePad(int top) {
+    const auto at = [top](Control& control, int column, int row, int columns = 1, int rows = 1) {
+        control.place = {.left = kPadLeft + column * kPadPitch,
+                         .top = top + row * kPitch,
+                         .width = kPadKey + (columns - 1) * kPadPitch,
+                         .height = kKey + (rows - 1) * kPitch};
+    };
+    at(cmdSTO, 0, 0);
+    at(cmdView, 1, 0);
+    at(cmdDigits, 2, 0, 2);
+    at(cmdF11, 4, 0);
+    at(cmdF12, 5, 0);
+    at(cmdDown, 0, 1);
+    at(cmdXchgY, 1, 1);
+    at(cmdChs, 2, 1);
+    at(cmdLastx, 3, 1);
+    at(cmdBackSpace, 4, 1);
+    at(cmdEsc, 5, 1);
+    for (int digit = 1; digit <= 9; ++digit) {
+        at(cmdNumPad.at(static_cast<std::size_t>(digit)), (digit - 1) % 3, 4 - (digit - 1) / 3);
+    }
+    at(cmdNumPad.at(0), 0, 5);
+    at(cmdNumPad.at(10), 1, 5);
+    at(cmdEex, 2, 5);
+    for (std::size_t i = 0; i < cmdMath.size(); ++i) {
+        at(cmdMath.at(i), 3, 2 + static_cast<int>(i));
+    }
+    at(cmdEnter, 4, 4, 2, 2);
+
+    // Format and angle fill the two key places above Enter.
+    constexpr int kOptionHeight = 280;
+    const int left = kPadLeft + 4 * kPadPitch;
+    const int optionTop = top + 2 * kPitch;
+    const auto option = [&](Control& control, int column, int row) {
+        control.place = {.left = left + column * kPadPitch,
+                         .top = optionTop + row * (kOptionHeight + 16),
+                         .width = kPadKey + 40,
+                         .height = kOptionHeight};
+    };
+    Control* const angles[] = {&optDeg, &optRad, &optGrad};
+    for (int i = 0; i < 3; ++i) {
+        option(optFix.at(static_cast<std::size_t>(i)), 0, i);
+        option(*angles[i], 1, i);
+    }
+}
+
+void MainForm::placeOptions(int top) {
+    fraKeyboard.place = {.left = kMargin, .top = top + 60, .width = 4280, .height = kOptionStrip - 120};
+    constexpr int kRowHeight = 180;
+    struct Spot {
+        int left;
+        int row;
+        int width;
+    };
+    constexpr std::array<Spot, 8> kSpots{{{300, 0, 520},
+                                          {1000, 0, 480},
+                                          {300, 1, 900},
+                                          {1620, 0, 440},
+                                          {1280, 1, 860},
+                                          {2200, 1, 800},
+                                          {3000, 1, 1360},
+                                          {0, 0, 0}}};
+    for (std::size_t i = 0; i < kSpots.size(); ++i) {
+        const Spot& spot = kSpots.at(i);
+        optKey.at(i).place = {
+            .left = spot.left, .top = top + 190 + spot.row * kRowHeight, .width = spot.width, .height = kRowHeight};
+    }
+    Control* const lamps[] = {&shaShift, &shaCtrl, &shaAlt};
+    constexpr std::array<int, 3> kLampOf{0, 1, 3};
+    for (std::size_t i = 0; i < kLampOf.size(); ++i) {
+        const Place& option = optKey.at(static_cast<std::size_t>(kLampOf.at(i))).place;
+        lamps[i]->place = {
+            .left = option.left + option.width + 10, .top = option.top + 40, .width = 100, .height = 100};
+    }
+    cmdReset.place = {.left = kPadLeft + 4 * kPadPitch + 240, .top = top + 120, .width = 756, .height = kKey};
+}
+
+void MainForm::placeRegisters() {
+    // Two columns of the array stand in one row of fields each; the first twelve are ever shown.
+    constexpr int kShown = 12;
+    constexpr int kLeft = 5330;
+    const int pitch = (clientHeight_ - kListTop) / kShown;
+    for (int i = 0; i < kRegisters; ++i) {
+        const int row = i % kShown;
+        const int top = kListTop + row * pitch;
+        lblErg_m.at(static_cast<std::size_t>(i)).place = {.left = kLeft, .top = top, .width = 300, .height = 300};
+        txtReg_m.at(static_cast<std::size_t>(i)).place = {
+            .left = kLeft + 320, .top = top, .width = 1430, .height = 300};
+    }
+}
+
+}  // namespace tallyforge

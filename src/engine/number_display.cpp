@@ -1,0 +1,370 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/number_display.h"
+
+#include "engine/engine.h"
+#include "engine/number_format.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr int kWideTape = 3100;       ///< twips, keeps the last column in view beside the scroll bar
+constexpr double kFixedLimit = 1e14;  ///< above it fixed numbers show in scientific form
+constexpr double kScaleUpBelow = 0.999999999999999;
+constexpr int kSmallestByteWord = 9;  ///< word sizes that byte shifts make sense for
+constexpr int kMinWordSize = 4;
+constexpr int kMaxWordSize = 64;
+
+/// How the digits of a base are grouped, and where a line that is too long is broken.
+struct BaseLayout {
+    char letter;
+    int groupSize;
+    int mostBlanks;
+    std::size_t wrapBehind;
+};
+constexpr std::array<BaseLayout, 4> kBaseLayouts{{
+    {.letter = 'b', .groupSize = 8, .mostBlanks = 7, .wrapBehind = 12},
+    {.letter = 'd', .groupSize = 5, .mostBlanks = 4, .wrapBehind = 17},
+    {.letter = 'h', .groupSize = 4, .mostBlanks = 3, .wrapBehind = 13},
+    {.letter = 'o', .groupSize = 3, .mostBlanks = 7, .wrapBehind = 20},
+}};
+
+const BaseLayout* baseLayout(std::string_view tagged) {
+    const char letter = tagged.empty() ? ' ' : tagged.back();
+    const auto* found = std::find_if(kBaseLayouts.begin(), kBaseLayouts.end(),
+                                     [letter](const BaseLayout& layout) { return layout.letter == letter; });
+    return found == kBaseLayouts.end() ? nullptr : found;
+}
+
+/// Blanks between the groups, counted from the right.
+std::string groupFromRight(std::string digits, const BaseLayout& layout) {
+    auto at = static_cast<int>(digits.size()) - layout.groupSize;
+    for (int blanks = 0; at > 0 && blanks < layout.mostBlanks; ++blanks, at -= layout.groupSize) {
+        digits.insert(static_cast<std::size_t>(at), 1, ' ');
+    }
+    return digits;
+}
+
+/// A blank after every third digit behind the point, none at the end.
+std::string groupFraction(std::string_view digits) {
+    std::string grouped;
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i > 0 && i % 3 == 0) {
+            grouped += ' ';
+        }
+        grouped += digits[i];
+    }
+    return grouped;
+}
+
+/// Group marks of a whole part: "," with a decimal point, blanks with a decimal comma, where the
+/// leftmost of four groups takes all that is left.
+std::string groupWhole(std::string_view digits, char decimal) {
+    constexpr std::size_t kMostBlanks = 3;
+    std::string grouped{digits};
+    std::size_t marks = 0;
+    for (auto at = static_cast<int>(digits.size()) - 3; at > 0; at -= 3, ++marks) {
+        if (decimal == ',' && marks == kMostBlanks) {
+            break;
+        }
+        grouped.insert(static_cast<std::size_t>(at), 1, decimal == ',' ? ' ' : ',');
+    }
+    return grouped;
+}
+
+void padRight(std::string& text, std::size_t width) {
+    if (text.size() < width) {
+        text.append(width - text.size(), ' ');
+    }
+}
+
+}  // namespace
+
+void NumberDisplay::DspFmat(ValueCell value) {
+    EngineState& s = calc.s;
+    s.CurrentProc = "DspFmat";
+    if (value.isTagged()) {
+        if (baseLayout(value.textView()) != nullptr) {
+            SetUpDisplay(std::string(value.textView()));
+        } else {
+            tagWithHex(value);
+        }
+        return;
+    }
+    if (value.isEmptyText()) {
+        s.Xreg = s.StackPtr <= 1 ? ValueCell::zero() : s.LastX;
+        value = ValueCell{};
+    }
+    SetUpDisplay(numDisplay(value));
+}
+
+void NumberDisplay::tagWithHex(const ValueCell& value) {
+    EngineState& s = calc.s;
+    const std::string_view digits = value.textView().substr(1);
+    const bool hexDigit =
+        std::any_of(digits.begin(), digits.end(), [](char digit) { return digit >= 'A' && digit <= 'F'; });
+    if (!hexDigit) {
+        calc.message(BoxKind::Stop, "Error!", "Binary indicator (b, d, h, o) required");
+        s.FormatFault = true;
+        return;
+    }
+    const ValueCell tagged{std::string(value.textView()) + "h"};
+    s.Xreg = tagged;
+    s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = tagged;
+    DspFmat(tagged);
+}
+
+std::string NumberDisplay::numDisplay(const ValueCell& value) {
+    EngineState& s = calc.s;
+    s.CurrentProc = "numDisplay";
+    const double number = calc.number(value);
+    const double size = std::abs(number);
+    const auto label = static_cast<int>(s.FnLabel.size());
+    const int trim = std::max(label - 6, 0);
+    DisplayMode mode = s.Mode;
+    int digits = s.DisplayDigits;
+    if (mode == DisplayMode::Fixed &&
+        (size > kFixedLimit || (number != 0.0 && size < 1.0 / std::pow(10.0, s.DisplayDigits)))) {
+        mode = DisplayMode::Scientific;
+    }
+    if (mode == DisplayMode::Fixed) {
+        if (std::exchange(s.ShowRawOnce, false)) {
+            return calc.text(value);
+        }
+        return fixedNumber(number);
+    }
+    s.DmsDisplay = false;
+    if (mode == DisplayMode::Scientific) {
+        if (label > 0 && s.DisplayDigits > 10) {
+            digits = s.DisplayDigits - 2 - trim;
+        }
+        return formatScientific(number, std::max(digits, 0), s.DecimalChar);
+    }
+    if (label > 0 && s.DisplayDigits > 8) {
+        digits = s.DisplayDigits - 4 - trim;
+    }
+    return EngFormat(number, std::max(digits, 0), s.DecimalChar);
+}
+
+std::string NumberDisplay::fixedNumber(double value) const {
+    EngineState& s = calc.s;
+    const std::string plain = fixedText(value, s.DisplayDigits);
+    const std::string_view all{plain};
+    const std::string sign{all.starts_with('-') ? "-" : ""};
+    const auto point = all.find('.');
+    const std::string_view whole = all.substr(sign.size(), point == all.npos ? all.npos : point - sign.size());
+    const std::string_view fraction = point == all.npos ? std::string_view{} : all.substr(point + 1);
+    const std::string head = sign + groupWhole(whole, s.DecimalChar);
+    if (std::exchange(s.DmsDisplay, false)) {
+        const double minutes = readNumber("0." + std::string(fraction) + "0", '.');
+        return head + ":" + formatPattern(minutes, "0.00 00.0", s.DecimalChar).substr(2);
+    }
+    return fraction.empty() ? head : head + s.DecimalChar + groupFraction(fraction);
+}
+
+std::string NumberDisplay::EngFormat(double value, int digits, char decimal) {
+    int thousands = 0;
+    if (value != 0.0) {
+        for (; std::abs(value) >= 1000.0; ++thousands) {
+            value /= 1000.0;
+        }
+        for (; std::abs(value) < kScaleUpBelow; --thousands) {
+            value *= 1000.0;
+        }
+    }
+    std::string text = formatPattern(value, "0." + std::string(static_cast<std::size_t>(digits), '0'), decimal);
+    const int exponent = 3 * thousands;
+    text += exponent < 0 ? "e-" : "e+";
+    if (std::abs(exponent) < 10) {
+        text += '0';
+    }
+    return text + std::to_string(std::abs(exponent));
+}
+
+void NumberDisplay::SetUpDisplay(std::string text) {
+    EngineState& s = calc.s;
+    s.CurrentProc = "SetUpDisplay";
+    if (!calc.dialogOpen) {
+        calc.focusEntry();
+    }
+    if (text.starts_with('#') && baseLayout(text) != nullptr) {
+        setUpBaseNumber(text);
+        return;
+    }
+    if (s.FnLabel.empty()) {
+        Add2Display(text);
+        return;
+    }
+    std::string label = s.FnLabel;
+    constexpr std::size_t kLongValue = 20;
+    if (label.size() < 2 || text.size() < kLongValue) {
+        padRight(label, kTapeWidth - std::min(text.size(), kTapeWidth));
+        Add2Display(label + text);
+        return;
+    }
+    Add2Display(text);
+    DisplayChg();
+    padRight(label, kTapeWidth);
+    Add2Display(label);
+}
+
+void NumberDisplay::setUpBaseNumber(std::string_view text) {
+    EngineState& s = calc.s;
+    const BaseLayout& layout = *baseLayout(text);
+    std::string digits{text.substr(1, text.size() - 2)};
+    if (s.WordSize != kMaxWordSize && calc.cutToWord) {
+        digits = calc.cutToWord(digits, layout.letter, s.WordSize);
+    }
+    if (digits.empty()) {
+        digits = "0";
+    }
+    s.Xreg = "#" + digits + layout.letter;
+    s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = s.Xreg;
+
+    std::string shown = "#" + groupFromRight(digits, layout) + layout.letter;
+    std::string label = s.FnLabel;
+    std::size_t length = shown.size() + (label.empty() ? 0 : label.size() + 1);
+    while (length > kTapeWidth) {
+        const auto blank = shown.find(' ', layout.wrapBehind);
+        if (blank == std::string::npos) {
+            break;
+        }
+        Add2Display(shown.substr(0, blank + 1));
+        DisplayChg();
+        shown.erase(0, blank + 1);
+        length = shown.size();
+    }
+    if (!label.empty()) {
+        padRight(label, kTapeWidth - std::min(shown.size(), kTapeWidth));
+    }
+    Add2Display(label + shown);
+}
+
+void NumberDisplay::Add2Display(std::string_view text) {
+    calc.s.CurrentProc = "Add2Display";
+    calc.tape.add(text, calc.s.Xreg);
+    calc.stackList.refresh();
+    calc.s.FnLabel.clear();
+}
+
+void NumberDisplay::DisplayChg() {
+    calc.s.CurrentProc = "DisplayChg";
+    if (!calc.tape.dropFiller()) {
+        calc.form.lstDisplayReg.place.width = kWideTape;
+    }
+}
+
+void NumberDisplay::SaveDisplay(int digits) {
+    EngineState& s = calc.s;
+    s.CurrentProc = "SaveDisplay";
+    s.SavedMode = s.Mode;
+    s.SavedDigits = s.DisplayDigits;
+    s.DisplaySaved = true;
+    optFix_Click(DisplayMode::Fixed);
+    s.DisplayDigits = digits;
+}
+
+void NumberDisplay::RestoreDisplay() {
+    EngineState& s = calc.s;
+    if (!std::exchange(s.DisplaySaved, false)) {
+        return;
+    }
+    s.DisplayDigits = s.SavedDigits;
+    optFix_Click(s.SavedMode);
+    writeDigitsCaption();
+    calc.form.cmdChs.text = "C&HS";
+    calc.form.cmdChs.tip = R"( Chg Sign - use \ key )";
+    calc.form.cmdChs.enabled = true;
+    calc.focusEntry();
+    for (const std::size_t key : {3U, 20U, 8U, 9U}) {
+        calc.form.cmdFunctions.at(key).enabled = true;
+    }
+}
+
+void NumberDisplay::writeDigitsCaption() {
+    const EngineState& s = calc.s;
+    Control& key = calc.form.cmdDigits;
+    key.text =
+        s.BaseMode ? "wrdsze(" + std::to_string(s.WordSize) + ")" : "Display(" + std::to_string(s.DisplayDigits) + ")";
+    key.tip = " Click: Change Display Digits | Rt. Click: Toggle Ht ";
+}
+
+void NumberDisplay::optFix_Click(DisplayMode mode) {
+    calc.s.Mode = mode;
+    for (std::size_t i = 0; i < calc.form.optFix.size(); ++i) {
+        calc.form.optFix.at(i).checked = i == static_cast<std::size_t>(mode);
+    }
+    if (calc.s.FormActive) {
+        calc.focusEntry();
+    }
+}
+
+void NumberDisplay::cmdDigits_Click() {
+    EngineState& s = calc.s;
+    if (s.ModifierMask != 0) {
+        s.ModifierMask = 0;
+        return;
+    }
+    s.CurrentProc = "cmdDigits_Click";
+    const bool fromStack = calc.entryText().empty();
+    if (fromStack && s.StackPtr <= 1) {
+        calc.message(BoxKind::Stop, "Nothing to do!", "Please enter a number.");
+        calc.focusEntry();
+        return;
+    }
+    const auto report = [&](const Failure& failure) {
+        calc.reportIn("cmdDigits_Click", failure.code(), description(failure.number()));
+    };
+    double wanted = 0.0;
+    const bool read = goOn(report, [&] {
+        wanted = roundHalfEven(calc.number(fromStack ? s.slot(s.StackPtr - 1) : ValueCell{calc.entryText()}), 0);
+    });
+    calc.setEntry({});
+    calc.focusEntry();
+    s.EntryOpen = false;
+    s.EexActive = false;
+    if (!read || !(s.BaseMode ? setWordSize(wanted) : setDigits(wanted)) || !fromStack) {
+        return;
+    }
+    // The number was used up as the key's operand.
+    s.StackPtr -= 1;
+    if (s.depth() > 0) {
+        s.Xreg = s.slot(s.StackPtr - 1);
+        s.Yreg = s.slot(s.StackPtr - 2);
+        calc.commit.ShowSmallRegs();
+    }
+    calc.stackList.refresh();
+}
+
+bool NumberDisplay::setWordSize(double bits) {
+    EngineState& s = calc.s;
+    if (bits < kMinWordSize || bits > kMaxWordSize) {
+        calc.message(BoxKind::Stop, "Out of Range!", "4 to 64 only for this function");
+        return false;
+    }
+    s.WordSize = static_cast<int>(bits);
+    writeDigitsCaption();
+    for (const std::size_t key : {3U, 20U, 8U, 9U}) {
+        calc.form.cmdFunctions.at(key).enabled = s.WordSize >= kSmallestByteWord;
+    }
+    return true;
+}
+
+bool NumberDisplay::setDigits(double digits) {
+    EngineState& s = calc.s;
+    if (digits < 0 || digits > kMaxDisplayDigits) {
+        calc.message(BoxKind::Stop, "Out of Range!", "0 to 12 only for this function");
+        return false;
+    }
+    s.DisplayDigits = static_cast<int>(digits);
+    s.SavedDigits = s.DisplayDigits;
+    writeDigitsCaption();
+    return true;
+}
+
+}  // namespace tallyforge

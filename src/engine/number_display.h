@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// From a value to lines of the tape: three modes of a plain number, numbers of a base in groups,
+// and the label that a line carries.
+#pragma once
+
+#include "engine/engine_state.h"
+#include "engine/value_cell.h"
+
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+class Engine;
+
+class NumberDisplay {
+public:
+    explicit NumberDisplay(Engine& calculator) : calc(calculator) {}
+
+    /// Writes `value` to the tape. A number of a base without its letter gets "h" where it has a
+    /// hex digit; without one FormatFault is set after a message. Raises 13 and 6 for a text that
+    /// is no number.
+    void DspFmat(ValueCell value);
+
+    /// `value` in the user's format (mode, digits, room for FnLabel). Raises 13 and 6.
+    [[nodiscard]] std::string numDisplay(const ValueCell& value);
+
+    /// Engineering notation with `digits` digits behind the point: "12.345e+03".
+    [[nodiscard]] static std::string EngFormat(double value, int digits, char decimal);
+
+    /// Joins `text` with FnLabel and writes the line or lines.
+    void SetUpDisplay(std::string text);
+
+    /// Appends one line and redraws the stack list. Empties FnLabel.
+    void Add2Display(std::string_view text);
+    /// Makes room for a line: one filler less, or a wider list when none is left.
+    void DisplayChg();
+
+    /// Remembers the format and switches to fixed with `digits` digits.
+    void SaveDisplay(int digits);
+    /// Returns to the remembered format.
+    void RestoreDisplay();
+
+    void cmdDigits_Click();
+    void optFix_Click(DisplayMode mode);
+
+    /// Caption and tool tip of the digits key for the present format.
+    void writeDigitsCaption();
+
+private:
+    [[nodiscard]] std::string fixedNumber(double value) const;
+    void tagWithHex(const ValueCell& value);
+    void setUpBaseNumber(std::string_view text);
+    bool setWordSize(double bits);
+    bool setDigits(double digits);
+
+    Engine& calc;
+};
+
+}  // namespace tallyforge

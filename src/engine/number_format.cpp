@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/number_format.h"
+
+#include "engine/decimal_digits.h"
+#include "engine/failure.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace tallyforge {
+
+namespace {
+
+enum class Reading { Number, NoNumber, TooLarge };
+
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+std::string_view withoutBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    return first == text.npos ? std::string_view{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// Length of the run of digits at the head of `text`.
+std::size_t digitRun(std::string_view text) {
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isDigit) - text.begin());
+}
+
+/// True where `text` is an exponent as a whole: "e", sign, digits. An empty text is one, too.
+bool isExponent(std::string_view text) {
+    if (text.empty()) {
+        return true;
+    }
+    if (text.front() != 'e' && text.front() != 'E') {
+        return false;
+    }
+    text.remove_prefix(1);
+    if (!text.empty() && (text.front() == '+' || text.front() == '-')) {
+        text.remove_prefix(1);
+    }
+    return !text.empty() && digitRun(text) == text.size();
+}
+
+Reading scan(std::string_view text, char decimal, double& value) {
+    text = withoutBlanks(text);
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+        if (text.starts_with('-')) {
+            return Reading::NoNumber;
+        }
+    }
+    std::string_view rest = text.starts_with('-') ? text.substr(1) : text;
+    const std::size_t whole = digitRun(rest);
+    rest.remove_prefix(whole);
+    std::size_t fraction = 0;
+    const bool hasPoint = rest.starts_with(decimal);
+    if (hasPoint) {
+        rest.remove_prefix(1);
+        fraction = digitRun(rest);
+        rest.remove_prefix(fraction);
+    }
+    if (whole + fraction == 0 || !isExponent(rest)) {
+        return Reading::NoNumber;
+    }
+    std::string plain;
+    if (hasPoint && decimal != '.') {
+        plain = text;
+        std::replace(plain.begin(), plain.end(), decimal, '.');
+        text = plain;
+    }
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        // Too large and too small look alike here; a number too small reads as 0.
+        const double rough = std::strtod(std::string(text).c_str(), nullptr);
+        if (std::abs(rough) > 1.0) {
+            return Reading::TooLarge;
+        }
+        value = rough;
+    }
+    return Reading::Number;
+}
+
+void appendExponent(std::string& out, int exponent) {
+    out += exponent < 0 ? "e-" : "e+";
+    const int size = std::abs(exponent);
+    if (size < 10) {
+        out += '0';
+    }
+    out += std::to_string(size);
+}
+
+/// A number pattern taken apart at its point.
+struct Pattern {
+    std::string_view whole;
+    std::string_view fraction;
+    bool hasPoint = false;
+    bool scientific = false;
+};
+
+Pattern takeApart(std::string_view pattern) {
+    Pattern parts;
+    constexpr std::string_view kExponent = "e+00";
+    if (pattern.ends_with(kExponent)) {
+        parts.scientific = true;
+        pattern.remove_suffix(kExponent.size());
+    }
+    const auto point = pattern.find('.');
+    parts.whole = pattern.substr(0, point);
+    parts.hasPoint = point != pattern.npos;
+    if (parts.hasPoint) {
+        parts.fraction = pattern.substr(point + 1);
+    }
+    return parts;
+}
+
+int placesIn(std::string_view text) {
+    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char c) { return c == '0' || c == '#'; }));
+}
+
+/// The whole part, written from its last digit leftwards.
+std::string wholePart(const DecimalDigits& number, std::string_view pattern) {
+    const bool grouped = pattern.find(',') != pattern.npos;
+    const auto firstPlace = pattern.find_first_of("0#");
+    std::string reversed;
+    int place = 0;
+    const int top = number.zero() ? -1 : number.exponent();
+    const auto put = [&] {
+        if (grouped && place > 0 && place % 3 == 0) {
+            reversed += ',';
+        }
+        reversed += number.digitAt(place++);
+    };
+    for (std::size_t at = pattern.size(); at-- > 0;) {
+        const char mark = pattern[at];
+        if (mark == '0' || (mark == '#' && place <= top)) {
+            put();
+        } else if (mark != '#' && mark != ',' && (at < firstPlace || place <= top)) {
+            if (at < firstPlace) {
+                break;
+            }
+            reversed += mark;
+        }
+    }
+    while (place <= top) {
+        put();
+    }
+    if (number.negative()) {
+        reversed += '-';
+    }
+    std::string text{pattern.substr(0, std::min(firstPlace, pattern.size()))};
+    return text.append(reversed.rbegin(), reversed.rend());
+}
+
+std::string fractionPart(const DecimalDigits& number, std::string_view pattern) {
+    std::string text;
+    int place = -1;
+    const int last = number.exponent() - static_cast<int>(number.digits().size()) + 1;
+    for (const char mark : pattern) {
+        if (mark == '0' || (mark == '#' && !number.zero() && place >= last)) {
+            text += number.digitAt(place--);
+        } else if (mark != '#') {
+            text += mark;
+        }
+    }
+    return text;
+}
+
+}  // namespace
+
+double readNumber(std::string_view text, char decimal) {
+    double value = 0.0;
+    switch (scan(text, decimal, value)) {
+        case Reading::NoNumber:
+            throw Failure{FailureNumber::TypeMismatch};
+        case Reading::TooLarge:
+            throw Failure{FailureNumber::Overflow};
+        case Reading::Number:
+            break;
+    }
+    return value;
+}
+
+std::optional<double> tryReadNumber(std::string_view text, char decimal) {
+    double value = 0.0;
+    return scan(text, decimal, value) == Reading::Number ? std::optional{value} : std::nullopt;
+}
+
+std::string plainText(double value, char decimal) {
+    if (value == 0.0) {
+        return "0";
+    }
+    std::array<char, 40> text{};
+    const auto result =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, kTextDigits);
+    std::string out(text.data(), result.ptr);
+    for (char& character : out) {
+        if (character == '.') {
+            character = decimal;
+        } else if (character == 'e') {
+            character = 'E';
+        }
+    }
+    return out;
+}
+
+double roundHalfEven(double value, int places) {
+    DecimalDigits digits{value};
+    const auto before = digits.digits().size();
+    digits.roundTo(places);
+    // A number that has no more places than asked for keeps its exact value.
+    return digits.digits().size() == before && !digits.zero() ? value : digits.value();
+}
+
+std::string fixedText(double value, int places) {
+    DecimalDigits digits{value};
+    digits.roundTo(places);
+    std::string text;
+    if (digits.negative()) {
+        text += '-';
+    }
+    for (int place = std::max(digits.zero() ? 0 : digits.exponent(), 0); place >= 0; --place) {
+        text += digits.digitAt(place);
+    }
+    if (places > 0) {
+        text += '.';
+        for (int place = -1; place >= -places; --place) {
+            text += digits.digitAt(place);
+        }
+    }
+    return text;
+}
+
+std::string formatPattern(double value, std::string_view pattern, char decimal) {
+    const Pattern parts = takeApart(pattern);
+    DecimalDigits digits{value};
+    int exponent = 0;
+    const int places = placesIn(parts.fraction);
+    if (parts.scientific) {
+        digits.roundToDigits(1 + places);
+        exponent = digits.exponent();
+        digits.scaleToUnits();
+    } else {
+        digits.roundTo(places);
+    }
+    std::string text = wholePart(digits, parts.whole);
+    if (parts.hasPoint) {
+        text += decimal;
+        text += fractionPart(digits, parts.fraction);
+    }
+    if (parts.scientific) {
+        appendExponent(text, exponent);
+    }
+    return text;
+}
+
+std::string formatScientific(double value, int digits, char decimal) {
+    DecimalDigits number{value};
+    number.roundToDigits(1 + digits);
+    std::string text;
+    text.reserve(static_cast<std::size_t>(digits) + 8);
+    if (number.negative()) {
+        text += '-';
+    }
+    text += number.digitAt(number.exponent());
+    text += decimal;
+    for (int place = 1; place <= digits; ++place) {
+        text += number.digitAt(number.exponent() - place);
+    }
+    appendExponent(text, number.exponent());
+    return text;
+}
+
+}  // namespace tallyforge

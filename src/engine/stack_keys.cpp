@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/stack_keys.h"
+
+#include "engine/engine.h"
+#include "engine/number_format.h"
+
+#include <string>
+#include <utility>
+
+namespace tallyforge {
+
+bool StackKeys::modifierActive() {
+    if (calc.s.ModifierMask == 0) {
+        return false;
+    }
+    calc.focusEntry();
+    return true;
+}
+
+// X may be empty after a function that left nothing; the element on the stack is the number.
+void StackKeys::takeTop() {
+    EngineState& s = calc.s;
+    if (s.depth() > 0) {
+        s.Xreg = s.slot(s.StackPtr - 1);
+        s.Yreg = s.slot(s.StackPtr - 2);
+    }
+}
+
+void StackKeys::pushWithLabel(const char* label) {
+    calc.s.EntryOpen = true;
+    calc.s.ValueInXreg = true;
+    calc.s.FnLabel = label;
+    calc.commit.cmdEnter_Click();
+}
+
+void StackKeys::cmdDown_Click() {
+    EngineState& s = calc.s;
+    if (modifierActive()) {
+        return;
+    }
+    if (s.StackPtr < 2) {
+        calc.focusEntry();
+        return;
+    }
+    takeTop();
+    s.StackPtr -= 2;
+    s.LastX = s.Xreg;
+    s.Xreg = s.slot(s.StackPtr);
+    pushWithLabel("Drop");
+}
+
+void StackKeys::cmdXchgY_Click() {
+    EngineState& s = calc.s;
+    if (modifierActive()) {
+        return;
+    }
+    if (!calc.entryText().empty()) {
+        calc.commit.cmdEnter_Click();
+    }
+    if (s.depth() == 0) {
+        calc.focusEntry();
+        return;
+    }
+    takeTop();
+    if (s.depth() == 1) {
+        // The missing element is a 0 that becomes the top, so that no number goes below the stack.
+        s.Xreg = ValueCell::zero();
+    } else {
+        s.StackPtr -= 1;
+        s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = s.Xreg;
+        s.Xreg = s.Yreg;
+    }
+    pushWithLabel("x<>y");
+}
+
+void StackKeys::cmdLastx_Click() {
+    EngineState& s = calc.s;
+    if (modifierActive()) {
+        return;
+    }
+    const bool typing = !calc.entryText().empty();
+    s.KeepEntryText = true;
+    s.Xreg = s.LastX;
+    pushWithLabel("Lastx");
+    // What was typed is still an open entry, so that the next digit goes on with it.
+    s.EntryOpen = typing;
+    s.EexActive = typing && calc.entryText().find('e') != std::string::npos;
+    if (!typing) {
+        calc.setEntry({});
+    }
+}
+
+void StackKeys::cmdChs_Click() {
+    EngineState& s = calc.s;
+    if (modifierActive()) {
+        return;
+    }
+    if (s.BaseMode) {
+        remainder();
+    } else if (s.EexActive) {
+        changeSignOfExponent();
+    } else if (calc.entryText().empty()) {
+        changeSignOfX();
+    } else {
+        changeSignOfEntry();
+    }
+}
+
+void StackKeys::remainder() {
+    EngineState& s = calc.s;
+    if (!calc.entryText().empty()) {
+        calc.commit.cmdEnter_Click();
+    }
+    s.Xreg = s.BaseRemainder.empty() ? "0" : s.BaseRemainder;
+    pushWithLabel("Mod");
+}
+
+void StackKeys::changeSignOfX() {
+    EngineState& s = calc.s;
+    s.EntryOpen = false;
+    takeTop();
+    s.CurrentProc = "cmdChs";
+    const auto report = [&](const Failure& failure) {
+        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
+    };
+    double value = 0.0;
+    if (!goOn(report, [&] { value = calc.xNumber(); })) {
+        return;
+    }
+    s.LastX = s.Xreg;
+    // Not by way of the text, which has fewer digits than the number.
+    s.Xreg = 0.0 - value;
+    s.ValueInXreg = true;
+    s.FnLabel = "CHS";
+    calc.commit.cmdEnter_Click();
+}
+
+void StackKeys::changeSignOfEntry() {
+    const char decimal = calc.s.DecimalChar;
+    const std::string typed = calc.entryText();
+    const auto value = tryReadNumber(typed, decimal);
+    if (value) {
+        std::string changed = plainText(0.0 - *value, decimal);
+        if (tryReadNumber(changed, decimal) != 0.0 - *value) {
+            // More digits were typed than a number's text has: none of them may be lost.
+            changed = typed.starts_with('-') ? typed.substr(1) : "-" + typed;
+        }
+        calc.setEntry(changed);
+    }
+    calc.focusEntry();
+}
+
+void StackKeys::changeSignOfExponent() {
+    const std::string typed = calc.entryText();
+    const auto at = typed.find('e');
+    if (at != std::string::npos) {
+        const std::string mantissa = typed.substr(0, at);
+        std::string exponent = typed.substr(at + 1);
+        if (exponent.starts_with('-')) {
+            exponent.erase(0, 1);
+        } else {
+            exponent.insert(0, 1, '-');
+        }
+        calc.setEntry(mantissa + "e" + exponent);
+    }
+    calc.focusEntry();
+}
+
+}  // namespace tallyforge

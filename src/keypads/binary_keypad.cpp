@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The Binary keypad, a row a key.
+
+#include "keypads/keypad_table.h"
+
+namespace tallyforge {
+
+const KeypadTable kBinaryKeypad{
+    .id = Keypad::Binary,
+    .name = "Binary",
+    .rows = {{
+        {.key = 0,
+         .caption = "C-o",
+         .tip = " [Click] 'C' for Hex number | [Shift+] octal base ",
+         .under = {.shift = "o"},
+         .helpTopic = 2000},
+        {.key = 1,
+         .caption = "B-h",
+         .tip = " [Click] 'B' for Hex number | [Shift+] hex base ",
+         .under = {.shift = "h"},
+         .helpTopic = 2001},
+        {.key = 2,
+         .caption = "A-d",
+         .tip = " [Click] 'A' for Hex number | [Shift+] decimal base ",
+         .under = {.shift = "d"},
+         .helpTopic = 2002},
+        {.key = 3, .caption = "rRB", .tip = " Performs a 1 byte right rotate ", .helpTopic = 2003},
+        {.key = 4, .caption = "NOT", .tip = " Returns logical NOT of the x register ", .helpTopic = 2004},
+        {.key = 5, .caption = "XOR", .tip = " Returns logical NOT between x and y registers ", .helpTopic = 2005},
+        {.key = 6,
+         .caption = "R:B",
+         .tip = " Converts real number: to binary [Click] | to hex [Shift+] | to octal [Ctrl+] | to decimal [Alt+] // "
+                "OR Binary number to real [Click] ",
+         .under = {.shift = "R:h", .ctrl = "R:o", .alt = "R:d"},
+         .helpTopic = 2006},
+        {.key = 7, .caption = "sL", .tip = " Performs a 1 bit shift left ", .helpTopic = 2007},
+        {.key = 8, .caption = "sRB", .tip = " Performs a 1 byte shift right ", .helpTopic = 2008},
+        {.key = 9, .caption = "sLB", .tip = " Performs a 1 byte shift left ", .helpTopic = 2009},
+        {.key = 10, .caption = "sR", .tip = " Performs a 1 bit shift right ", .helpTopic = 2010},
+        {.key = 11, .caption = "AND", .tip = " Returns logical AND between y and x registers ", .helpTopic = 2011},
+        {.key = 12,
+         .caption = "bin",
+         .tip = " Sets the displayed number to the binary number system ",
+         .helpTopic = 2012},
+        {.key = 13,
+         .caption = "oct",
+         .tip = " Sets the displayed number to the octal number system ",
+         .helpTopic = 2013},
+        {.key = 14,
+         .caption = "hex",
+         .tip = " Sets the displayed number to the hexidecimal number system, use caps to input hex numbers! ",
+         .helpTopic = 2014},
+        {.key = 15,
+         .caption = "dec",
+         .tip = " sets the displayed number to the decimal number system ",
+         .helpTopic = 2015},
+        {.key = 16,
+         .caption = "E-#",
+         .tip = " [Click] 'E' for Hex number | [Shift+] Binary delimiter ",
+         .under = {.shift = "#"},
+         .helpTopic = 2016},
+        {.key = 17, .caption = "F", .tip = " [Click] 'F' for Hex number ", .helpTopic = 2017},
+        {.key = 18, .caption = "ASR", .tip = " Performs a 1 bit arithmetic right shift ", .helpTopic = 2018},
+        {.key = 19,
+         .caption = "D-b",
+         .tip = " [Click] 'D' for Hex number | [Shift+] binary base ",
+         .under = {.shift = "b"},
+         .helpTopic = 2019},
+        {.key = 20, .caption = "rLB", .tip = " Performs a 1 byte left rotate ", .helpTopic = 2020},
+        {.key = 21, .caption = "rR", .tip = " Performs a 1 bit right rotate ", .helpTopic = 2021},
+        {.key = 22, .caption = "rL", .tip = " Performs a 1 bit left rotate ", .helpTopic = 2022},
+        {.key = 23, .caption = "OR", .tip = " Returns Logical OR between x and y registers ", .helpTopic = 2023},
+    }},
+};
+
+}  // namespace tallyforge

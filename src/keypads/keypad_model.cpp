@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keypads/keypad_model.h"
+
+#include "engine/engine.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr std::size_t kLongestHistory = 7;
+
+/// Writes what differs only: a renderer then sees only what changed.
+template <typename Held, typename Wanted>
+void assign(Held& held, const Wanted& wanted) {
+    if (held != wanted) {
+        held = wanted;
+    }
+}
+
+void look(Control& key, const KeyCaption& caption, std::string_view tip, KeyColour colour) {
+    assign(key.text, caption.text);
+    assign(key.tip, tip);
+    key.font.face = caption.face;
+    key.font.points = caption.points;
+    key.font.bold = false;
+    key.colour = colour;
+    key.visible = true;
+}
+
+}  // namespace
+
+KeypadModel::KeypadModel(Engine& calculator) : calc(calculator) {}
+
+void KeypadModel::show(Keypad keypad) {
+    setUp(keypad);
+    remember(keypad);
+    showHint(keypad);
+}
+
+void KeypadModel::setUp(Keypad keypad) {
+    EngineState& s = calc.s;
+    s.TablesShown = false;
+    calc.form.cmdF11.enabled = true;
+    calc.form.cmdF12.enabled = true;
+    s.ActiveKeypad = keypad;
+    if (s.BaseMode && keypad != Keypad::Binary) {
+        leaveBinary();
+    } else if (!s.BaseMode && keypad == Keypad::Binary) {
+        enterBinary();
+    }
+    const bool convert = keypad == Keypad::Convert;
+    calc.form.lblCnvrt.visible = convert;
+    if (convert) {
+        calc.form.lblCnvrt.text = "Use Alt Click to save Cnv. Fctr.";
+        calc.form.lblCnvrt.tip = " Conversion Factor saved to Reg 2 ";
+        calc.form.lblCnvrt.font.points = 8.0F;
+    }
+    const KeypadTable& table = keypadTable(keypad);
+    assign(calc.form.lblBank.text, table.name);
+    for (const KeyRow& row : table.rows) {
+        look(calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key)), row.caption, row.tip, row.colour);
+    }
+    tickMenu(keypad);
+    s.TablesShown = keypad == Keypad::Tables;
+}
+
+void KeypadModel::enterBinary() {
+    EngineState& s = calc.s;
+    s.BaseMode = true;
+    calc.display.SaveDisplay(0);
+    calc.display.writeDigitsCaption();
+    calc.form.cmdDigits.tip = " Change Word Size (4 - 64) ";
+    calc.form.cmdChs.text = "Mod";
+    calc.form.cmdChs.tip = " Recall last Remainder ";
+}
+
+void KeypadModel::leaveBinary() {
+    calc.s.BaseMode = false;
+    calc.display.RestoreDisplay();
+    calc.display.writeDigitsCaption();
+}
+
+void KeypadModel::repaint() {
+    EngineState& s = calc.s;
+    if (s.MemoryArrayMode) {
+        paintRegisterNames();
+    } else if (!s.ProgramMode) {
+        setUp(s.ActiveKeypad);
+    }
+}
+
+void KeypadModel::paint(std::uint8_t mask) {
+    const KeypadTable& table = keypadTable(calc.s.ActiveKeypad);
+    if (!table.paintsUnderModifiers) {
+        return;
+    }
+    if (mask == 0) {
+        repaint();
+        return;
+    }
+    for (const KeyRow& row : table.rows) {
+        Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
+        const KeyCaption& caption = row.common ? row.caption : row.under.at(mask);
+        if (caption.text.empty()) {
+            key.visible = false;
+        } else {
+            look(key, caption, row.tip, row.colour);
+        }
+    }
+}
+
+void KeypadModel::paintRegisterNames() {
+    for (std::size_t i = 0; i < calc.form.cmdFunctions.size(); ++i) {
+        const KeyCaption caption{calc.s.RegisterNames.at(i), Face::SmallFonts, 7.0F};
+        look(calc.form.cmdFunctions.at(i), caption, " Click: recall | Shift+: save | Ctrl+: name ", KeyColour::Plain);
+    }
+}
+
+void KeypadModel::step(int direction) {
+    const auto tables = keypadTables();
+    const auto* const present = &keypadTable(calc.s.ActiveKeypad);
+    const auto at = std::find(tables.begin(), tables.end(), present) - tables.begin();
+    const auto count = static_cast<std::ptrdiff_t>(tables.size());
+    show(tables[static_cast<std::size_t>((at + direction + count) % count)]->id);
+    calc.s.SkipModifierRelease = true;
+}
+
+void KeypadModel::next() {
+    step(1);
+}
+
+void KeypadModel::previous() {
+    step(-1);
+}
+
+void KeypadModel::remember(Keypad keypad) {
+    if (!history_.empty() && history_.front() == keypad) {
+        return;
+    }
+    history_.insert(history_.begin(), keypad);
+    if (history_.size() > kLongestHistory) {
+        history_.pop_back();
+    }
+}
+
+void KeypadModel::rotateHistory(bool back) {
+    if (history_.size() < 2) {
+        return;
+    }
+    const auto pivot = back ? history_.begin() + 1 : history_.end() - 1;
+    std::rotate(history_.begin(), pivot, history_.end());
+    setUp(history_.front());
+    calc.s.SkipModifierRelease = true;
+}
+
+void KeypadModel::historyBack() {
+    rotateHistory(true);
+}
+
+void KeypadModel::historyForward() {
+    rotateHistory(false);
+}
+
+void KeypadModel::tickMenu(Keypad keypad) {
+    struct Entry {
+        Control& control;
+        Keypad keypad;
+    };
+    const std::array<Entry, 6> entries{{{calc.form.mnuStd, Keypad::Standard},
+                                        {calc.form.mnuEngNormal, Keypad::Engineering},
+                                        {calc.form.mnuEngBinary, Keypad::Binary},
+                                        {calc.form.mnuMag, Keypad::Magnetics},
+                                        {calc.form.mnuTrig, Keypad::Trigonometry},
+                                        {calc.form.mnuConvert, Keypad::Convert}}};
+    for (const Entry& entry : entries) {
+        entry.control.checked = entry.keypad == keypad;
+    }
+}
+
+void KeypadModel::showHint(Keypad keypad) {
+    if (keypad != Keypad::Engineering && keypad != Keypad::Magnetics) {
+        return;
+    }
+    bool& hinted = hinted_[keypad == Keypad::Magnetics ? 1 : 0];
+    if (hinted || !hintDue || !hintDue(keypad)) {
+        return;
+    }
+    hinted = true;
+    calc.message(BoxKind::Plain, std::string(keypadTable(keypad).name) + " Keypad",
+                 "Right click any of the light colored Buttons to\nchange the units used for that function, and "
+                 "the\nyellow buttons perform multiple calculations!");
+}
+
+}  // namespace tallyforge

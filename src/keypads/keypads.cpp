@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keypads/keypads.h"
+
+#include "engine/engine.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tallyforge {
+
+namespace {
+
+void run(const std::function<void()>& action) {
+    if (action) {
+        action();
+    }
+}
+
+/// What the digits of a base may be, and how the user is told.
+struct BaseDigits {
+    char letter;
+    std::string_view digits;
+    std::string_view message;
+};
+constexpr std::array<BaseDigits, 4> kBaseDigits{{
+    {'b', "01", "'b' is binary number\nOnes (1) and Zeros (0) Only!"},
+    {'d', "0123456789", "'d' is decimal number\n(0 to 9) Only!"},
+    {'o', "01234567", "'o' is octal number\n0 to 7 Only!"},
+    {'h', "0123456789ABCDEF", ""},
+}};
+
+}  // namespace
+
+Keypads::Keypads(Engine& calculator)
+    : model(calculator), keys{calculator}, dispatch(calculator, model, keys), arithmetic(calculator), calc(calculator) {
+    calc.connect(*this);
+    hangOnForm();
+}
+
+void Keypads::hangOnForm() {
+    MainForm& form = calc.form;
+    for (int i = 0; i < kBankKeys; ++i) {
+        Control& key = form.cmdFunctions.at(static_cast<std::size_t>(i));
+        key.click = [this, i] { cmdFunctions_Click(i); };
+        key.mouseDown = [this, i](MouseButton button, std::uint8_t shift) {
+            dispatch.cmdFunctions_MouseDown(i, button, shift);
+        };
+    }
+    for (int i = 0; i < static_cast<int>(form.cmdMath.size()); ++i) {
+        form.cmdMath.at(static_cast<std::size_t>(i)).click = [this, i] { cmdMath_Click(i); };
+    }
+    for (int i = 0; i < static_cast<int>(form.optKey.size()); ++i) {
+        form.optKey.at(static_cast<std::size_t>(i)).click = [this, i] { optKey_Click(i); };
+    }
+    const std::pair<Control*, Keypad> menu[] = {
+        {&form.mnuStd, Keypad::Standard},      {&form.mnuEngNormal, Keypad::Engineering},
+        {&form.mnuTrig, Keypad::Trigonometry}, {&form.mnuConvert, Keypad::Convert},
+        {&form.mnuMag, Keypad::Magnetics},     {&form.mnuEngBinary, Keypad::Binary},
+    };
+    for (const auto& [entry, keypad] : menu) {
+        entry->click = [this, shown = keypad] {
+            model.show(shown);
+            calc.focusEntry();
+        };
+    }
+}
+
+void Keypads::optKey_Click(int index) {
+    EngineState& s = calc.s;
+    constexpr int kNone = 7;
+    calc.ClearOptKeys();
+    for (int i = 0; i <= kNone; ++i) {
+        calc.form.optKey.at(static_cast<std::size_t>(i)).checked = i == index;
+    }
+    if (index != kNone) {
+        s.ModifierMask = static_cast<std::uint8_t>(index + 1);
+        s.ModifierLatched = true;
+        if (!s.NoKeyPaint && !s.MemoryArrayMode && !s.ProgramMode) {
+            model.paint(s.ModifierMask);
+        }
+    }
+    calc.LightModifiers(s.ModifierMask);
+    calc.focusEntry();
+}
+
+// No conversion is stored on a key yet, so there is none to perform.
+void Keypads::PerformConvertFn() {
+    calc.focusEntry();
+}
+
+void Keypads::ToggleProgramMode() {
+    run(above.toggleProgramMode);
+}
+
+void Keypads::ProgramLetter(int letter) {
+    if (above.programLetter) {
+        above.programLetter(letter);
+    }
+}
+
+void Keypads::MemoryArray() {
+    run(above.toggleMemoryArray);
+}
+
+void Keypads::mnuCopy_Click() {
+    run(above.copy);
+}
+
+void Keypads::mnuPaste_Click() {
+    run(above.paste);
+}
+
+void Keypads::mnuProgram_Click() {
+    run(above.loadProgram);
+}
+
+bool Keypads::ShowTips() {
+    return above.showTips && above.showTips();
+}
+
+bool Keypads::CheckBaseDigits() {
+    const std::string& typed = calc.entryText();
+    for (const BaseDigits& base : kBaseDigits) {
+        if (calc.s.BaseLetter != std::string_view{&base.letter, 1}) {
+            continue;
+        }
+        if (typed.find_first_not_of(base.digits, 1) == std::string::npos) {
+            return true;
+        }
+        calc.message(BoxKind::Stop, "Syntax Error", base.message);
+        return false;
+    }
+    return true;
+}
+
+void Keypads::EndQuiz() {
+    calc.s.QuizMode = false;
+}
+
+void Keypads::ClearPartialStates() {
+    calc.s.FunctionResetMask = 0x7FFFFFFF;
+}
+
+void Keypads::ResetProgram() {
+    run(above.resetProgram);
+}
+
+}  // namespace tallyforge

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What a key's function may use: the engine, and the subjects that keep state of their own. Rows
+// of the keypad tables are handed one of these.
+#pragma once
+
+#include "engine/engine.h"
+
+namespace tallyforge {
+
+struct Keys {
+    Engine& calc;
+};
+
+}  // namespace tallyforge

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A form is plain data: controls with caption, tool tip, place and state, and the handlers that
+// run when a hand touches them. Handlers change controls and never know a widget; a platform
+// renders the form after each handler. Everything that a user can do to a form goes through
+// form_input.h, so that a window and a key script behave alike.
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyforge {
+
+/// Modifier keys as bits, added together.
+enum Modifier : std::uint8_t { kNoModifier = 0, kShift = 1, kCtrl = 2, kAlt = 4 };
+
+enum class ControlKind { Key, Field, Label, List, Option, Frame, Lamp, Menu, MenuEntry, Separator };
+
+/// Back colour of a key: what kind of key it is.
+enum class KeyColour { Plain, Yellow, Blue };
+
+/// Place on the form in twips, 1/1440 inch.
+struct Place {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    friend bool operator==(const Place&, const Place&) = default;
+};
+
+struct Font {
+    Face face = Face::Arial;
+    float points = 10.0F;
+    bool bold = false;
+    friend bool operator==(const Font&, const Font&) = default;
+};
+
+/// The rows of a list control. Rows are read when they are shown, so a list of a million rows
+/// costs what is visible of it.
+class ListRows {
+public:
+    virtual ~ListRows() = default;
+    [[nodiscard]] virtual std::size_t count() const = 0;
+    /// Text of row `index` (0 is the topmost), eight-bit.
+    [[nodiscard]] virtual std::string row(std::size_t index) const = 0;
+    /// Selected row, or count() where none is.
+    [[nodiscard]] virtual std::size_t selected() const = 0;
+    virtual void select(std::size_t index) = 0;
+    /// Changes whenever any row, the count or the selection changes.
+    [[nodiscard]] virtual std::uint64_t revision() const = 0;
+};
+
+/// A key as it goes down or up. `keyCode` is the key's number (see key_codes.h), `shift` the
+/// modifiers held with it; the Shift that a printable character needs is not among them.
+struct KeyEvent {
+    int keyCode = 0;
+    std::uint8_t shift = 0;
+};
+
+enum class MouseButton { Left, Right };
+
+/// Number of a control that stands alone, not in an array.
+inline constexpr int kNoIndex = -1;
+
+struct Control {
+    std::string name;      ///< as on the form, "cmdMath"
+    int index = kNoIndex;  ///< place in its control array, or kNoIndex
+    ControlKind kind = ControlKind::Key;
+    std::string text;    ///< caption (with "&" before the access letter) or text, eight-bit
+    std::string tip;     ///< tool tip, eight-bit
+    std::string spoken;  ///< accessible name, where caption and tip say too little
+    Place place{};
+    Font font{};
+    KeyColour colour = KeyColour::Plain;
+    bool enabled = true;
+    bool visible = true;
+    bool checked = false;       ///< option selected, menu entry ticked
+    bool opaque = false;        ///< drawn without its text being looked at (a lamp)
+    std::size_t caret = 0;      ///< fields: position of the caret
+    std::size_t maxLength = 0;  ///< fields: most characters, 0 without a limit
+    bool rightAligned = false;  ///< fields and labels
+    std::string menu;           ///< menu entries: name of the menu that holds them
+    ListRows* rows = nullptr;   ///< lists
+
+    // Handlers; an empty one means that nothing happens.
+    std::function<void()> click;
+    std::function<void()> doubleClick;
+    std::function<void(MouseButton, std::uint8_t shift)> mouseDown;
+    std::function<void(KeyEvent)> keyDown;
+    /// May set the character to 0 to drop it.
+    std::function<void(int& keyAscii)> keyPress;
+    std::function<void(KeyEvent)> keyUp;
+
+    /// Name with the index in parentheses where there is one: "cmdMath(3)".
+    [[nodiscard]] std::string fullName() const;
+};
+
+/// A window full of controls. Controls are members of the classes derived from it, so their
+/// addresses stay; enrol() makes them known to platforms in drawing and tab order.
+class Form {
+public:
+    Form(std::string name, std::string title);
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    std::string name;   ///< "frm_Tallyforge"
+    std::string title;  ///< title bar, eight-bit
+    Place place{};      ///< twips; left and top on the screen
+    bool minimised = false;
+    bool alwaysOnTop = false;
+    bool open = true;  ///< a handler clears it to close the form
+
+    Control* focus = nullptr;       ///< has the keyboard
+    Control* defaultKey = nullptr;  ///< clicked by Enter
+    Control* cancelKey = nullptr;   ///< clicked by Esc
+
+    std::function<void()> load;      ///< before the form is shown
+    std::function<void()> activate;  ///< once shown
+    std::function<void()> deactivate;
+    std::function<void()> close;  ///< the close button; clears `open` if it agrees
+
+    [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+    /// The control of that name and index, or nullptr.
+    [[nodiscard]] Control* find(std::string_view controlName, int index = kNoIndex) const;
+    void setFocus(Control& control) { focus = &control; }
+
+protected:
+    void enrol(Control& control) { controls_.push_back(&control); }
+
+private:
+    std::vector<Control*> controls_;
+};
+
+}  // namespace tallyforge

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the calculator needs of a desktop, and all that it needs. To put the calculator on another
+// desktop, write one class that answers this, render the forms that it is handed, and pass every
+// key and click to form_input.h. Texts are eight-bit (text.h); the platform maps them when it
+// shows them. All calls come on the one thread that runs the calculator.
+#pragma once
+
+#include "platform/form.h"
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyforge {
+
+enum class BoxKind { Stop, Notice, Info, Question, Plain };
+enum class BoxButtons { Ok, OkCancel, YesNo };
+enum class Answer { Ok, Cancel, Yes, No };
+
+struct MessageBox {
+    BoxKind kind = BoxKind::Plain;
+    std::string title;
+    std::string text;
+    BoxButtons buttons = BoxButtons::Ok;
+};
+
+struct InputBox {
+    std::string title;
+    std::string prompt;
+    std::string preset;
+};
+
+/// Sizes of the desktop. Heights in pixels, screen in twips.
+struct DesktopMetrics {
+    int dotsPerInch = 96;
+    int captionHeight = 19;
+    int menuHeight = 20;
+    int screenWidth = 28800;
+    int screenHeight = 16200;
+};
+
+/// Local time of day and date, whole seconds.
+struct LocalTime {
+    int year = 2000;
+    int month = 1;   ///< 1 to 12
+    int day = 1;     ///< 1 to 31
+    int hour = 0;    ///< 0 to 23
+    int minute = 0;  ///< 0 to 59
+    int second = 0;  ///< 0 to 59
+};
+
+/// A line of print: text with its font.
+struct PrintLine {
+    std::string text;
+    Font font;
+};
+
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    // Boxes and dialogs return when the user has answered.
+    virtual Answer messageBox(const MessageBox& box) = 0;
+    /// The text entered; empty where the user cancelled.
+    virtual std::string inputBox(const InputBox& box) = 0;
+    /// Shows `dialog` over the main form until its `open` is false.
+    virtual void showDialog(Form& dialog) = 0;
+
+    [[nodiscard]] virtual DesktopMetrics metrics() const = 0;
+    /// The locale's decimal character, '.' or ','.
+    [[nodiscard]] virtual char decimalCharacter() const = 0;
+
+    /// The user's folder for this application's data, made if missing. Raises nothing; where it
+    /// cannot be made, writing to it fails later with a message.
+    [[nodiscard]] virtual std::filesystem::path dataFolder() const = 0;
+    /// The folder that holds what was installed with the program (programs, tips, help).
+    [[nodiscard]] virtual std::filesystem::path installedFolder() const = 0;
+
+    /// One boolean of the desktop's settings store, "Options" section.
+    [[nodiscard]] virtual bool readOption(std::string_view key, bool preset) const = 0;
+    virtual void writeOption(std::string_view key, bool value) = 0;
+
+    [[nodiscard]] virtual std::string clipboardText() const = 0;
+    virtual void setClipboardText(std::string_view text) = 0;
+
+    virtual void print(std::span<const PrintLine> lines) = 0;
+    virtual void playSound(std::span<const std::uint8_t> wave) = 0;
+    virtual void openUrl(std::string_view url) = 0;
+    virtual void openFolder(const std::filesystem::path& folder) = 0;
+    virtual void helpTopic(int topic) = 0;
+
+    [[nodiscard]] virtual LocalTime now() const = 0;
+    /// Uniform in [0, 1).
+    [[nodiscard]] virtual double random() = 0;
+    virtual void sleep(std::chrono::milliseconds time) = 0;
+};
+
+}  // namespace tallyforge

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/clipboard.h"
+
+#include "engine/engine.h"
+
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+namespace {
+
+/// What a copied cell or line brings along around the number.
+std::string_view withoutMargins(std::string_view text) {
+    constexpr std::string_view kMargin = " \t\r\n";
+    const auto first = text.find_first_not_of(kMargin);
+    return first == text.npos ? std::string_view{} : text.substr(first, text.find_last_not_of(kMargin) - first + 1);
+}
+
+bool isBaseNumber(std::string_view text) {
+    return text.starts_with('#') && std::string_view{"bdho"}.find(text.back()) != std::string_view::npos;
+}
+
+}  // namespace
+
+void Clipboard::mnuCopy_Click() {
+    calc.LightModifiers(0);
+    calc.keypads().RepaintKeypad();
+    calc.platform.setClipboardText(calc.text(calc.s.Xreg));
+}
+
+void Clipboard::mnuPaste_Click() {
+    EngineState& s = calc.s;
+    s.CurrentProc = "mnuPaste";
+    calc.LightModifiers(0);
+    calc.keypads().RepaintKeypad();
+    if (!calc.entryText().empty()) {
+        calc.commit.cmdEnter_Click();
+    }
+    const std::string clipped = calc.platform.clipboardText();
+    s.Xreg = withoutMargins(clipped);
+    const auto report = [&](const Failure& failure) {
+        if (failure.number() != FailureNumber::TypeMismatch) {
+            calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
+        }
+    };
+    const bool isNumber = goOn(report, [&] { s.Xnum = calc.xNumber(); });
+    if (!isNumber && !isBaseNumber(s.Xreg.textView())) {
+        s.EntryOpen = false;
+        return;
+    }
+    s.FnLabel = "Paste";
+    s.StackPtr -= 1;
+    calc.form.setFocus(calc.form.cmdEnter);
+    s.EntryOpen = true;
+    calc.commit.cmdEnter_Click();
+}
+
+}  // namespace tallyforge

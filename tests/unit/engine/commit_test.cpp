@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine_fixture.h"
+
+namespace tallyforge {
+namespace {
+
+class Commit_ : public EngineTest {};
+
+TEST_F(Commit_, EnterOnAnEmptyLineAndAnEmptyStackPushesZero) {
+    enter();
+    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(y(), "0");
+    EXPECT_EQ(lastLine(), "0.00");
+}
+
+TEST_F(Commit_, EnterOnAnEmptyLineDuplicatesX) {
+    type("5");
+    enter();
+    enter();
+    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(x(), "5");
+    EXPECT_EQ(y(), "5");
+    EXPECT_EQ(lastx(), "5");
+}
+
+TEST_F(Commit_, ATypedNumberStaysTheTextThatWasTyped) {
+    type("7.50");
+    enter();
+    EXPECT_EQ(x(), "7.50");
+    EXPECT_EQ(y(), "0");
+    type("8");
+    enter();
+    EXPECT_EQ(y(), "7.50");
+    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(lastx(), "7.50");
+}
+
+TEST_F(Commit_, AnExponentWithoutDigitsGetsAZeroAndNoMessage) {
+    type("12e");
+    enter();
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(x(), "12e0");
+    EXPECT_EQ(element(1), "12e0");
+    EXPECT_EQ(lastLine(), "12.00");
+    EXPECT_EQ(calc.tape.lines(), 1U);
+}
+
+TEST_F(Commit_, ANumberBeyondTheRangeIsRefusedAndTheDepthStays) {
+    type("4");
+    enter();
+    type("1e400");
+    enter();
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].text, eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
+    EXPECT_EQ(platform.boxes[0].title, "numDisplay Error!");
+    EXPECT_EQ(platform.boxes[0].kind, BoxKind::Stop);
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(element(1), "4");
+    EXPECT_EQ(calc.tape.lines(), 1U);
+    EXPECT_EQ(calc.tape.fillers(), 6) << "a failed display takes no filler line away";
+}
+
+TEST_F(Commit_, ATextThatIsNoNumberIsReportedByItsNumber) {
+    commitText("12abc");
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].text, "Error number 13");
+    EXPECT_EQ(platform.boxes[0].title, "numDisplay Error!");
+    EXPECT_EQ(platform.boxes[0].kind, BoxKind::Stop);
+    EXPECT_EQ(calc.tape.lines(), 0U);
+    EXPECT_EQ(x(), "12abc");
+}
+
+TEST_F(Commit_, TheEntryLineIsEmptyAfterwardsUnlessItsTextIsKept) {
+    type("3");
+    enter();
+    EXPECT_EQ(calc.entryText(), "");
+    commitText("4");
+    calc.s.KeepEntryText = true;
+    commitText("6");
+    EXPECT_EQ(calc.entryText(), "6");
+    EXPECT_FALSE(calc.s.KeepEntryText);
+}
+
+TEST_F(Commit_, ABaseNumberWithoutLetterButWithAHexDigitGetsItsLetter) {
+    commitText("#FF");
+    EXPECT_EQ(x(), "#FFh");
+    EXPECT_EQ(element(1), "#FFh");
+    EXPECT_EQ(lastLine(), "#FFh");
+}
+
+TEST_F(Commit_, ABaseNumberWithoutLetterAndHexDigitIsTakenBack) {
+    commitText("3");
+    commitText("4");
+    commitText("#12");
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].text, "Binary indicator (b, d, h, o) required");
+    EXPECT_EQ(platform.boxes[0].title, "Error!");
+    EXPECT_EQ(platform.boxes[0].kind, BoxKind::Stop);
+    EXPECT_EQ(x(), "4");
+    EXPECT_EQ(y(), "3");
+    EXPECT_EQ(lastx(), "3");
+    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.tape.lines(), 2U);
+}
+
+TEST_F(Commit_, AFunctionOnAnEmptyStackLeavesItEmpty) {
+    calc.commit.FetchX();
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(calc.s.StackPtr, 1);
+    calc.s.Xreg = 1.0;
+    calc.setEntry("1");
+    calc.commit.cmdEnter_Click();
+    EXPECT_EQ(calc.s.StackPtr, 1);
+    EXPECT_EQ(y(), "0");
+}
+
+TEST_F(Commit_, PushResultAddsAnElementAndKeepsTheUsersFormat) {
+    calc.s.Xreg = 123456.0;
+    calc.s.FnLabel = "big";
+    calc.commit.PushResult();
+    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(lastLine(), "big         123.456e+03");
+    EXPECT_EQ(calc.s.DisplayDigits, 2);
+    EXPECT_EQ(calc.s.Mode, DisplayMode::Fixed);
+    EXPECT_TRUE(calc.s.ValueInXreg);
+}
+
+TEST_F(Commit_, PushResultLeavesDigitsThatTheCallerHasSet) {
+    calc.s.KeepDigits = true;
+    calc.s.Xreg = 0.5;
+    calc.commit.PushResult();
+    EXPECT_EQ(lastLine(), "0.50");
+}
+
+TEST_F(Commit_, AutoDigitsChoosesTwoForZeroAndLeavesAMiddlingNumberAlone) {
+    calc.s.DisplayDigits = 5;
+    calc.s.Xreg = 42.0;
+    calc.commit.AutoDigits();
+    EXPECT_EQ(calc.s.DisplayDigits, 5);
+    calc.s.Xreg = 0.0;
+    calc.commit.AutoDigits();
+    EXPECT_EQ(calc.s.DisplayDigits, 2);
+    calc.s.Xreg = kNothingDone;
+    calc.commit.AutoDigits();
+    EXPECT_EQ(calc.s.Mode, DisplayMode::Fixed);
+}
+
+TEST_F(Commit_, ASkippedTailStoresWithoutATapeLine) {
+    type("9");
+    calc.s.SkipCommitTail = true;
+    calc.commit.cmdEnter_Click();
+    EXPECT_EQ(element(1), "9");
+    EXPECT_EQ(calc.tape.lines(), 0U);
+    EXPECT_EQ(calc.entryText(), "9");
+    EXPECT_FALSE(calc.s.SkipCommitTail);
+}
+
+TEST_F(Commit_, ALabelThatWasNotPrintedStandsOnNoLaterLine) {
+    calc.s.FnLabel = "lost";
+    commitText("1e999");
+    commitText("2");
+    EXPECT_EQ(lastLine(), "2.00");
+}
+
+TEST_F(Commit_, SmallRegistersShowLastXAndYInScientificForm) {
+    commitText("1234.5");
+    commitText("7");
+    EXPECT_EQ(calc.form.txtLastx.text, "1.234e+03");
+    EXPECT_EQ(calc.form.txty_Reg.text, "1.234e+03");
+    commitText("#1Fh");
+    commitText("1");
+    EXPECT_EQ(calc.form.txty_Reg.text, "#1Fh");
+}
+
+TEST_F(Commit_, KeysOfTheStackComeAliveWithTheFirstNumber) {
+    EXPECT_FALSE(calc.form.cmdDown.enabled);
+    EXPECT_FALSE(calc.form.cmdXchgY.enabled);
+    EXPECT_FALSE(calc.form.cmdLastx.enabled);
+    commitText("1");
+    EXPECT_TRUE(calc.form.cmdDown.enabled);
+    EXPECT_TRUE(calc.form.cmdXchgY.enabled);
+    EXPECT_TRUE(calc.form.cmdLastx.enabled);
+}
+
+TEST_F(Commit_, ARunningProgramKeepsTheExactValueBehindItsText) {
+    replaceTop(1.0 / 3.0, "");
+    calc.s.RoundTripCheck = true;
+    calc.s.EntryOpen = true;
+    calc.setEntry("0.333333333333333");
+    calc.commit.cmdEnter_Click();
+    EXPECT_EQ(calc.xNumber(), 1.0 / 3.0);
+    calc.s.EntryOpen = true;
+    calc.setEntry("0.25");
+    calc.commit.cmdEnter_Click();
+    EXPECT_EQ(x(), "0.25");
+}
+
+TEST_F(Commit_, TapeLineWritesTextAndLeavesZeroInX) {
+    calc.commit.TapeLine("hello");
+    EXPECT_EQ(lastLine(), "hello");
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(calc.s.depth(), 0);
+}
+
+TEST_F(Commit_, AModifierOnTheLampsIsShownBitByBit) {
+    calc.LightModifiers(kShift | kAlt);
+    EXPECT_TRUE(calc.form.shaShift.visible);
+    EXPECT_FALSE(calc.form.shaCtrl.visible);
+    EXPECT_TRUE(calc.form.shaAlt.visible);
+}
+
+}  // namespace
+}  // namespace tallyforge

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A calculator's engine with its entry line and stack keys, and arithmetic enough to see a number
+// travel. Typing goes key by key, as from a keyboard.
+#pragma once
+
+#include "engine/engine.h"
+#include "engine/entry_line.h"
+#include "engine/idle_keypads.h"
+#include "engine/stack_keys.h"
+#include "platform/form_input.h"
+#include "platform/key_codes.h"
+#include "support/test_platform.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyforge {
+
+/// Records which keys the keyboard pressed above the engine.
+class RecordingKeypads final : public KeypadPort {
+public:
+    explicit RecordingKeypads(Engine& engine) : calc(engine) {}
+    void cmdFunctions_Click(int index) override { note("fn", index); }
+    void cmdMath_Click(int index) override { note("math", index); }
+    void PaintModifiers(std::uint8_t mask) override { pressed.push_back("paint " + std::to_string(mask)); }
+    void RepaintKeypad() override { ++repaints; }
+    void ShowKeypad(Keypad keypad) override { pressed.push_back("show " + std::to_string(static_cast<int>(keypad))); }
+    void NextKeypad() override { pressed.emplace_back("next"); }
+    void PrevKeypad() override { pressed.emplace_back("prev"); }
+    void KeypadHistoryBack() override { pressed.emplace_back("back"); }
+    void KeypadHistoryForward() override { pressed.emplace_back("forward"); }
+    void PerformConvertFn() override { pressed.emplace_back("convert"); }
+    void ToggleProgramMode() override { pressed.emplace_back("program"); }
+    void ProgramLetter(int letter) override { pressed.push_back("letter " + std::to_string(letter)); }
+    void MemoryArray() override { pressed.emplace_back("memory"); }
+    void mnuCopy_Click() override { pressed.emplace_back("copy"); }
+    void mnuPaste_Click() override { pressed.emplace_back("paste"); }
+    void mnuProgram_Click() override { pressed.emplace_back("load"); }
+    bool ShowTips() override { return false; }
+    bool CheckBaseDigits() override { return baseDigitsFit; }
+    void EndQuiz() override { pressed.emplace_back("end quiz"); }
+    void ClearPartialStates() override {}
+    void ResetProgram() override {}
+
+    std::vector<std::string> pressed;
+    int repaints = 0;
+    bool baseDigitsFit = true;
+
+private:
+    void note(const std::string& kind, int index) {
+        pressed.push_back(kind + " " + std::to_string(index) + " keypad " +
+                          std::to_string(static_cast<int>(calc.s.ActiveKeypad)) + " mask " +
+                          std::to_string(calc.s.ModifierMask) + (calc.s.EntryOpen ? " open" : "") +
+                          (calc.s.BaseMode ? " base" : ""));
+    }
+    Engine& calc;
+};
+
+class EngineTest : public ::testing::Test {
+protected:
+    EngineTest() {
+        calc.connect(keypads);
+        calc.form.txtXreg.keyDown = [this](KeyEvent event) { entry.txtXreg_KeyDown(event); };
+        calc.form.txtXreg.keyPress = [this](int& key) { entry.txtXreg_KeyPress(key); };
+        calc.form.txtXreg.keyUp = [this](KeyEvent event) { entry.txtXreg_KeyUp(event); };
+        calc.form.cmdEnter.click = [this] { calc.commit.cmdEnter_Click(); };
+        calc.focusEntry();
+    }
+
+    void press(int keyCode, int character = 0, std::uint8_t shift = 0) {
+        const KeyStroke stroke{.keyCode = keyCode, .shift = shift, .character = character};
+        pressKey(calc.form, stroke);
+        releaseKey(calc.form, stroke);
+    }
+    void type(std::string_view text) {
+        for (const char character : text) {
+            press(keyCodeOf(static_cast<unsigned char>(character)), static_cast<unsigned char>(character));
+        }
+    }
+    void enter() { press(kKeyEnter, 13); }
+    void commitText(std::string_view text) {
+        calc.commit.BeginEntry();
+        calc.setEntry(text);
+        calc.commit.cmdEnter_Click();
+    }
+    /// A function's result: replaces the top under `label`.
+    void replaceTop(ValueCell value, std::string_view label) {
+        calc.commit.FetchX();
+        calc.s.LastX = calc.s.Xreg;
+        calc.s.Xreg = std::move(value);
+        calc.s.FnLabel = label;
+        calc.s.ValueInXreg = true;
+        calc.commit.cmdEnter_Click();
+    }
+
+    [[nodiscard]] std::string x() const { return calc.text(calc.s.Xreg); }
+    [[nodiscard]] std::string y() const { return calc.text(calc.s.Yreg); }
+    [[nodiscard]] std::string lastx() const { return calc.text(calc.s.LastX); }
+    [[nodiscard]] std::string element(int index) const { return calc.text(calc.s.slot(index)); }
+    /// Tape line `index` from 1, fillers not counted.
+    [[nodiscard]] std::string tapeLine(std::size_t index) const {
+        return calc.tape.row(static_cast<std::size_t>(calc.tape.fillers()) + index - 1);
+    }
+    [[nodiscard]] std::string lastLine() const { return calc.tape.row(calc.tape.count() - 1); }
+
+    TestPlatform platform;
+    Engine calc{platform};
+    RecordingKeypads keypads{calc};
+    StackKeys stackKeys{calc};
+    EntryLine entry{calc, stackKeys};
+};
+
+}  // namespace tallyforge
