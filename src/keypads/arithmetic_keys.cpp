@@ -13,22 +13,26 @@ namespace {
 
 constexpr std::array<std::string_view, 4> kOperators{"ö"_t, "X", "-", "+"};
 constexpr std::string_view kFieldPattern = "0.0e+00";
+constexpr int kDivide = 0;
+constexpr int kMultiply = 1;
+constexpr int kSubtract = 2;
+constexpr int kAdd = 3;
 constexpr int kArithmeticRegister = 1;
 constexpr int kConstantRegister = 2;
 
 double apply(int index, double left, double right) {
     double result = 0.0;
     switch (index) {
-        case 0:
+        case kDivide:
             if (right == 0.0) {
                 throw Failure{FailureNumber::DivisionByZero};
             }
             result = left / right;
             break;
-        case 1:
+        case kMultiply:
             result = left * right;
             break;
-        case 2:
+        case kSubtract:
             result = left - right;
             break;
         default:
@@ -48,39 +52,54 @@ void ArithmeticKeys::cmdMath_Click(int index) {
     calc.commit.FetchX();
     s.CurrentProc = "cmdMath";
     s.LastX = s.Xreg;
-    const ValueCell x = s.Xreg;
-    const ValueCell constant = s.Registers.at(kConstantRegister);
-    switch (s.ModifierMask) {
-        case 0: {
-            const ValueCell y = s.StackPtr >= 2 ? s.slot(s.StackPtr - 2) : ValueCell::zero();
-            s.FnLabel = kOperators.at(static_cast<std::size_t>(index));
-            compute(index, y, x);
-            calc.commit.lowerStack(2);
-            break;
+    const Operands operands = choose(index);
+    const bool tagged = operands.left.isTagged() || operands.right.isTagged();
+    if (!operands.valid || (tagged && bases == nullptr)) {
+        abandon();
+        return;
+    }
+    const bool intoRegister = s.ModifierMask == kCtrl;
+    s.FnLabel = s.ModifierMask == kAlt ? "m" : "";
+    s.FnLabel += kOperators.at(static_cast<std::size_t>(index));
+    const bool computed = compute(index, operands);
+    if (intoRegister) {
+        // What could not be computed leaves the register alone.
+        if (computed) {
+            storeRegisterOne();
         }
-        case kCtrl:
-            if (compute(index, s.Registers.at(kArithmeticRegister), x)) {
-                intoRegisterOne();
-            }
-            abandon();
-            return;
-        case kAlt: {
-            s.FnLabel = "m" + std::string(kOperators.at(static_cast<std::size_t>(index)));
-            const bool registerIsLeft = index == 1 || index == 3;
-            compute(index, registerIsLeft ? constant : x, registerIsLeft ? x : constant);
-            break;
-        }
-        default:
-            abandon();
-            return;
+        abandon();
+        return;
+    }
+    if (s.ModifierMask == 0) {
+        calc.commit.lowerStack(2);
     }
     calc.ClearOptKeys();
     s.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
 }
 
+ArithmeticKeys::Operands ArithmeticKeys::choose(int index) {
+    EngineState& s = calc.s;
+    const ValueCell& x = s.Xreg;
+    switch (s.ModifierMask) {
+        case 0:
+            return {.valid = true, .left = s.slot(s.StackPtr - 2), .right = x};
+        case kCtrl:
+            s.RegistersUsed = true;
+            return {.valid = true, .left = s.Registers.at(kArithmeticRegister), .right = x};
+        case kAlt: {
+            s.RegistersUsed = true;
+            const ValueCell& constant = s.Registers.at(kConstantRegister);
+            const bool constantIsLeft = index == kMultiply || index == kAdd;
+            return {.valid = true, .left = constantIsLeft ? constant : x, .right = constantIsLeft ? x : constant};
+        }
+        default:
+            return {};
+    }
+}
+
 // A failure leaves X as it was: a division by zero says nothing, and X, the divisor, is committed.
-bool ArithmeticKeys::compute(int index, const ValueCell& left, const ValueCell& right) {
+bool ArithmeticKeys::compute(int index, const Operands& operands) {
     EngineState& s = calc.s;
     const auto onFailure = [&](const Failure& failure) {
         if (failure.number() == FailureNumber::SubtrahendGreater) {
@@ -90,28 +109,31 @@ bool ArithmeticKeys::compute(int index, const ValueCell& left, const ValueCell& 
             calc.errorBox(BoxKind::Stop, "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
         }
     };
+    const bool tagged = operands.left.isTagged() || operands.right.isTagged();
     return goOn(onFailure, [&] {
-        const bool tagged = left.isTagged() || right.isTagged();
-        s.Xreg = tagged && bases != nullptr ? bases->compute(index, left, right)
-                                            : ValueCell{apply(index, calc.number(left), calc.number(right))};
+        s.Xreg = tagged ? bases->compute(index, operands.left, operands.right)
+                        : ValueCell{apply(index, calc.number(operands.left), calc.number(operands.right))};
     });
 }
 
+// X and the stack stay as they were, no line is written.
 void ArithmeticKeys::abandon() {
     EngineState& s = calc.s;
     s.Xreg = s.LastX;
     s.LastX = s.slot(s.StackPtr - 2);
+    if (s.LastX.isEmpty()) {
+        s.LastX = ValueCell::zero();
+    }
     s.FnLabel.clear();
     calc.stackList.refresh();
+    calc.commit.ShowSmallRegs();
     s.ValueInXreg = false;
     calc.ClearOptKeys();
 }
 
-void ArithmeticKeys::intoRegisterOne() {
-    EngineState& s = calc.s;
-    s.Registers.at(kArithmeticRegister) = s.Xreg;
-    calc.form.txtReg_m.front().text = calc.patternText(s.Xreg, kFieldPattern);
-    s.RegistersUsed = true;
+void ArithmeticKeys::storeRegisterOne() {
+    calc.s.Registers.at(kArithmeticRegister) = calc.s.Xreg;
+    calc.form.txtReg_m.front().text = calc.patternText(calc.s.Xreg, kFieldPattern);
 }
 
 }  // namespace tallyforge

@@ -28,18 +28,25 @@ class ArithmeticKeys {
 public:
     explicit ArithmeticKeys(Engine& calculator) : calc(calculator) {}
 
-    /// 0 divide, 1 multiply, 2 subtract, 3 add.
+    /// 0 divide, 1 multiply, 2 subtract, 3 add, of X and what ModifierMask chooses. Raises
+    /// nothing: an overflow and a subtrahend too great are shown in a box, other failures are quiet.
     void cmdMath_Click(int index);
 
-    /// Must be set before numbers of a base are to be computed with; without it they are no
-    /// numbers here.
+    /// Computes with numbers of a base. While there is none, such an operand ends the key and
+    /// everything stays as it is.
     BaseArithmetic* bases = nullptr;
 
 private:
+    struct Operands {
+        bool valid = false;  ///< false: the modifiers mean nothing here
+        ValueCell left{};
+        ValueCell right{};
+    };
+    [[nodiscard]] Operands choose(int index);
     /// Puts the result into X; returns false where a failure left X as it was.
-    bool compute(int index, const ValueCell& left, const ValueCell& right);
+    bool compute(int index, const Operands& operands);
     void abandon();
-    void intoRegisterOne();
+    void storeRegisterOne();
 
     Engine& calc;
 };

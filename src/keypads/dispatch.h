@@ -21,24 +21,33 @@ class Dispatch {
 public:
     Dispatch(Engine& calculator, KeypadModel& keypads, Keys& keys) : calc(calculator), model(keypads), subjects(keys) {}
 
-    /// A key of the bank, 0 to 23.
+    /// A key of the bank, 0 to 23. Raises nothing: a failure of the function is shown in a box.
     void cmdFunctions_Click(int index);
+    /// Runs the function of `key`, which must have one, from the typed operand to the commit.
+    void press(const KeyRow& key);
 
-    /// The right button opens the key's help topic.
+    /// The right button opens the key's help topic; with Ctrl, the choice of units or material of
+    /// a light blue key.
     void cmdFunctions_MouseDown(int index, MouseButton button, std::uint8_t shift);
 
-    // Answered by the rooms that own the modes; while a mode is on its answer takes the key.
-    std::function<void(int index)> programKey;
+    // Answered by the rooms that own the modes.
+    /// Program mode: returns whether it took the key. A running program lets its own keys through.
+    std::function<bool(int index)> programKey;
+    /// Memory array mode: the key is a register key.
     std::function<void(int index)> registerKey;
+    std::function<bool()> programRuns;
 
 private:
     [[nodiscard]] const KeyRow& row(int index) const;
-    bool takenByMode(int index);
+    [[nodiscard]] bool takenByMode(int index);
+    void passOver();
+    void nameProcedure();
     void bringXUpToDate(const KeyRow& key);
-    void runFunction(const KeyRow& key);
-    void leaveFunction();
+    void onFailure(const Failure& failure, int index);
+    void showMessage(FailureNumber number, int index);
+    void leaveKey();
+    void leaveNothing(int index);
     void commitResult();
-    void report(const Failure& failure, int index);
 
     Engine& calc;
     KeypadModel& model;

@@ -21,14 +21,20 @@ void assign(Held& held, const Wanted& wanted) {
     }
 }
 
-void look(Control& key, const KeyCaption& caption, std::string_view tip, KeyColour colour) {
+void write(Control& key, const KeyCaption& caption) {
     assign(key.text, caption.text);
-    assign(key.tip, tip);
-    key.font.face = caption.face;
-    key.font.points = caption.points;
-    key.font.bold = false;
-    key.colour = colour;
+    assign(key.font, Font{.face = caption.face, .points = caption.points});
     key.visible = true;
+}
+
+void look(Control& key, const KeyCaption& caption, std::string_view tip, KeyColour colour) {
+    write(key, caption);
+    assign(key.tip, tip);
+    key.colour = colour;
+}
+
+bool unitsMatter(Keypad keypad) {
+    return keypad == Keypad::Engineering || keypad == Keypad::Magnetics;
 }
 
 }  // namespace
@@ -36,12 +42,15 @@ void look(Control& key, const KeyCaption& caption, std::string_view tip, KeyColo
 KeypadModel::KeypadModel(Engine& calculator) : calc(calculator) {}
 
 void KeypadModel::show(Keypad keypad) {
-    setUp(keypad);
+    if (calc.s.MemoryArrayMode) {
+        return;
+    }
+    lay(keypad);
     remember(keypad);
     showHint(keypad);
 }
 
-void KeypadModel::setUp(Keypad keypad) {
+void KeypadModel::lay(Keypad keypad) {
     EngineState& s = calc.s;
     s.TablesShown = false;
     calc.form.cmdF11.enabled = true;
@@ -59,13 +68,20 @@ void KeypadModel::setUp(Keypad keypad) {
         calc.form.lblCnvrt.tip = " Conversion Factor saved to Reg 2 ";
         calc.form.lblCnvrt.font.points = 8.0F;
     }
-    const KeypadTable& table = keypadTable(keypad);
-    assign(calc.form.lblBank.text, table.name);
-    for (const KeyRow& row : table.rows) {
-        look(calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key)), row.caption, row.tip, row.colour);
-    }
+    assign(calc.form.lblBank.text, keypadTable(keypad).name);
+    paintPlain();
     tickMenu(keypad);
     s.TablesShown = keypad == Keypad::Tables;
+}
+
+void KeypadModel::paintPlain() {
+    const Keypad keypad = calc.s.ActiveKeypad;
+    for (const KeyRow& row : keypadTable(keypad).rows) {
+        look(calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key)), row.caption, row.tip, row.colour);
+    }
+    if (dressUnits && unitsMatter(keypad)) {
+        dressUnits(keypad);
+    }
 }
 
 void KeypadModel::enterBinary() {
@@ -84,22 +100,29 @@ void KeypadModel::leaveBinary() {
     calc.display.writeDigitsCaption();
 }
 
+bool KeypadModel::bankIsLent() const {
+    const EngineState& s = calc.s;
+    return s.MemoryArrayMode || s.ProgramMode || s.ActiveKeypad == Keypad::LetterDrill;
+}
+
+// Looks only: a short cut lends a function of another keypad for one key, and neither the base
+// mode nor the menu may notice.
 void KeypadModel::repaint() {
-    EngineState& s = calc.s;
-    if (s.MemoryArrayMode) {
+    if (calc.s.MemoryArrayMode) {
         paintRegisterNames();
-    } else if (!s.ProgramMode) {
-        setUp(s.ActiveKeypad);
+    } else if (!bankIsLent()) {
+        paintPlain();
     }
+    calc.LightModifiers(0);
 }
 
 void KeypadModel::paint(std::uint8_t mask) {
     const KeypadTable& table = keypadTable(calc.s.ActiveKeypad);
-    if (!table.paintsUnderModifiers) {
+    if (calc.s.NoKeyPaint || bankIsLent() || !table.paintsUnderModifiers) {
         return;
     }
     if (mask == 0) {
-        repaint();
+        paintPlain();
         return;
     }
     for (const KeyRow& row : table.rows) {
@@ -108,7 +131,7 @@ void KeypadModel::paint(std::uint8_t mask) {
         if (caption.text.empty()) {
             key.visible = false;
         } else {
-            look(key, caption, row.tip, row.colour);
+            write(key, caption);
         }
     }
 }
@@ -121,6 +144,9 @@ void KeypadModel::paintRegisterNames() {
 }
 
 void KeypadModel::step(int direction) {
+    if (calc.s.MemoryArrayMode) {
+        return;
+    }
     const auto tables = keypadTables();
     const auto* const present = &keypadTable(calc.s.ActiveKeypad);
     const auto at = std::find(tables.begin(), tables.end(), present) - tables.begin();
@@ -148,12 +174,12 @@ void KeypadModel::remember(Keypad keypad) {
 }
 
 void KeypadModel::rotateHistory(bool back) {
-    if (history_.size() < 2) {
+    if (history_.size() < 2 || calc.s.MemoryArrayMode) {
         return;
     }
     const auto pivot = back ? history_.begin() + 1 : history_.end() - 1;
     std::rotate(history_.begin(), pivot, history_.end());
-    setUp(history_.front());
+    lay(history_.front());
     calc.s.SkipModifierRelease = true;
 }
 
@@ -182,14 +208,10 @@ void KeypadModel::tickMenu(Keypad keypad) {
 }
 
 void KeypadModel::showHint(Keypad keypad) {
-    if (keypad != Keypad::Engineering && keypad != Keypad::Magnetics) {
+    if (!unitsMatter(keypad) || hinted_ || !hintDue || !hintDue(keypad)) {
         return;
     }
-    bool& hinted = hinted_[keypad == Keypad::Magnetics ? 1 : 0];
-    if (hinted || !hintDue || !hintDue(keypad)) {
-        return;
-    }
-    hinted = true;
+    hinted_ = true;
     calc.message(BoxKind::Plain, std::string(keypadTable(keypad).name) + " Keypad",
                  "Right click any of the light colored Buttons to\nchange the units used for that function, and "
                  "the\nyellow buttons perform multiple calculations!");

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace tallyforge {
@@ -19,15 +20,21 @@ class KeypadModel {
 public:
     explicit KeypadModel(Engine& calculator);
 
-    /// Lays `keypad` over the bank, plain, and puts it into the history.
+    /// Lays `keypad` over the bank, plain, and puts it into the history. Nothing in memory array
+    /// mode, where the bank is the registers.
     void show(Keypad keypad);
-    /// Paints the present keypad plain again.
+    /// The same without history and hint, for a keypad that is lent for one key.
+    void lay(Keypad keypad);
+    /// Paints the present keypad plain again and puts the lamps out.
     void repaint();
-    /// Paints the captions of `mask`; a key without a meaning under it vanishes.
+    /// Paints the captions of `mask` (0: the plain ones); a key without a meaning under it
+    /// vanishes. Nothing where key painting is off, or the bank shows something else.
     void paint(std::uint8_t mask);
 
+    /// One keypad on, or back, in the cycle of the Down and Up keys.
     void next();
     void previous();
+    /// One keypad back, or on, in the ring of those that were shown.
     void historyBack();
     void historyForward();
 
@@ -36,9 +43,13 @@ public:
 
     /// Counts a hint of the Engineering or Magnetics keypad; returns whether it is still due.
     std::function<bool(Keypad)> hintDue;
+    /// Writes the captions and tool tips that depend on the chosen units over those of the rows.
+    std::function<void(Keypad)> dressUnits;
+    /// Key of the Convert keypad that holds the last conversion.
+    std::optional<int> markedConvertKey;
 
 private:
-    void setUp(Keypad keypad);
+    void paintPlain();
     void leaveBinary();
     void enterBinary();
     void remember(Keypad keypad);
@@ -46,10 +57,11 @@ private:
     void step(int direction);
     void tickMenu(Keypad keypad);
     void showHint(Keypad keypad);
+    [[nodiscard]] bool bankIsLent() const;
 
     Engine& calc;
     std::vector<Keypad> history_;  ///< newest first
-    bool hinted_[2] = {false, false};
+    bool hinted_ = false;
 };
 
 }  // namespace tallyforge

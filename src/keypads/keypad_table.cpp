@@ -15,8 +15,9 @@ constexpr std::array<const KeypadTable*, 7> kTables{&kStandardKeypad,     &kTabl
 }  // namespace
 
 const KeypadTable& keypadTable(Keypad keypad) {
+    const Keypad lender = keypad == Keypad::LetterDrill ? Keypad::Tables : keypad;
     const auto* const found = std::find_if(kTables.begin(), kTables.end(),
-                                           [keypad](const KeypadTable* table) { return table->id == keypad; });
+                                           [lender](const KeypadTable* table) { return table->id == lender; });
     return found == kTables.end() ? kStandardKeypad : **found;
 }
 

@@ -75,6 +75,8 @@ struct KeyRow {
     int helpTopic = 0;
     /// What the key does; nothing while it is not built yet.
     void (*does)(Keys&) = nullptr;
+    /// Ctrl with the right button on a light blue key: chooses its units or material.
+    void (*choose)(Keys&) = nullptr;
 };
 
 struct KeypadTable {

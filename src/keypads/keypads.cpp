@@ -77,16 +77,22 @@ void Keypads::optKey_Click(int index) {
     if (index != kNone) {
         s.ModifierMask = static_cast<std::uint8_t>(index + 1);
         s.ModifierLatched = true;
-        if (!s.NoKeyPaint && !s.MemoryArrayMode && !s.ProgramMode) {
-            model.paint(s.ModifierMask);
-        }
+        model.paint(s.ModifierMask);
     }
     calc.LightModifiers(s.ModifierMask);
     calc.focusEntry();
 }
 
-// No conversion is stored on a key yet, so there is none to perform.
 void Keypads::PerformConvertFn() {
+    EngineState& s = calc.s;
+    const Keypad shown = s.ActiveKeypad;
+    const bool bankIsLent = shown == Keypad::Program || shown == Keypad::MemoryArray;
+    if (model.markedConvertKey && !bankIsLent) {
+        model.lay(Keypad::Convert);
+        s.ModifierMask = 0;
+        dispatch.cmdFunctions_Click(*model.markedConvertKey);
+        model.lay(shown);
+    }
     calc.focusEntry();
 }
 

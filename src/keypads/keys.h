@@ -4,12 +4,14 @@
 // of the keypad tables are handed one of these.
 #pragma once
 
+#include "engine/dialog_hand_over.h"
 #include "engine/engine.h"
 
 namespace tallyforge {
 
 struct Keys {
     Engine& calc;
+    DialogHandOver dialog{calc};
 };
 
 }  // namespace tallyforge

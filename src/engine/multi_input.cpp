@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/multi_input.h"
+
+#include "engine/engine.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tallyforge {
+
+MultiInput::Outcome MultiInput::press() {
+    EngineState& s = calc.s;
+    if ((s.FunctionResetMask & shape.resetBit) != 0) {
+        s.FunctionResetMask &= ~shape.resetBit;
+        clear();
+    }
+    if (nothingEntered()) {
+        clear();
+        s.Xreg = ValueCell::zero();
+        s.FnLabel = shape.resetLabel;
+        return Outcome::Reset;
+    }
+    const bool recalculates = shape.shiftRecalculates && (s.ModifierMask & kShift) != 0;
+    const KeyInput* input = named(recalculates ? static_cast<std::uint8_t>(s.ModifierMask - kShift) : s.ModifierMask);
+    if (input == nullptr) {
+        s.Xreg = kNoMeaning;
+        return Outcome::NoMeaning;
+    }
+    valueOf(*input) = calc.xNumber();
+    if (received_ == 0) {
+        savedStackPtr_ = s.StackPtr;
+    }
+    received_ |= input->bit;
+    // The quantity that was solved for last is no input of that set, so it starts a new one.
+    if (recalculates && received_ == input->bit && (lastSet_ & input->bit) != 0) {
+        received_ = lastSet_;
+    }
+    if (const KeySolution* solved = solution(); solved != nullptr) {
+        deliver(*solved, *input, recalculates);
+        return Outcome::Solved;
+    }
+    takePlace();
+    s.FnLabel = input->label;
+    return Outcome::Stored;
+}
+
+void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool showsAll) {
+    EngineState& s = calc.s;
+    double result = 0.0;
+    try {
+        result = solved.solve(values_);
+        if (!std::isfinite(result)) {
+            throw Failure{FailureNumber::Overflow};
+        }
+    } catch (const Failure&) {
+        received_ &= static_cast<std::uint8_t>(~last.bit);
+        throw;
+    }
+    takePlace();
+    for (const KeyInput& input : shape.inputs) {
+        if (showsAll && input.bit != last.bit && (received_ & input.bit) != 0) {
+            writeInput(input);
+        }
+    }
+    writeInput(last);
+    lastSet_ = received_;
+    received_ = 0;
+    savedStackPtr_ = 0;
+    s.Xreg = result;
+    s.FnLabel = solved.label;
+    s.ValueInXreg = true;
+    if (shape.autoDigits) {
+        calc.display.SaveDisplay(2);
+        calc.commit.AutoDigits();
+    }
+}
+
+void MultiInput::writeInput(const KeyInput& input) {
+    calc.s.Xreg = valueOf(input);
+    calc.s.FnLabel = input.label;
+    calc.s.ValueInXreg = true;
+    calc.commit.cmdEnter_Click();
+}
+
+// The commit that follows replaces the element of the first input; what was typed since lies above
+// it and goes.
+void MultiInput::takePlace() {
+    calc.s.StackPtr = std::min(calc.s.StackPtr, savedStackPtr_);
+    calc.s.EntryOpen = false;
+}
+
+void MultiInput::clear() {
+    values_ = {};
+    received_ = 0;
+    lastSet_ = 0;
+    savedStackPtr_ = 0;
+}
+
+bool MultiInput::nothingEntered() const {
+    const ValueCell& x = calc.s.Xreg;
+    return x.isEmpty() || x.isEmptyText() || (shape.zeroResets && calc.xNumber() == 0.0);
+}
+
+const KeyInput* MultiInput::named(std::uint8_t mask) const {
+    const auto found = std::find_if(shape.inputs.begin(), shape.inputs.end(),
+                                    [mask](const KeyInput& input) { return input.mask == mask; });
+    return found == shape.inputs.end() ? nullptr : &*found;
+}
+
+const KeySolution* MultiInput::solution() const {
+    const auto found = std::find_if(shape.solutions.begin(), shape.solutions.end(),
+                                    [this](const KeySolution& solved) { return solved.bits == received_; });
+    return found == shape.solutions.end() ? nullptr : &*found;
+}
+
+double& MultiInput::valueOf(const KeyInput& input) {
+    return values_.at(static_cast<std::size_t>(&input - shape.inputs.data()));
+}
+
+}  // namespace tallyforge

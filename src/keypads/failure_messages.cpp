@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keypads/failure_messages.h"
+
+#include "platform/text.h"
+
+namespace tallyforge {
+
+namespace {
+
+constexpr int kPowerKey = 5;
+constexpr int kBaseConversionKey = 6;
+constexpr int kOctalKey = 21;
+
+}  // namespace
+
+std::string failureMessage(FailureNumber number, int index, const EngineState& state) {
+    switch (number) {
+        case FailureNumber::InvalidArgument:
+            if (state.FnLabel == "ûx"_t) {
+                return "Illegal operation (square root of negitive number)!";
+            }
+            return index == kPowerKey ? "Illegal operation - check for negitive numbers!" : "Error number 5";
+        case FailureNumber::Overflow:
+            // Kept from a numbering in which key 21 of the Convert keypad was the octal key.
+            if (index == kOctalKey && state.ActiveKeypad == Keypad::Convert) {
+                return "Octal number outside of range: 17777777777 octal maximum";
+            }
+            if (index == kBaseConversionKey && state.ActiveKeypad == Keypad::Binary && state.BaseMode) {
+                return state.Xreg.isTagged() ? "Real number required!" : "Exceeded maximum number (1.845e19)!";
+            }
+            return std::string("Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
+        case FailureNumber::DivisionByZero:
+            return "Division by zero - be sure all variables are defined!";
+        case FailureNumber::ModifierNotValid:
+            return "That Extended key (or keys) not valid for that function,\nsee Help file or tooltip for applicable "
+                   "Extended keys";
+        case FailureNumber::BaseNumberRequired:
+            return "Binary number required in x-register!";
+        default:
+            return "Error number " + std::to_string(static_cast<int>(number));
+    }
+}
+
+}  // namespace tallyforge

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/file_store.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace tallyforge {
+
+namespace {
+
+/// An open file that closes itself.
+class Descriptor {
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() { close(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    [[nodiscard]] int number() const { return number_; }
+    [[nodiscard]] bool ok() const { return number_ >= 0; }
+    bool close() {
+        const int open = number_;
+        number_ = -1;
+        return open < 0 || ::close(open) == 0;
+    }
+
+private:
+    int number_;
+};
+
+FileProblem problemOf(int error) {
+    switch (error) {
+        case ENOENT:
+        case ENOTDIR:
+            return FileProblem::NotFound;
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return FileProblem::DiskFull;
+        default:
+            return FileProblem::NoAccess;
+    }
+}
+
+bool writeAll(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) {
+            return false;
+        }
+        if (written > 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+    }
+    return true;
+}
+
+void flushFolder(const std::filesystem::path& folder) {
+    const Descriptor open{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    if (open.ok()) {
+        // Some file systems cannot flush a folder; the file itself is safe by then.
+        static_cast<void>(::fsync(open.number()));
+    }
+}
+
+}  // namespace
+
+void writeWhole(const std::filesystem::path& path, std::string_view bytes) {
+    std::string temporary = path.string() + ".XXXXXX";
+    Descriptor file{::mkostemp(temporary.data(), O_CLOEXEC)};
+    if (!file.ok()) {
+        throw FileError{problemOf(errno)};
+    }
+    const bool written = writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 && file.close() &&
+                         std::rename(temporary.c_str(), path.c_str()) == 0;
+    if (!written) {
+        const FileProblem problem = problemOf(errno);
+        ::unlink(temporary.c_str());
+        throw FileError{problem};
+    }
+    flushFolder(path.has_parent_path() ? path.parent_path() : std::filesystem::path("."));
+}
+
+std::string readWhole(const std::filesystem::path& path, std::size_t limit) {
+    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+    if (!file.ok()) {
+        throw FileError{problemOf(errno)};
+    }
+    constexpr std::size_t kBlock = 65536;
+    std::string bytes;
+    for (;;) {
+        const std::size_t used = bytes.size();
+        bytes.resize(used + kBlock);
+        const ssize_t got = ::read(file.number(), bytes.data() + used, kBlock);
+        if (got < 0 && errno == EINTR) {
+            bytes.resize(used);
+            continue;
+        }
+        bytes.resize(used + (got > 0 ? static_cast<std::size_t>(got) : 0));
+        if (got < 0) {
+            throw FileError{problemOf(errno)};
+        }
+        if (bytes.size() > limit) {
+            throw FileError{FileProblem::TooLarge};
+        }
+        if (got == 0) {
+            return bytes;
+        }
+    }
+}
+
+}  // namespace tallyforge

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/calculator.h"
+
+#include <utility>
+
+namespace tallyforge {
+
+Calculator::Calculator(Platform& platform)
+    : engine_(platform),
+      keypads_(engine_),
+      stackKeys_(engine_),
+      entryLine_(engine_, stackKeys_),
+      registers_(engine_, settings_),
+      machineReset_(engine_),
+      tapeKeys_(engine_, settings_, registers_, machineReset_),
+      resetKey_(engine_, machineReset_, tapeKeys_),
+      viewKeys_(engine_, settings_),
+      lifeCycle_(engine_, settings_, viewKeys_),
+      clipboard_(engine_) {
+    hangEntry();
+    hangKeys();
+    hangOptions();
+    hangMenus();
+    hangLifeCycle();
+}
+
+void Calculator::hangEntry() {
+    Control& entry = engine_.form.txtXreg;
+    entry.keyDown = [this](KeyEvent event) { entryLine_.txtXreg_KeyDown(event); };
+    entry.keyPress = [this](int& keyAscii) { entryLine_.txtXreg_KeyPress(keyAscii); };
+    entry.keyUp = [this](KeyEvent event) { entryLine_.txtXreg_KeyUp(event); };
+    engine_.form.lstDisplayReg.doubleClick = [this] { tapeKeys_.lstDisplayReg_DblClick(); };
+    engine_.form.lstStack.click = [this] { tapeKeys_.lstStack_Click(); };
+    constexpr int kFieldTopic = 510;
+    const auto help = [this](MouseButton button, std::uint8_t /*shift*/) {
+        if (button == MouseButton::Right) {
+            engine_.platform.helpTopic(kFieldTopic);
+        }
+    };
+    for (Control* field : {&entry, &engine_.form.txtLastx, &engine_.form.txty_Reg}) {
+        field->mouseDown = help;
+    }
+    for (Control& field : engine_.form.txtReg_m) {
+        field.mouseDown = help;
+    }
+}
+
+void Calculator::hangKeys() {
+    MainForm& form = engine_.form;
+    form.cmdEnter.click = [this] { engine_.commit.cmdEnter_Click(); };
+    for (int i = 0; i < static_cast<int>(form.cmdNumPad.size()); ++i) {
+        form.cmdNumPad.at(static_cast<std::size_t>(i)).click = [this, i] { entryLine_.cmdNumPad_Click(i); };
+    }
+    form.cmdBackSpace.click = [this] { entryLine_.cmdBackSpace_Click(); };
+    form.cmdEex.click = [this] { entryLine_.cmdEex_Click(); };
+    form.cmdEsc.click = [this] { entryLine_.cmdEsc_Click(); };
+    form.cmdF11.click = [this] { entryLine_.cmdF11_Click(); };
+    form.cmdF12.click = [this] { entryLine_.cmdF12_Click(); };
+    form.cmdDown.click = [this] { stackKeys_.cmdDown_Click(); };
+    form.cmdXchgY.click = [this] { stackKeys_.cmdXchgY_Click(); };
+    form.cmdChs.click = [this] { stackKeys_.cmdChs_Click(); };
+    form.cmdLastx.click = [this] { stackKeys_.cmdLastx_Click(); };
+    form.cmdSTO.click = [this] { registers_.cmdSTO_Click(); };
+    form.cmdReset.click = [this] { resetKey_.cmdReset_Click(); };
+    form.cmdView.click = [this] { viewKeys_.cmdView_Click(); };
+    form.cmdDigits.click = [this] {
+        if (engine_.s.ModifierMask == kCtrl) {
+            viewKeys_.toggleTall();
+            engine_.ClearOptKeys();
+        } else {
+            engine_.display.cmdDigits_Click();
+        }
+    };
+    form.cmdDigits.mouseDown = [this](MouseButton button, std::uint8_t shift) {
+        constexpr int kDigitsTopic = 890;
+        constexpr int kWordSizeTopic = 1330;
+        if (button == MouseButton::Right && shift == 0) {
+            engine_.platform.helpTopic(engine_.s.BaseMode ? kWordSizeTopic : kDigitsTopic);
+        }
+    };
+    keypads_.dispatch.registerKey = [this](int index) { registers_.RegisterKey(index); };
+    keypads_.model.hintDue = [this](Keypad keypad) { return lifeCycle_.countNotice(keypad); };
+    keypads_.above.copy = [this] { clipboard_.mnuCopy_Click(); };
+    keypads_.above.paste = [this] { clipboard_.mnuPaste_Click(); };
+    keypads_.above.toggleMemoryArray = [this] { registers_.MemoryArray(); };
+}
+
+void Calculator::hangOptions() {
+    MainForm& form = engine_.form;
+    for (int i = 0; i < static_cast<int>(form.optFix.size()); ++i) {
+        form.optFix.at(static_cast<std::size_t>(i)).click = [this, i] {
+            engine_.display.optFix_Click(static_cast<DisplayMode>(i));
+        };
+    }
+    const std::pair<Control*, AngleMode> angles[] = {
+        {&form.optDeg, AngleMode::Degrees}, {&form.optRad, AngleMode::Radians}, {&form.optGrad, AngleMode::Grads}};
+    for (const auto& [option, mode] : angles) {
+        option->click = [this, chosen = mode] {
+            engine_.s.Angle = chosen;
+            engine_.focusEntry();
+        };
+    }
+}
+
+void Calculator::hangMenus() {
+    MainForm& form = engine_.form;
+    form.mnuAOT.click = [this] { lifeCycle_.mnuAOT_Click(); };
+    form.mnuLoad.click = [this] { lifeCycle_.mnuLoad_Click(); };
+    form.mnuPosition.click = [this] { lifeCycle_.mnuPosition_Click(); };
+    form.mnuSkins.click = [this] { lifeCycle_.mnuSkins_Click(); };
+    form.mnuCopy.click = [this] { clipboard_.mnuCopy_Click(); };
+    form.mnuPaste.click = [this] { clipboard_.mnuPaste_Click(); };
+    form.mnuSave.click = [this] { lifeCycle_.mnuSave_Click(); };
+    form.mnuSaveTape.click = [this] { tapeKeys_.mnuSaveTape_Click(); };
+    form.mnuTape.click = [this] { tapeKeys_.mnuTape_Click(); };
+    form.mnuSaveMem.click = [this] { registers_.mnuSaveMem_Click(); };
+    form.mnuRetMem.click = [this] { registers_.mnuRetMem_Click(); };
+    form.mnuFileExit.click = [this] { lifeCycle_.Form_Unload(); };
+}
+
+void Calculator::hangLifeCycle() {
+    MainForm& form = engine_.form;
+    form.load = [this] { lifeCycle_.Form_Load(); };
+    form.activate = [this] { lifeCycle_.Form_Activate(); };
+    form.deactivate = [this] { lifeCycle_.Form_Deactivate(); };
+    form.close = [this] { lifeCycle_.Form_Unload(); };
+}
+
+void Calculator::start() {
+    engine_.form.load();
+    if (engine_.form.open) {
+        engine_.form.activate();
+    }
+}
+
+std::optional<std::size_t> Calculator::rowOf(const Control& list, int number) const {
+    int row = number - 1;
+    if (list.rows == &engine_.tape) {
+        row += engine_.tape.fillers();
+    } else if (list.rows == &engine_.stackList) {
+        row = number - engine_.stackList.element(0);
+    }
+    const bool there =
+        number >= 1 && row >= 0 && list.rows != nullptr && static_cast<std::size_t>(row) < list.rows->count();
+    return there ? std::optional{static_cast<std::size_t>(row)} : std::nullopt;
+}
+
+}  // namespace tallyforge

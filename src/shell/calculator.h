@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The whole calculator, put together: the main form with every handler hung on it. A desktop makes
+// one of these, calls start(), renders engine().form and passes input to form_input.h.
+#pragma once
+
+#include "engine/engine.h"
+#include "engine/entry_line.h"
+#include "engine/life_cycle.h"
+#include "engine/machine_reset.h"
+#include "engine/memory_registers.h"
+#include "engine/reset_key.h"
+#include "engine/settings_file.h"
+#include "engine/stack_keys.h"
+#include "engine/tape_keys.h"
+#include "engine/view_keys.h"
+#include "keypads/keypads.h"
+#include "shell/clipboard.h"
+
+#include <cstddef>
+#include <optional>
+
+namespace tallyforge {
+
+class Calculator {
+public:
+    explicit Calculator(Platform& platform);
+    Calculator(const Calculator&) = delete;
+    Calculator& operator=(const Calculator&) = delete;
+
+    /// Loads the form and activates it. The form is closed again where the start fails.
+    void start();
+
+    [[nodiscard]] Engine& engine() { return engine_; }
+    [[nodiscard]] const Engine& engine() const { return engine_; }
+
+    /// Row of a list by the number that a user gives it: tape line from 1 without the filler
+    /// lines, or stack element. Empty where there is no such row.
+    [[nodiscard]] std::optional<std::size_t> rowOf(const Control& list, int number) const;
+
+private:
+    void hangEntry();
+    void hangKeys();
+    void hangOptions();
+    void hangMenus();
+    void hangLifeCycle();
+
+    Engine engine_;
+    Keypads keypads_;
+    StackKeys stackKeys_;
+    EntryLine entryLine_;
+    SettingsFile settings_;
+    MemoryRegisters registers_;
+    MachineReset machineReset_;
+    TapeKeys tapeKeys_;
+    ResetKey resetKey_;
+    ViewKeys viewKeys_;
+    LifeCycle lifeCycle_;
+    Clipboard clipboard_;
+};
+
+}  // namespace tallyforge
