@@ -61,13 +61,12 @@ public:
     static constexpr int kTallGrowth = 300;
 
     /// Height of the strip with the modifier options below the bank.
-    static constexpr int kOptionStrip = 620;
+    static constexpr int kOptionStrip = 640;
 
     /// Places every control for `extraHeight` twips that the view adds to the lists, with the
     /// register column or without, and with the small registers that are visible.
     void arrange(bool extended = false, int extraHeight = 0);
-    /// Height of what stands inside the window's frame, twips.
-    [[nodiscard]] int clientHeight() const { return clientHeight_; }
+    [[nodiscard]] int contentHeight() const override { return contentHeight_; }
 
 private:
     /// What a control is before its first use.
@@ -93,7 +92,7 @@ private:
     void placeOptions(int top);
     void placeRegisters();
 
-    int clientHeight_ = 0;
+    int contentHeight_ = 0;
 };
 
 }  // namespace tallyforge

@@ -44,7 +44,7 @@ constexpr std::array<Cell, kBankKeys> kBankCells{{
 
 void MainForm::arrange(bool extended, int extraHeight) {
     const int extra = std::max(extraHeight, 0);
-    clientHeight_ = kBankTop + kBankHeight + kOptionStrip + extra;
+    contentHeight_ = kBankTop + kBankHeight + kOptionStrip + extra;
     placeLists(extended, extra);
     placeEntry(extended, extra);
     placeBank(kBankTop + extra);
@@ -140,7 +140,7 @@ void MainForm::placePad(int top) {
     const auto option = [&](Control& control, int column, int row) {
         control.place = {.left = left + column * kPadPitch,
                          .top = optionTop + row * (kOptionHeight + 16),
-                         .width = kPadKey + 40,
+                         .width = kPadKey + 50,
                          .height = kOptionHeight};
     };
     Control* const angles[] = {&optDeg, &optRad, &optGrad};
@@ -151,8 +151,8 @@ void MainForm::placePad(int top) {
 }
 
 void MainForm::placeOptions(int top) {
-    fraKeyboard.place = {.left = kMargin, .top = top + 60, .width = 4280, .height = kOptionStrip - 120};
-    constexpr int kRowHeight = 180;
+    fraKeyboard.place = {.left = kMargin, .top = top, .width = 4280, .height = kOptionStrip - 30};
+    constexpr int kRowHeight = 190;
     struct Spot {
         int left;
         int row;
@@ -169,7 +169,7 @@ void MainForm::placeOptions(int top) {
     for (std::size_t i = 0; i < kSpots.size(); ++i) {
         const Spot& spot = kSpots.at(i);
         optKey.at(i).place = {
-            .left = spot.left, .top = top + 190 + spot.row * kRowHeight, .width = spot.width, .height = kRowHeight};
+            .left = spot.left, .top = top + 180 + spot.row * kRowHeight, .width = spot.width, .height = kRowHeight};
     }
     Control* const lamps[] = {&shaShift, &shaCtrl, &shaAlt};
     constexpr std::array<int, 3> kLampOf{0, 1, 3};
@@ -185,7 +185,7 @@ void MainForm::placeRegisters() {
     // Two columns of the array stand in one row of fields each; the first twelve are ever shown.
     constexpr int kShown = 12;
     constexpr int kLeft = 5330;
-    const int pitch = (clientHeight_ - kListTop) / kShown;
+    const int pitch = (contentHeight_ - kListTop) / kShown;
     for (int i = 0; i < kRegisters; ++i) {
         const int row = i % kShown;
         const int top = kListTop + row * pitch;

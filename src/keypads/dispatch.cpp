@@ -47,7 +47,6 @@ void Dispatch::cmdFunctions_Click(int index) {
         calc.focusEntry();
         return;
     }
-    nameProcedure();
     if (takenByMode(index)) {
         return;
     }
@@ -62,6 +61,7 @@ void Dispatch::cmdFunctions_Click(int index) {
 
 void Dispatch::press(const KeyRow& key) {
     EngineState& s = calc.s;
+    nameProcedure();
     const auto whenFailed = [&](const Failure& failure) { onFailure(failure, key.key); };
     goOn(whenFailed, [&] {
         bringXUpToDate(key);

@@ -143,6 +143,12 @@ void KeypadModel::paintRegisterNames() {
     }
 }
 
+// The bank is plain already when the arrow key comes up. The Tables keypad ignores key-ups, so there
+// the flag would wait for a modifier's.
+void KeypadModel::skipNextRelease() {
+    calc.s.SkipModifierRelease = !calc.s.TablesShown;
+}
+
 void KeypadModel::step(int direction) {
     if (calc.s.MemoryArrayMode) {
         return;
@@ -152,7 +158,7 @@ void KeypadModel::step(int direction) {
     const auto at = std::find(tables.begin(), tables.end(), present) - tables.begin();
     const auto count = static_cast<std::ptrdiff_t>(tables.size());
     show(tables[static_cast<std::size_t>((at + direction + count) % count)]->id);
-    calc.s.SkipModifierRelease = true;
+    skipNextRelease();
 }
 
 void KeypadModel::next() {
@@ -180,7 +186,7 @@ void KeypadModel::rotateHistory(bool back) {
     const auto pivot = back ? history_.begin() + 1 : history_.end() - 1;
     std::rotate(history_.begin(), pivot, history_.end());
     lay(history_.front());
-    calc.s.SkipModifierRelease = true;
+    skipNextRelease();
 }
 
 void KeypadModel::historyBack() {

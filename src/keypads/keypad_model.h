@@ -55,6 +55,7 @@ private:
     void remember(Keypad keypad);
     void rotateHistory(bool back);
     void step(int direction);
+    void skipNextRelease();
     void tickMenu(Keypad keypad);
     void showHint(Keypad keypad);
     [[nodiscard]] bool bankIsLent() const;

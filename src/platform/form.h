@@ -126,6 +126,9 @@ public:
     std::function<void()> deactivate;
     std::function<void()> close;  ///< the close button; clears `open` if it agrees
 
+    /// Height of what stands inside the window's frame, below a menu bar; twips.
+    [[nodiscard]] virtual int contentHeight() const { return place.height; }
+
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
     /// The control of that name and index, or nullptr.
     [[nodiscard]] Control* find(std::string_view controlName, int index = kNoIndex) const;

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// tallyforge: the calculator in its window. With --render FILE.png [SCRIPT] it draws the window as
+// it stands after a key script into a picture, and ends.
+#include "platform/headless/key_script.h"
+#include "platform/qt/control_widget.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/main_window.h"
+#include "platform/qt/qt_platform.h"
+#include "shell/calculator.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QPalette>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+namespace {
+
+using namespace tallyforge;
+
+QPalette darkPalette() {
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(0x23, 0x26, 0x2B));
+    palette.setColor(QPalette::WindowText, QColor(0xEC, 0xEE, 0xF1));
+    palette.setColor(QPalette::Base, QColor(0x15, 0x18, 0x1C));
+    palette.setColor(QPalette::Text, QColor(0xEC, 0xEE, 0xF1));
+    palette.setColor(QPalette::Button, QColor(0x39, 0x3E, 0x45));
+    palette.setColor(QPalette::ButtonText, QColor(0xEC, 0xEE, 0xF1));
+    return palette;
+}
+
+/// Runs the script without a desktop and draws the form that it leaves.
+int render(const QString& picture, const QString& script, double scale) {
+    const QTemporaryDir folder;
+    HeadlessOptions options;
+    options.data = folder.path().toStdString();
+    std::ostringstream complaints;
+    KeyScript keys(
+        options, [](std::string_view) {}, [&](std::string_view line) { complaints << line << '\n'; });
+    std::ifstream file(script.toStdString());
+    std::istringstream nothing;
+    std::istream& input = script.isEmpty() ? static_cast<std::istream&>(nothing) : file;
+    if (keys.run(input) == ScriptEnd::WrongScript) {
+        std::cerr << complaints.str();
+        return 2;
+    }
+    qt::MainWindow window(keys.calculator().engine().form, '.');
+    window.present();
+    const QSize usual = window.size();
+    window.resize(usual * scale);
+    window.show();
+    QApplication::processEvents();
+    if (!window.grab().save(picture)) {
+        std::cerr << "tallyforge: cannot write " << picture.toStdString() << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+int showWindow() {
+    qt::QtPlatform platform;
+    Calculator calculator(platform);
+    calculator.start();
+    MainForm& form = calculator.engine().form;
+    if (!form.open) {
+        return 1;
+    }
+    qt::MainWindow window(form, calculator.engine().s.DecimalChar);
+    platform.setWindow(&window);
+    window.present();
+    window.show();
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Tallyforge");
+    QApplication::setDesktopFileName("tallyforge");
+    qt::installAccessibility();
+    QStringList words = QApplication::arguments().mid(1);
+    if (words.removeAll("--dark") > 0) {
+        QApplication::setPalette(darkPalette());
+    }
+    double scale = 1.0;
+    if (const qsizetype at = words.indexOf("--scale"); at >= 0 && at + 1 < words.size()) {
+        scale = words.at(at + 1).toDouble();
+        words.remove(at, 2);
+    }
+    if (words.size() >= 2 && words.front() == "--render" && scale > 0.0) {
+        return render(words.at(1), words.value(2), scale);
+    }
+    if (!words.isEmpty()) {
+        std::cerr << "usage: tallyforge [--render FILE.png [SCRIPT]] [--scale N] [--dark]\n";
+        return 2;
+    }
+    return showWindow();
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The main form's window: menu bar, the rendered form, and what the desktop tells a window.
+#pragma once
+
+#include "platform/form.h"
+#include "platform/qt/form_view.h"
+
+#include <QMainWindow>
+
+#include <vector>
+
+class QAction;
+class QMenu;
+
+namespace tallyforge::qt {
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    MainWindow(Form& form, char decimal);
+
+    [[nodiscard]] FormView& view() { return *view_; }
+    /// Shows the form's size, place and menu as they are now. To be called once it is loaded.
+    void present();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+
+private:
+    void buildMenus();
+    void syncMenus();
+    void syncWindow();
+    void choose(Control& entry);
+
+    struct MenuAction {
+        Control* entry;
+        QAction* action;
+    };
+    Form& form_;
+    FormView* view_;
+    std::vector<MenuAction> actions_;
+    int shownWidth_ = 0;
+    int shownHeight_ = 0;
+    bool onTop_ = false;
+    bool presented_ = false;
+};
+
+}  // namespace tallyforge::qt

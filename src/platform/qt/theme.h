@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Colours and fonts of the window, for a light and a dark desktop. Text keeps a contrast of at
+// least 4.5 to 1 on what it stands on.
+#pragma once
+
+#include "platform/form.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+namespace tallyforge::qt {
+
+struct Theme {
+    QColor window;
+    QColor text;
+    QColor dimText;
+    QColor keyPlain;
+    QColor keyYellow;
+    QColor keyBlue;
+    QColor keyEdge;
+    QColor field;
+    QColor fieldText;
+    QColor fieldEdge;
+    QColor selection;
+    QColor lamp;
+
+    [[nodiscard]] const QColor& keyFace(KeyColour colour) const;
+    /// The theme for a desktop of this palette: dark where its windows are.
+    [[nodiscard]] static const Theme& forPalette(const QPalette& palette);
+};
+
+/// The font for `font` with text `pixels` high.
+[[nodiscard]] QFont faceFont(const Font& font, double pixels);
+
+/// Pixels that a font of `points` is high where a twip is `pixelsPerTwip` wide.
+[[nodiscard]] double fontPixels(const Font& font, double pixelsPerTwip);
+
+}  // namespace tallyforge::qt

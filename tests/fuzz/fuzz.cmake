@@ -1,0 +1,11 @@
+# libFuzzer targets; the whole tree is then built by clang.
+if(TALLYFORGE_FUZZ)
+  file(GLOB targets CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/fuzz/*.cpp)
+  foreach(target ${targets})
+    get_filename_component(name ${target} NAME_WE)
+    add_executable(fuzz_${name} ${target})
+    target_link_libraries(fuzz_${name} PRIVATE tallyforge_core)
+    target_compile_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+    target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+  endforeach()
+endif()

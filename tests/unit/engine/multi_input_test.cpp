@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The idiom on a small key: two resistors in parallel and their total, any two of which give the
+// third.
+#include "engine/multi_input.h"
+
+#include "unit/engine/engine_fixture.h"
+
+namespace tallyforge {
+namespace {
+
+constexpr std::uint32_t kResetBit = 1024;
+
+constexpr KeyInput kInputs[] = {{.mask = 0, .bit = 1, .label = "RT"},
+                                {.mask = kCtrl, .bit = 2, .label = "R1"},
+                                {.mask = kAlt, .bit = 4, .label = "R2"}};
+
+double parallel(double a, double b) {
+    if (a == 0.0 || b == 0.0) {
+        throw Failure{FailureNumber::DivisionByZero};
+    }
+    return 1.0 / (1.0 / a + 1.0 / b);
+}
+
+double other(double total, double one) {
+    return 1.0 / (1.0 / total - 1.0 / one);
+}
+
+constexpr KeySolution kSolutions[] = {
+    {.bits = 3, .label = "R2", .solve = [](const InputValues& v) { return other(v[0], v[1]); }},
+    {.bits = 5, .label = "R1", .solve = [](const InputValues& v) { return other(v[0], v[2]); }},
+    {.bits = 6, .label = "RT", .solve = [](const InputValues& v) { return parallel(v[1], v[2]); }},
+};
+
+class MultiInputTest : public EngineTest {
+protected:
+    /// A press as the dispatch makes it, the number in X typed before.
+    MultiInput::Outcome pressKeyOf(MultiInput& input, std::uint8_t mask, std::string_view typed = {}) {
+        type(typed);
+        calc.s.ModifierMask = mask;
+        calc.s.SkipCommitTail = calc.s.EntryOpen;
+        calc.commit.FetchX();
+        calc.s.SkipCommitTail = false;
+        calc.s.LastX = calc.s.Xreg;
+        const MultiInput::Outcome outcome = input.press();
+        calc.s.ModifierMask = 0;
+        calc.s.EntryTouched = false;
+        if (outcome == MultiInput::Outcome::NoMeaning) {
+            calc.s.Xreg = "";
+            calc.s.ValueInXreg = false;
+            calc.setEntry({});
+            return outcome;
+        }
+        calc.s.ValueInXreg = true;
+        calc.commit.cmdEnter_Click();
+        calc.display.RestoreDisplay();
+        return outcome;
+    }
+    MultiInput::Outcome press(std::uint8_t mask, std::string_view typed = {}) { return pressKeyOf(key, mask, typed); }
+    std::string line(std::size_t backwards) const { return calc.tape.row(calc.tape.count() - backwards); }
+
+    MultiInput key{calc, {.resetLabel = "Reset RT", .resetBit = kResetBit, .inputs = kInputs, .solutions = kSolutions}};
+    using Outcome = MultiInput::Outcome;
+};
+
+TEST_F(MultiInputTest, TwoInputsGiveTheThird) {
+    EXPECT_EQ(press(kCtrl, "100"), Outcome::Stored);
+    EXPECT_EQ(press(kAlt, "25"), Outcome::Solved);
+    EXPECT_EQ(x(), "20");
+    EXPECT_EQ(line(3), "R1               100.00");
+    EXPECT_EQ(line(2), "R2                25.00");
+    EXPECT_EQ(line(1), "RT                20.00");
+    EXPECT_EQ(lastx(), "25");
+}
+
+TEST_F(MultiInputTest, AnyPairInAnyOrderDetermines) {
+    press(kAlt, "25");
+    EXPECT_EQ(press(0, "20"), Outcome::Solved);
+    EXPECT_DOUBLE_EQ(calc.xNumber(), 100.0);
+    press(0, "20");
+    EXPECT_EQ(press(kCtrl, "100"), Outcome::Solved);
+    EXPECT_DOUBLE_EQ(calc.xNumber(), 25.0);
+}
+
+TEST_F(MultiInputTest, InputsAndResultTakeOnePlaceOnTheStack) {
+    commitText("7");
+    press(kCtrl, "100");
+    EXPECT_EQ(calc.s.depth(), 2);
+    press(kAlt, "25");
+    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(element(1), "7");
+    EXPECT_EQ(element(2), "20");
+    EXPECT_EQ(y(), "7");
+}
+
+TEST_F(MultiInputTest, AnInputMayBeComputedOnTheStack) {
+    commitText("7");
+    press(kCtrl, "100");
+    commitText("20");
+    commitText("5");
+    calc.commit.lowerStack(2);
+    calc.s.Xreg = 25.0;
+    calc.s.ValueInXreg = true;
+    calc.commit.cmdEnter_Click();
+    EXPECT_EQ(press(kAlt), Outcome::Solved);
+    EXPECT_EQ(x(), "20");
+    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(element(1), "7");
+}
+
+TEST_F(MultiInputTest, AnInputThatStandsOnTheStackAlreadyIsReplacedInItsPlace) {
+    commitText("7");
+    commitText("100");
+    press(kCtrl);
+    EXPECT_EQ(calc.s.depth(), 2);
+    press(kAlt, "25");
+    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(element(1), "7");
+}
+
+TEST_F(MultiInputTest, AnInputGivenTwiceReplacesItsFormerValue) {
+    press(kCtrl, "50");
+    EXPECT_EQ(press(kCtrl, "100"), Outcome::Stored);
+    EXPECT_EQ(key.received(), 2);
+    press(kAlt, "25");
+    EXPECT_EQ(x(), "20");
+    EXPECT_EQ(calc.s.depth(), 1);
+}
+
+TEST_F(MultiInputTest, ShiftComputesAgainFromTheStoredOthersAndShowsThem) {
+    press(kCtrl, "100");
+    press(kAlt, "25");
+    EXPECT_EQ(press(kAlt | kShift, "100"), Outcome::Solved);
+    EXPECT_EQ(x(), "50");
+    EXPECT_EQ(line(3), "R1               100.00");
+    EXPECT_EQ(line(2), "R2               100.00");
+    EXPECT_EQ(line(1), "RT                50.00");
+    EXPECT_EQ(press(kCtrl | kShift, "300"), Outcome::Solved);
+    EXPECT_EQ(x(), "75");
+}
+
+TEST_F(MultiInputTest, ShiftNamesTheSameInput) {
+    EXPECT_EQ(press(kShift, "20"), Outcome::Stored);
+    EXPECT_EQ(key.received(), 1);
+    EXPECT_EQ(press(kShift | kCtrl, "100"), Outcome::Solved);
+    EXPECT_DOUBLE_EQ(calc.xNumber(), 25.0);
+}
+
+TEST_F(MultiInputTest, TheQuantitySolvedForStartsANewSetEvenWithShift) {
+    press(kCtrl, "100");
+    press(kAlt, "25");
+    EXPECT_EQ(press(kShift, "10"), Outcome::Stored);
+    EXPECT_EQ(key.received(), 1);
+}
+
+TEST_F(MultiInputTest, WithoutShiftAnotherPressStartsANewSet) {
+    press(kCtrl, "100");
+    press(kAlt, "25");
+    EXPECT_EQ(press(kAlt, "50"), Outcome::Stored);
+    EXPECT_EQ(key.received(), 4);
+}
+
+TEST_F(MultiInputTest, NothingEnteredClearsTheStoredInputs) {
+    press(kCtrl, "100");
+    EXPECT_EQ(press(0, "0"), Outcome::Reset);
+    EXPECT_EQ(lastLine(), "Reset RT           0.00");
+    EXPECT_EQ(key.received(), 0);
+    EXPECT_EQ(press(kAlt, "25"), Outcome::Stored);
+}
+
+TEST_F(MultiInputTest, OnAnEmptyStackThePressIsAReset) {
+    EXPECT_EQ(press(0), Outcome::Reset);
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(calc.s.depth(), 0);
+}
+
+TEST_F(MultiInputTest, AKeyMayTakeZeroAsAnInput) {
+    MultiInput zeroes{calc, {.inputs = kInputs, .solutions = kSolutions, .zeroResets = false}};
+    EXPECT_EQ(pressKeyOf(zeroes, kCtrl, "0"), Outcome::Stored);
+}
+
+TEST_F(MultiInputTest, TheResetBitClearsTheStateOnceAtTheNextPress) {
+    press(kCtrl, "100");
+    EXPECT_EQ(calc.s.FunctionResetMask & kResetBit, 0U) << "the first press has taken it";
+    calc.s.FunctionResetMask = 0x7FFFFFFF;
+    EXPECT_EQ(press(kAlt, "25"), Outcome::Stored);
+    EXPECT_EQ(calc.s.FunctionResetMask, 0x7FFFFFFFU - kResetBit);
+    EXPECT_EQ(key.received(), 4);
+}
+
+TEST_F(MultiInputTest, AfterAResetShiftHasNothingToComputeFrom) {
+    press(kCtrl, "100");
+    press(kAlt, "25");
+    calc.s.FunctionResetMask |= kResetBit;
+    EXPECT_EQ(press(kAlt | kShift, "50"), Outcome::Stored);
+}
+
+TEST_F(MultiInputTest, ModifiersThatNameNoInputHaveNoMeaning) {
+    commitText("5");
+    const std::size_t lines = calc.tape.lines();
+    for (const auto mask : {kCtrl | kAlt, kShift | kCtrl | kAlt}) {
+        EXPECT_EQ(press(static_cast<std::uint8_t>(mask)), Outcome::NoMeaning);
+    }
+    EXPECT_EQ(key.received(), 0);
+    EXPECT_EQ(calc.tape.lines(), lines);
+}
+
+TEST_F(MultiInputTest, AFailedSolutionLeavesTheStackAndTheOtherInputs) {
+    commitText("7");
+    press(0, "100");
+    type("100");
+    calc.s.ModifierMask = kCtrl;
+    calc.commit.FetchX();
+    const int pointer = calc.s.StackPtr;
+    EXPECT_THROW(key.press(), Failure) << "both alike: the other one is infinite";
+    EXPECT_EQ(calc.s.StackPtr, pointer);
+    EXPECT_EQ(key.received(), 1);
+    calc.s.ValueInXreg = true;
+    calc.commit.cmdEnter_Click();
+    EXPECT_EQ(press(kCtrl, "200"), Outcome::Solved);
+    EXPECT_DOUBLE_EQ(calc.xNumber(), 200.0);
+    EXPECT_EQ(element(1), "7");
+}
+
+TEST_F(MultiInputTest, ADropBetweenTheInputsDoesNotRaiseTheStack) {
+    commitText("7");
+    press(kCtrl, "100");
+    stackKeys.cmdDown_Click();
+    stackKeys.cmdDown_Click();
+    ASSERT_EQ(calc.s.depth(), 0);
+    EXPECT_EQ(press(kAlt, "25"), Outcome::Solved);
+    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(element(1), "20");
+}
+
+TEST_F(MultiInputTest, TheUsersFormatReturnsAfterTheResult) {
+    calc.s.DisplayDigits = 5;
+    press(kCtrl, "1e6");
+    press(kAlt, "1e6");
+    EXPECT_EQ(lastLine(), "RT          500.000e+03");
+    EXPECT_EQ(calc.s.DisplayDigits, 5);
+    EXPECT_EQ(calc.s.Mode, DisplayMode::Fixed);
+}
+
+}  // namespace
+}  // namespace tallyforge
