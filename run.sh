@@ -14,8 +14,8 @@ fi
 
 echo "There is no display here. The worked session of the README, by tallyforge-keys:"
 echo
-build/release/apps/tallyforge-keys docs/example.keys
+build/release/apps/tallyforge-keys tests/keys/worked_example.keys
 mkdir -p out
-QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false' build/release/apps/tallyforge --render out/tallyforge.png docs/example.keys 2>/dev/null
+QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false' build/release/apps/tallyforge --render out/tallyforge.png tests/keys/worked_example.keys 2>/dev/null
 echo
 echo "The window as it stands after that session: out/tallyforge.png"

@@ -31,7 +31,7 @@ std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_vi
              .prompt = "Please enter a file name (only 25 characters are used), or Click OK to accept the default.The "
                        "file is saved in the Oakhollow Application Data Folder. ",
              .preset = preset});
-        const auto path = inDataFolder(calc, entered);
+        auto path = inDataFolder(calc, entered);
         std::error_code ignored;
         if (!path || !std::filesystem::exists(*path, ignored) ||
             calc.question("File Exists!", path->filename().string() + " exists, do you want to overwrite it?")) {

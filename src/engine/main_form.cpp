@@ -60,6 +60,7 @@ void MainForm::dressLists() {
     put(lblCnvrt, "lblCnvrt", {.kind = ControlKind::Label, .spoken = "Conversion hint", .visible = false});
     put(lstDisplayReg, "lstDisplayReg",
         {.kind = ControlKind::List, .tip = " Running Tape Display ", .spoken = "Running tape", .font = kNumbers});
+    lstDisplayReg.fromBottom = true;
     put(lstStack, "lstStack", {.kind = ControlKind::List, .tip = " Stack ", .spoken = "Stack", .font = kNumbers});
     for (int i = 0; i < static_cast<int>(lblStkReg.size()); ++i) {
         put(lblStkReg.at(static_cast<std::size_t>(i)), "lblStkReg",

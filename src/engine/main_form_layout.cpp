@@ -58,6 +58,7 @@ void MainForm::placeLists(bool extended, int extra) {
     lblBank.place = {.left = kMargin, .top = kNameTop, .width = 1380, .height = kNameHeight};
     lblLists.place = {
         .left = kStackLeft - 144, .top = kNameTop, .width = kRight - kStackLeft + 144, .height = kNameHeight};
+    lblCnvrt.place = {.left = 1000, .top = kNameTop, .width = 2200, .height = kNameHeight};
     // The tape's width is its own: it grows once the filler lines are gone.
     const int tapeWidth = lstDisplayReg.place.width == 0 ? 2845 : lstDisplayReg.place.width;
     lstDisplayReg.place = {.left = kMargin, .top = kListTop, .width = tapeWidth, .height = kListHeight + extra};
@@ -101,7 +102,6 @@ void MainForm::placeBank(int top) {
         cmdFunctions.at(i).place = {
             .left = kMargin + cell.column * kPitch, .top = top + cell.row * kPitch, .width = kKey, .height = kKey};
     }
-    lblCnvrt.place = {.left = kMargin, .top = top + kBankHeight + 10, .width = 1840, .height = 200};
 }
 
 void MainForm::placePad(int top) {
@@ -140,7 +140,7 @@ void MainForm::placePad(int top) {
     const auto option = [&](Control& control, int column, int row) {
         control.place = {.left = left + column * kPadPitch,
                          .top = optionTop + row * (kOptionHeight + 16),
-                         .width = kPadKey + 50,
+                         .width = kPadKey + 62,
                          .height = kOptionHeight};
     };
     Control* const angles[] = {&optDeg, &optRad, &optGrad};

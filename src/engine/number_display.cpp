@@ -186,7 +186,7 @@ std::string NumberDisplay::EngFormat(double value, int digits, char decimal) {
     return text + std::to_string(std::abs(exponent));
 }
 
-void NumberDisplay::SetUpDisplay(std::string text) {
+void NumberDisplay::SetUpDisplay(const std::string& text) {
     EngineState& s = calc.s;
     s.CurrentProc = "SetUpDisplay";
     if (!calc.dialogOpen) {

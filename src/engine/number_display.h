@@ -30,7 +30,7 @@ public:
     [[nodiscard]] static std::string EngFormat(double value, int digits, char decimal);
 
     /// Joins `text` with FnLabel and writes the line or lines.
-    void SetUpDisplay(std::string text);
+    void SetUpDisplay(const std::string& text);
 
     /// Appends one line and redraws the stack list. Empties FnLabel.
     void Add2Display(std::string_view text);

@@ -84,6 +84,7 @@ struct Control {
     bool opaque = false;        ///< drawn without its text being looked at (a lamp)
     std::size_t caret = 0;      ///< fields: position of the caret
     std::size_t maxLength = 0;  ///< fields: most characters, 0 without a limit
+    bool fromBottom = false;    ///< lists: few rows stand at the bottom
     bool rightAligned = false;  ///< fields and labels
     std::string menu;           ///< menu entries: name of the menu that holds them
     ListRows* rows = nullptr;   ///< lists

@@ -5,6 +5,7 @@
 #include "platform/headless/headless_platform.h"
 
 #include <array>
+#include <utility>
 
 namespace tallyforge {
 
@@ -75,7 +76,10 @@ Lines registerLines(const Engine& calc) {
         line = joined(line, toUnicode(name.substr(0, lastLetter + 1), Face::Arial));
         line = joined(line, cellText(calc, cell));
         const std::string& shown = calc.form.txtReg_m.at(static_cast<std::size_t>(number) - 1).text;
-        lines.push_back(shown.empty() ? line : line + " [" + shown + "]");
+        if (!shown.empty()) {
+            line.append(" [").append(shown).append("]");
+        }
+        lines.push_back(std::move(line));
     }
     return lines;
 }

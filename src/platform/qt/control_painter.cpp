@@ -140,10 +140,15 @@ void paintField(QPainter& painter, const QRectF& area, const Control& control, c
 }
 
 void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
-    painter.setFont(faceFont(control.font, fontPixels(control.font, state.pixelsPerTwip) * 0.95));
+    const QString text = shownText(control);
+    double pixels = fontPixels(control.font, state.pixelsPerTwip) * 0.95;
+    while (pixels > 6.0 && QFontMetricsF(faceFont(control.font, pixels)).horizontalAdvance(text) > area.width()) {
+        pixels -= 1.0;
+    }
+    painter.setFont(faceFont(control.font, pixels));
     painter.setPen(theme.text);
     const Qt::Alignment side = control.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
-    painter.drawText(area, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip, shownText(control));
+    painter.drawText(area, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip, text);
 }
 
 void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
@@ -193,6 +198,10 @@ ListMetrics listMetrics(const Control& list, double height, double pixelsPerTwip
     ListMetrics metrics;
     metrics.rowHeight = twips * pixelsPerTwip * static_cast<double>(list.font.points) / 9.0;
     metrics.visibleRows = static_cast<std::size_t>(std::max(1.0, std::floor((height + 1.0) / metrics.rowHeight)));
+    if (list.fromBottom && list.rows != nullptr) {
+        const auto shown = static_cast<double>(std::min(metrics.visibleRows, list.rows->count()));
+        metrics.top = std::max(0.0, height - shown * metrics.rowHeight);
+    }
     return metrics;
 }
 
@@ -211,8 +220,8 @@ void paintList(QPainter& painter, const QRectF& area, const Control& list, std::
     const std::size_t last = std::min(list.rows->count(), first + rows.visibleRows);
     const double margin = 40.0 * state.pixelsPerTwip;
     for (std::size_t row = first; row < last; ++row) {
-        const QRectF place(area.left(), area.top() + static_cast<double>(row - first) * rows.rowHeight, area.width(),
-                           rows.rowHeight);
+        const QRectF place(area.left(), area.top() + rows.top + static_cast<double>(row - first) * rows.rowHeight,
+                           area.width(), rows.rowHeight);
         if (row == list.rows->selected()) {
             painter.fillRect(place.adjusted(1, 1, -1, 0), theme.selection);
         }

@@ -48,6 +48,7 @@ void paintLamp(QPainter& painter, const QRectF& area, const Theme& theme);
 struct ListMetrics {
     double rowHeight = 20.0;
     std::size_t visibleRows = 7;
+    double top = 0.0;  ///< where the first row stands
 };
 [[nodiscard]] ListMetrics listMetrics(const Control& list, double height, double pixelsPerTwip);
 /// Draws the rows from `first` on; what lies outside the area costs nothing.

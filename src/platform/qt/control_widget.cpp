@@ -220,7 +220,7 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
 std::size_t ControlWidget::rowAt(double y) const {
     const ListMetrics metrics = listMetrics(control_, height(), pixelsPerTwip_);
     return static_cast<std::size_t>(scrollBar_->value()) +
-           static_cast<std::size_t>(std::max(y, 0.0) / metrics.rowHeight);
+           static_cast<std::size_t>(std::max(y - metrics.top, 0.0) / metrics.rowHeight);
 }
 
 void ControlWidget::mousePressEvent(QMouseEvent* event) {

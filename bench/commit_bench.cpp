@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What a typed number and an arithmetic key cost, with little and with much on tape and stack.
+#include "platform/form_input.h"
+#include "shell/calculator.h"
+#include "support/test_platform.h"
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <string>
+
+namespace {
+
+using namespace tallyforge;
+
+/// A calculator with `lines` on the tape, half of them on the stack where `deep`.
+struct Machine {
+    explicit Machine(long lines, bool deep) {
+        calculator.start();
+        Engine& calc = calculator.engine();
+        for (long line = 0; line < lines; ++line) {
+            calc.s.Xreg = 1.25;
+            calc.s.ValueInXreg = true;
+            calc.s.EntryOpen = deep || calc.s.depth() < 1;
+            calc.commit.cmdEnter_Click();
+        }
+    }
+    TestPlatform platform;
+    Calculator calculator{platform};
+};
+
+/// 3.25 typed into the entry line, then +: two commits.
+void TypedNumberPlus(benchmark::State& state) {
+    Machine machine(state.range(0), state.range(1) != 0);
+    Engine& calc = machine.calculator.engine();
+    for (auto _ : state) {
+        calc.commit.BeginEntry();
+        calc.setEntry("3.25");
+        calc.keypads().cmdMath_Click(3);
+        benchmark::DoNotOptimize(calc.s.Xreg);
+    }
+}
+BENCHMARK(TypedNumberPlus)->Args({10, 0})->Args({1000000, 0})->Args({1000000, 1});
+
+/// One commit: a typed number and Enter.
+void OneCommit(benchmark::State& state) {
+    Machine machine(state.range(0), false);
+    Engine& calc = machine.calculator.engine();
+    for (auto _ : state) {
+        calc.commit.BeginEntry();
+        calc.setEntry("3.25");
+        calc.commit.cmdEnter_Click();
+        calc.s.StackPtr = 2;
+    }
+}
+BENCHMARK(OneCommit)->Arg(10)->Arg(1000000);
+
+/// Bytes of heap that a tape line takes with the value behind it.
+void MemoryPerTapeLine(benchmark::State& state) {
+    constexpr int kLines = 100000;
+    for (auto _ : state) {
+        Tape tape;
+        for (int line = 0; line < kLines; ++line) {
+            tape.add("+                  5.00", ValueCell{5.0});
+        }
+        benchmark::DoNotOptimize(tape.count());
+    }
+    state.counters["lines"] = kLines;
+}
+BENCHMARK(MemoryPerTapeLine);
+
+}  // namespace
