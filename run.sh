@@ -1,21 +1,24 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what is missing, builds the calculator, starts it. Without a display it runs the worked
-# session and draws the window into a picture instead.
+# session of the README and draws the window as it stands afterwards into a picture.
 set -euo pipefail
 cd "$(dirname "$0")"
 
 tools/setup.sh run
-[ -f build/release/build.ninja ] || cmake --preset release -DTALLYFORGE_TESTS=OFF -DTALLYFORGE_BENCH=OFF >/dev/null
-ninja -C build/release -j2 tallyforge tallyforge-keys | tail -n 1
+tools/build release tallyforge tallyforge-keys
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     exec build/release/apps/tallyforge "$@"
 fi
 
-echo "There is no display here. The worked session of the README, by tallyforge-keys:"
+session=tests/keys/worked_example.keys
+picture=out/tallyforge.png
+echo "There is no display here. The worked session of the README, $session, by tallyforge-keys:"
 echo
-build/release/apps/tallyforge-keys tests/keys/worked_example.keys
+build/release/apps/tallyforge-keys "$session"
+echo
 mkdir -p out
-QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false' build/release/apps/tallyforge --render out/tallyforge.png tests/keys/worked_example.keys 2>/dev/null
-echo
-echo "The window as it stands after that session: out/tallyforge.png"
+QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*.debug=false;*.info=false;qt.qpa.*=false' XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$PWD/out}" \
+    build/release/apps/tallyforge --render "$picture" "$session"
+echo "The window as it stands after that session: $picture"

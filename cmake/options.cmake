@@ -1,8 +1,20 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Compiler options that every target of ours is built with.
 add_library(tallyforge_options INTERFACE)
 target_include_directories(tallyforge_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(tallyforge_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # GCC 12 sees an overlap in every optimised assignment to a std::string (GCC bug 105329).
+  target_compile_options(tallyforge_options INTERFACE -Wno-restrict)
+endif()
 if(TALLYFORGE_SANITIZE)
-  target_compile_options(tallyforge_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(tallyforge_options INTERFACE
+                         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tallyforge_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# The compiler cache is used where there is one.
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()

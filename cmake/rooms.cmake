@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # A room is a folder of src/ and a library of its own. It sees the rooms that it names and those
 # below them; tools/check_layers checks the same on every #include.
 function(tallyforge_room name)

@@ -1,19 +1,33 @@
 #!/usr/bin/env bash
-# Installs what is missing from Debian's own archive. Called by run.sh and test.sh.
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Installs what is missing from Debian's own archive; does nothing where all of it is there.
 #   tools/setup.sh run     what building and running needs
-#   tools/setup.sh test    the same, and what the checks need
+#   tools/setup.sh test    the same, and what the tests and checks need
 set -euo pipefail
 
-run_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev fonts-dejavu-core)
-test_packages=(libgtest-dev libbenchmark-dev librapidcheck-dev clang clang-format clang-tidy libclang-rt-14-dev
-               python3 xvfb xauth)
-
-wanted=("${run_packages[@]}")
-[ "${1:-run}" = test ] && wanted+=("${test_packages[@]}")
+wanted=(g++ cmake ninja-build qt6-base-dev libgl-dev fonts-dejavu-core)
+case "${1:-run}" in
+    run)
+        # Qt speaks X11 by itself; on a desktop of Wayland alone it needs its plug-in.
+        if [ -n "${WAYLAND_DISPLAY:-}" ] && [ -z "${DISPLAY:-}" ]; then
+            wanted+=(qt6-wayland)
+        fi
+        ;;
+    test)
+        wanted+=(ccache python3 libgtest-dev librapidcheck-dev libbenchmark-dev
+                 clang libclang-rt-14-dev clang-format clang-tidy
+                 xvfb xauth xdotool openbox)
+        ;;
+    *)
+        echo "usage: tools/setup.sh [run|test]" >&2
+        exit 2
+        ;;
+esac
 
 missing=()
 for package in "${wanted[@]}"; do
-    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    status=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)
+    [ "$status" = "install ok installed" ] || missing+=("$package")
 done
 [ ${#missing[@]} -eq 0 ] && exit 0
 
@@ -23,5 +37,8 @@ if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || { echo "Please install these packages as root: ${missing[*]}" >&2; exit 1; }
     as_root=(sudo)
 fi
-"${as_root[@]}" apt-get update -qq
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+"${apt[@]}" update >"$log" 2>&1 || echo "The package lists could not all be refreshed; trying with those at hand." >&2
+"${apt[@]}" install -y --no-install-recommends "${missing[@]}" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }

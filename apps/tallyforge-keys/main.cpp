@@ -4,6 +4,8 @@
 #include "keypads/keypad_table.h"
 #include "platform/headless/key_script.h"
 
+#include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -50,28 +52,46 @@ public:
     std::filesystem::path path;
 };
 
+/// The whole of `text` as a number, or nothing.
+template <typename Number>
+std::optional<Number> readNumber(const std::string& text) {
+    Number value{};
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    return result.ec == std::errc{} && result.ptr == end ? std::optional{value} : std::nullopt;
+}
+
 std::optional<LocalTime> readTime(const std::string& text) {
     LocalTime time;
-    char end = 0;
-    const int fields = std::sscanf(text.c_str(), "%d-%d-%d %d:%d:%d%c", &time.year, &time.month, &time.day, &time.hour,
-                                   &time.minute, &time.second, &end);
-    const bool valid = fields == 6 && time.month >= 1 && time.month <= 12 && time.day >= 1 && time.day <= 31 &&
-                       time.hour >= 0 && time.hour <= 23 && time.minute >= 0 && time.minute <= 59 && time.second >= 0 &&
-                       time.second <= 59;
+    char behind = 0;
+    const int fields = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &time.year, &time.month, &time.day,
+                                   &time.hour, &time.minute, &time.second, &behind);
+    const std::chrono::year_month_day date{std::chrono::year{time.year},
+                                           std::chrono::month{static_cast<unsigned>(time.month)},
+                                           std::chrono::day{static_cast<unsigned>(time.day)}};
+    const bool valid = fields == 6 && date.ok() && time.hour >= 0 && time.hour <= 23 && time.minute >= 0 &&
+                       time.minute <= 59 && time.second >= 0 && time.second <= 59;
     return valid ? std::optional{time} : std::nullopt;
 }
 
-std::optional<double> readPositive(const std::string& text) {
-    char* end = nullptr;
-    const double value = std::strtod(text.c_str(), &end);
-    return !text.empty() && *end == '\0' && value > 0.0 ? std::optional{value} : std::nullopt;
+std::optional<int> readDotsPerInch(const std::string& text) {
+    constexpr int kFewest = 24;
+    constexpr int kMost = 1440;
+    const auto dots = readNumber<int>(text);
+    return dots && *dots >= kFewest && *dots <= kMost ? dots : std::nullopt;
+}
+
+std::optional<double> readTimeout(const std::string& text) {
+    constexpr double kMost = 1e6;
+    const auto seconds = readNumber<double>(text);
+    return seconds && *seconds > 0.0 && *seconds <= kMost ? seconds : std::nullopt;
 }
 
 /// Takes one option with its value; returns false where it makes no sense.
 bool takeOption(Call& call, const std::string& name, const std::string& value) {
-    if (name == "--data") {
+    if (name == "--data" && !value.empty()) {
         call.options.data = value;
-    } else if (name == "--home") {
+    } else if (name == "--home" && !value.empty()) {
         call.options.home = value;
     } else if (name == "--decimal" && (value == "point" || value == "comma")) {
         call.options.decimal = value == "point" ? '.' : ',';
@@ -79,15 +99,14 @@ bool takeOption(Call& call, const std::string& name, const std::string& value) {
         call.options.now = readTime(value);
         return call.options.now.has_value();
     } else if (name == "--seed") {
-        char* end = nullptr;
-        call.options.seed = std::strtoull(value.c_str(), &end, 10);
-        return !value.empty() && *end == '\0';
+        call.options.seed = readNumber<std::uint64_t>(value);
+        return call.options.seed.has_value();
     } else if (name == "--dpi") {
-        const auto dots = readPositive(value);
-        call.options.dotsPerInch = static_cast<int>(dots.value_or(0));
-        return call.options.dotsPerInch >= 24 && call.options.dotsPerInch <= 1440;
+        const auto dots = readDotsPerInch(value);
+        call.options.dotsPerInch = dots.value_or(call.options.dotsPerInch);
+        return dots.has_value();
     } else if (name == "--timeout") {
-        call.timeout = readPositive(value);
+        call.timeout = readTimeout(value);
         return call.timeout.has_value();
     } else {
         return false;
@@ -125,22 +144,42 @@ void listUnfinished() {
                 for (char& character : caption) {
                     character = character == '\n' ? ' ' : character;
                 }
-                std::cout << static_cast<int>(table->id) << ' ' << row.key << ' ' << caption << '\n';
+                std::printf("%d %d %s\n", static_cast<int>(table->id), row.key, caption.c_str());
             }
         }
     }
 }
 
+/// Standard output may be written by the script and flushed by the watch at once, so both use stdio.
+void printLine(std::string_view line) {
+    std::printf("%.*s\n", static_cast<int>(line.size()), line.data());
+}
+
+void complain(std::string_view line) {
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(line.size()), line.data());
+}
+
 /// Ends the program when its time is up, whatever it does by then.
-void watch(double seconds) {
-    std::thread([seconds] {
+void watch(double seconds, const std::filesystem::path& toRemove) {
+    std::thread([seconds, toRemove] {
         std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
-        std::cerr << "time is up\n" << std::flush;
+        complain("time is up");
+        std::fflush(stdout);
+        std::error_code ignored;
+        std::filesystem::remove_all(toRemove, ignored);
         std::_Exit(kTimeIsUp);
     }).detach();
 }
 
 int runScript(Call& call) {
+    std::ifstream file;
+    if (!call.script.empty()) {
+        file.open(call.script);
+        if (!file || std::filesystem::is_directory(call.script)) {
+            complain("tallyforge-keys: cannot read " + call.script);
+            return kWrongCall;
+        }
+    }
     std::optional<PrivateFolder> own;
     if (call.options.data.empty()) {
         own.emplace();
@@ -149,19 +188,11 @@ int runScript(Call& call) {
     if (call.options.home.empty()) {
         call.options.home = std::filesystem::read_symlink("/proc/self/exe").parent_path();
     }
-    std::ifstream file;
-    if (!call.script.empty()) {
-        file.open(call.script);
-        if (!file) {
-            std::cerr << "tallyforge-keys: cannot read " << call.script << '\n';
-            return kWrongCall;
-        }
+    if (call.timeout) {
+        watch(*call.timeout, own ? own->path : std::filesystem::path());
     }
-    KeyScript script(
-        call.options, [](std::string_view line) { std::cout << line << '\n'; },
-        [](std::string_view line) { std::cerr << line << '\n'; });
+    KeyScript script(call.options, printLine, complain);
     const ScriptEnd end = script.run(call.script.empty() ? std::cin : file);
-    std::cout << std::flush;
     return static_cast<int>(end);
 }
 
@@ -171,15 +202,12 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     auto call = readCall({argv + 1, argv + argc});
     if (!call) {
-        std::cerr << kUsage;
+        std::fputs(kUsage, stderr);
         return kWrongCall;
     }
     if (call->unfinished) {
         listUnfinished();
         return 0;
-    }
-    if (call->timeout) {
-        watch(*call->timeout);
     }
     return runScript(*call);
 }

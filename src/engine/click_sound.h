@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The soft click that says a register was stored.
+// The soft click that says a register was stored: the bytes of data/sound/click.wav.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace tallyforge {
 
-/// A WAVE file in memory: 8 bits, mono, 11025 Hz, 60 ms of a decaying tone.
+/// A WAVE file in memory.
 [[nodiscard]] std::span<const std::uint8_t> clickSound();
 
 }  // namespace tallyforge

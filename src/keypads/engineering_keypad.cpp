@@ -116,7 +116,7 @@ const KeypadTable kEngineeringKeypad{
          .silentOperand = true,
          .helpTopic = 1113},
         {.key = 14,
-         .caption = "aB",
+         .caption = {"aB", Face::Symbol},
          .tip = " Butterworth Response: n [Ctrl+Click] | f/fc [Click] | Recalc.[Shift+key+Click] ",
          .under = {.shift = " f/ fc", .ctrl = "n", .shiftCtrl = "n"},
          .silentOperand = true,

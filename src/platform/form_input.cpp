@@ -23,15 +23,16 @@ bool hearsKeys(const Control& control) {
 /// The control that hears the keyboard: the one with the focus, or the form's field that has key
 /// handlers where a key or an option took the focus, so that typing is never lost.
 Control* keyboardTarget(Form& form) {
-    if (form.focus != nullptr && (hearsKeys(*form.focus) || form.focus->kind == ControlKind::Field)) {
+    if (form.focus != nullptr && takesInput(*form.focus) &&
+        (hearsKeys(*form.focus) || form.focus->kind == ControlKind::Field)) {
         return form.focus;
     }
     for (Control* control : form.controls()) {
-        if (control->kind == ControlKind::Field && hearsKeys(*control)) {
+        if (control->kind == ControlKind::Field && takesInput(*control) && hearsKeys(*control)) {
             return control;
         }
     }
-    return form.focus;
+    return form.focus != nullptr && takesInput(*form.focus) ? form.focus : nullptr;
 }
 
 /// A handler may hang another one on the control, so it runs from a copy.
@@ -115,6 +116,30 @@ void selectOption(Form& form, Control& option) {
     }
 }
 
+/// The strokes that click a control: Enter, Esc, Alt with a letter, and Space on the key that has
+/// the keyboard. Returns whether the stroke was one of these.
+bool clicksByKey(Form& form, Control* target, KeyStroke stroke) {
+    if (stroke.keyCode == kKeyEnter && form.defaultKey != nullptr) {
+        click(form, *form.defaultKey);
+        return true;
+    }
+    if (stroke.keyCode == kKeyEscape && form.cancelKey != nullptr) {
+        click(form, *form.cancelKey);
+        return true;
+    }
+    if ((stroke.shift & kAlt) != 0 && (stroke.shift & kCtrl) == 0) {
+        if (Control* reached = accessTarget(form, stroke.keyCode); reached != nullptr) {
+            click(form, *reached);
+        }
+        return true;
+    }
+    if (target != nullptr && target->kind == ControlKind::Key && stroke.character == ' ') {
+        click(form, *target);
+        return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 bool click(Form& form, Control& control) {
@@ -130,26 +155,10 @@ bool click(Form& form, Control& control) {
 
 void pressKey(Form& form, KeyStroke stroke) {
     Control* target = keyboardTarget(form);
-    if (target == nullptr) {
-        return;
+    if (target != nullptr) {
+        run(target->keyDown, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
     }
-    run(target->keyDown, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
-    if (stroke.keyCode == kKeyEnter && form.defaultKey != nullptr) {
-        click(form, *form.defaultKey);
-        return;
-    }
-    if (stroke.keyCode == kKeyEscape && form.cancelKey != nullptr) {
-        click(form, *form.cancelKey);
-        return;
-    }
-    if ((stroke.shift & kAlt) != 0 && (stroke.shift & kCtrl) == 0) {
-        if (Control* reached = accessTarget(form, stroke.keyCode); reached != nullptr) {
-            click(form, *reached);
-        }
-        return;
-    }
-    if (target->kind == ControlKind::Key && stroke.character == ' ') {
-        click(form, *target);
+    if (clicksByKey(form, target, stroke) || target == nullptr) {
         return;
     }
     int character = stroke.character;

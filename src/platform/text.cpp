@@ -22,8 +22,9 @@ constexpr Upper kCodePage437{
     u'≡', u'±', u'≥', u'≤', u'⌠', u'⌡', u'÷', u'≈', u'°', u'∙', u'·', u'√', u'ⁿ', u'²', u'■', u'\u00A0',
 };
 
-/// Greek letters where the Symbol font keeps them, for 'A' to 'Z' and 'a' to 'z'.
-constexpr std::u16string_view kSymbolCapitals = u"ΑΒΧΔΕΦΓΗΙϑΚΛΜΝΟΠΘΡΣΤΥςΩΞΨΖ";
+/// Greek letters where the Symbol font keeps them, for 'A' to 'Z' and 'a' to 'z'. A capital that
+/// looks like a Latin letter is read as that letter.
+constexpr std::u16string_view kSymbolCapitals = u"ABXΔEΦΓHIϑKΛMNOΠΘPΣTYςΩΞΨZ";
 constexpr std::u16string_view kSymbolSmalls = u"αβχδεφγηιϕκλμνοπθρστυϖωξψζ";
 
 constexpr unsigned char kSymbolRoot = 214;

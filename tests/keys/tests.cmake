@@ -1,7 +1,11 @@
-# Each NAME.keys is run and compared with NAME.out.
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Every NAME.keys is run and what it shows is compared with NAME.out.
 file(GLOB scripts CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/keys/*.keys)
 foreach(script ${scripts})
   get_filename_component(name ${script} NAME_WE)
   add_test(NAME keys_${name}
            COMMAND ${PROJECT_SOURCE_DIR}/tools/check_keys $<TARGET_FILE:tallyforge-keys> ${script})
 endforeach()
+
+# The session that the README shows is the worked example, and what it prints.
+add_test(NAME readme_session COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_readme)

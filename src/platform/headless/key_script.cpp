@@ -126,9 +126,13 @@ ScriptEnd KeyScript::run(std::istream& script) {
     script_ = &script;
     lineNumber_ = 0;
     expectFailed_ = false;
+    restartDue_ = false;
     try {
         start();
         while (step(script)) {
+            if (std::exchange(restartDue_, false)) {
+                restartProgram();
+            }
         }
     } catch (const Wrong& wrong) {
         complain_("line " + std::to_string(lineNumber_) + ": " + wrong.reason);
@@ -162,7 +166,8 @@ void KeyScript::noteEnd() {
 
 void KeyScript::driveDialog(Form& dialog) {
     Form* const below = std::exchange(dialog_, &dialog);
-    while (dialog.open && step(*script_)) {
+    // A restart leaves every dialog first: the handlers below them belong to the calculator that goes.
+    while (dialog.open && !restartDue_ && step(*script_)) {
     }
     dialog_ = below;
 }
@@ -217,7 +222,8 @@ void KeyScript::type(std::string_view text) {
     }
 }
 
-void KeyScript::key(std::string_view name) {
+void KeyScript::key(std::string_view rest) {
+    std::string_view name = takeWord(rest);
     const std::uint8_t shift = takeModifiers(name);
     KeyStroke stroke{.shift = static_cast<std::uint8_t>(shift | held_)};
     const auto* const named = std::find_if(kNamedKeys.begin(), kNamedKeys.end(),
@@ -246,11 +252,11 @@ void KeyScript::key(std::string_view name) {
 }
 
 void KeyScript::hold(std::string_view modifiers) {
-    const std::string text = std::string(modifiers) + "+";
+    const std::string text = std::string(takeWord(modifiers)) + "+";
     std::string_view rest = text;
     const std::uint8_t mask = takeModifiers(rest);
     if (mask == 0 || !rest.empty()) {
-        throw Wrong{"no modifiers: '" + std::string(modifiers) + "'"};
+        throw Wrong{"no modifiers '" + text.substr(0, text.size() - 1) + "'"};
     }
     held_ = static_cast<std::uint8_t>(held_ | mask);
     repeatHeld();
@@ -269,7 +275,8 @@ KeyScript::Target KeyScript::target(std::string_view text) const {
     if (name.size() < text.size()) {
         const std::string_view inside = text.substr(name.size() + 1);
         const auto result = std::from_chars(inside.data(), inside.data() + inside.size(), number);
-        if (result.ec != std::errc{} || result.ptr == inside.data() + inside.size() || *result.ptr != ')') {
+        const std::string_view behind = inside.substr(static_cast<std::size_t>(result.ptr - inside.data()));
+        if (result.ec != std::errc{} || number < 0 || behind != ")") {
             throw Wrong{"no control '" + std::string(text) + "'"};
         }
     }
@@ -317,11 +324,11 @@ void KeyScript::rightClickControl(std::string_view rest) {
 
 void KeyScript::menu(std::string_view rest) {
     const std::string_view name = takeWord(rest);
-    Control* entry = calculator_->engine().form.find(name);
+    Control* entry = form().find(name);
     if (entry == nullptr || entry->kind != ControlKind::MenuEntry) {
         throw Wrong{"no menu entry '" + std::string(name) + "'"};
     }
-    click(calculator_->engine().form, *entry);
+    click(form(), *entry);
 }
 
 void KeyScript::close(std::string_view /*rest*/) {
@@ -350,6 +357,10 @@ void KeyScript::clipboard(std::string_view text) {
 }
 
 void KeyScript::restart(std::string_view /*rest*/) {
+    restartDue_ = true;
+}
+
+void KeyScript::restartProgram() {
     if (!ended_) {
         closeForm(calculator_->engine().form);
         noteEnd();

@@ -47,7 +47,7 @@ private:
     [[nodiscard]] Form& form() const;
 
     void type(std::string_view text);
-    void key(std::string_view name);
+    void key(std::string_view rest);
     void hold(std::string_view modifiers);
     void release(std::string_view rest);
     void clickControl(std::string_view rest);
@@ -58,6 +58,7 @@ private:
     void answer(std::string_view rest);
     void clipboard(std::string_view text);
     void restart(std::string_view rest);
+    void restartProgram();
     void show(std::string_view words);
     void expect(std::string_view line);
 
@@ -82,6 +83,7 @@ private:
     std::uint8_t held_ = 0;
     int lineNumber_ = 0;
     bool ended_ = false;
+    bool restartDue_ = false;
     bool expectFailed_ = false;
 };
 

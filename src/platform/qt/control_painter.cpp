@@ -205,6 +205,10 @@ ListMetrics listMetrics(const Control& list, double height, double pixelsPerTwip
     return metrics;
 }
 
+QFont listFont(const Control& list, const ListMetrics& rows, double pixelsPerTwip) {
+    return faceFont(list.font, std::min(rows.rowHeight * kListFontShare, fontPixels(list.font, pixelsPerTwip)));
+}
+
 void paintList(QPainter& painter, const QRectF& area, const Control& list, std::size_t first, const Theme& theme,
                PaintState state) {
     box(painter, area, theme.field, theme.fieldEdge, 3.0);
@@ -212,8 +216,7 @@ void paintList(QPainter& painter, const QRectF& area, const Control& list, std::
         return;
     }
     const ListMetrics rows = listMetrics(list, area.height(), state.pixelsPerTwip);
-    const QFont font =
-        faceFont(list.font, std::min(rows.rowHeight * kListFontShare, fontPixels(list.font, state.pixelsPerTwip)));
+    const QFont font = listFont(list, rows, state.pixelsPerTwip);
     const QFontMetricsF metrics(font);
     painter.setFont(font);
     painter.setClipRect(area.adjusted(1, 1, -1, -1));

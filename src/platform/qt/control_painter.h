@@ -51,6 +51,8 @@ struct ListMetrics {
     double top = 0.0;  ///< where the first row stands
 };
 [[nodiscard]] ListMetrics listMetrics(const Control& list, double height, double pixelsPerTwip);
+/// The font of a list's rows.
+[[nodiscard]] QFont listFont(const Control& list, const ListMetrics& rows, double pixelsPerTwip);
 /// Draws the rows from `first` on; what lies outside the area costs nothing.
 void paintList(QPainter& painter, const QRectF& area, const Control& list, std::size_t first, const Theme& theme,
                PaintState state);

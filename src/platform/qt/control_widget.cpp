@@ -72,7 +72,19 @@ public:
         state.checkable = widget_->control().kind == ControlKind::Option;
         state.checked = widget_->control().checked;
         state.disabled = !widget_->control().enabled;
+        state.focused = widget_->hasKeyboard();
         return state;
+    }
+    // The form has the keyboard as a whole, so an assistive tool clicks instead of focusing.
+    [[nodiscard]] QStringList actionNames() const override {
+        const ControlKind kind = widget_->control().kind;
+        const bool clickable = kind == ControlKind::Key || kind == ControlKind::Option;
+        return clickable ? QStringList{pressAction()} : QStringList{};
+    }
+    void doAction(const QString& action) override {
+        if (action == pressAction()) {
+            widget_->clickForTool();
+        }
     }
 
 private:
@@ -192,6 +204,10 @@ void ControlWidget::setPressed(bool pressed) {
     }
 }
 
+void ControlWidget::clickForTool() {
+    view_.clicked(control_, Qt::NoModifier);
+}
+
 void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF area = rect();
@@ -229,14 +245,21 @@ void ControlWidget::mousePressEvent(QMouseEvent* event) {
     } else if (event->button() == Qt::LeftButton && isList()) {
         view_.rowClicked(control_, rowAt(event->position().y()));
     } else if (event->button() == Qt::LeftButton && control_.enabled) {
+        held_ = true;
         setPressed(true);
+    }
+}
+
+void ControlWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (held_) {
+        setPressed(rect().contains(event->position().toPoint()));
     }
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
     const bool inside = rect().contains(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && std::exchange(pressed_, false)) {
-        update();
+    if (event->button() == Qt::LeftButton && std::exchange(held_, false)) {
+        setPressed(false);
         if (inside) {
             view_.clicked(control_, event->modifiers());
         }

@@ -28,10 +28,15 @@ public:
     [[nodiscard]] Control& control() const { return control_; }
     /// Shows the key as pressed, for a press by keyboard.
     void setPressed(bool pressed);
+    [[nodiscard]] bool isPressed() const { return pressed_; }
+    [[nodiscard]] bool hasKeyboard() const { return hasKeyboard_; }
+    /// Clicks the control for an assistive tool.
+    void clickForTool();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -52,7 +57,8 @@ private:
     QScrollBar* scrollBar_ = nullptr;
     FittedCaption caption_;
     double pixelsPerTwip_ = 0.0;
-    bool pressed_ = false;
+    bool held_ = false;     ///< the mouse button went down on it
+    bool pressed_ = false;  ///< and it looks so
     bool hasKeyboard_ = false;
 
     // What was shown last.

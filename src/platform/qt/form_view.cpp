@@ -123,9 +123,9 @@ void FormView::rowDoubleClicked(Control& list, std::size_t row) {
 
 void FormView::keyPressed(QKeyEvent& event) {
     event.accept();
-    if (isModifierKey(event.key())) {
-        const std::uint8_t mask = modifierMask(event.modifiers());
-        if (!event.isAutoRepeat() && mask != 0) {
+    if (const std::uint8_t own = modifierOfKey(event.key()); own != 0) {
+        const auto mask = static_cast<std::uint8_t>(modifierMask(event.modifiers()) | own);
+        if (!event.isAutoRepeat()) {
             held_ = mask;
             holdModifiers(form_, mask);
             finish();
@@ -143,8 +143,9 @@ void FormView::keyReleased(QKeyEvent& event) {
     if (event.isAutoRepeat()) {
         return;
     }
-    if (isModifierKey(event.key())) {
-        held_ = modifierMask(event.modifiers());
+    if (const std::uint8_t own = modifierOfKey(event.key()); own != 0) {
+        // Platforms differ in whether the modifier that comes up is still reported.
+        held_ = static_cast<std::uint8_t>(modifierMask(event.modifiers()) & ~own);
         releaseKey(form_, {.keyCode = kKeyShift, .shift = held_});
     } else {
         const KeyStroke stroke = translate(event, decimal_);

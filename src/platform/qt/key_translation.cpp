@@ -66,8 +66,18 @@ std::uint8_t modifierMask(Qt::KeyboardModifiers modifiers) {
     return static_cast<std::uint8_t>(mask);
 }
 
-bool isModifierKey(int key) {
-    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
+std::uint8_t modifierOfKey(int key) {
+    switch (key) {
+        case Qt::Key_Shift:
+            return kShift;
+        case Qt::Key_Control:
+            return kCtrl;
+        case Qt::Key_Alt:
+        case Qt::Key_Meta:
+            return kAlt;
+        default:
+            return 0;
+    }
 }
 
 KeyStroke translate(const QKeyEvent& event, char decimal) {

@@ -14,8 +14,9 @@ namespace tallyforge::qt {
 /// Modifiers of an event as a form counts them.
 [[nodiscard]] std::uint8_t modifierMask(Qt::KeyboardModifiers modifiers);
 
-/// True for Shift, Ctrl, Alt by themselves. (Alt after Shift arrives under the name Meta.)
-[[nodiscard]] bool isModifierKey(int key);
+/// The modifier that a key is by itself, 0 for other keys. (Alt after Shift arrives under the name
+/// Meta.)
+[[nodiscard]] std::uint8_t modifierOfKey(int key);
 
 /// The stroke of a key that is no modifier. A character's own Shift, or AltGr, is no modifier of
 /// it; the decimal key of the number pad is the locale's `decimal` character.

@@ -134,12 +134,6 @@ void MainWindow::moveEvent(QMoveEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange) {
         form_.minimised = isMinimized();
-    } else if (event->type() == QEvent::ActivationChange && presented_) {
-        const auto& handler = isActiveWindow() ? form_.activate : form_.deactivate;
-        if (handler && form_.open) {
-            handler();
-            view_->sync();
-        }
     }
     QMainWindow::changeEvent(event);
 }

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "gui/window_fixture.h"
+#include "platform/qt/qt_platform.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QFile>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <functional>
+
+namespace tallyforge {
+namespace {
+
+/// Waits for the modal window to open and hands it to `act`, which has to end it.
+void whenModal(std::function<void(QWidget&)> act) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act = std::move(act)] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (modal != nullptr && modal->isVisible()) {
+            timer->stop();
+            timer->deleteLater();
+            act(*modal);
+        }
+    });
+    timer->start(1);
+}
+
+/// A dialog of a field, a key that takes it over, and a key that leaves.
+class SumDialog : public Form {
+public:
+    SumDialog() : Form("frm_Sum", "Sum") {
+        place = {.width = 3000, .height = 1500};
+        const auto put = [this](Control& control, const char* controlName, ControlKind kind, const char* text,
+                                int top) {
+            control.name = controlName;
+            control.kind = kind;
+            control.text = text;
+            control.place = {.left = 200, .top = top, .width = 2000, .height = 350};
+            enrol(control);
+        };
+        put(field, "txtValue", ControlKind::Field, "", 100);
+        put(twice, "cmdTwice", ControlKind::Key, "&Twice", 550);
+        put(leave, "cmdLeave", ControlKind::Key, "Leave", 1000);
+        field.spoken = "Value";
+        twice.click = [this] { sum += 2 * std::stoi(field.text); };
+        leave.click = [this] { open = false; };
+        focus = &field;
+        defaultKey = &twice;
+        cancelKey = &leave;
+    }
+    Control field, twice, leave;
+    int sum = 0;
+};
+
+class Dialogs : public testing::Test {
+protected:
+    qt::QtPlatform platform;
+};
+
+TEST_F(Dialogs, ShowsAMessageAndReturnsTheAnswer) {
+    QString title;
+    QString text;
+    whenModal([&](QWidget& modal) {
+        auto& box = dynamic_cast<QMessageBox&>(modal);
+        title = box.windowTitle();
+        text = box.text();
+        EXPECT_EQ(box.icon(), QMessageBox::Question);
+        EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+        box.button(QMessageBox::Yes)->click();
+    });
+    EXPECT_EQ(platform.messageBox({.kind = BoxKind::Question,
+                                   .title = "Save Settings",
+                                   .text = "2 <b> is fewer than 3",
+                                   .buttons = BoxButtons::YesNo}),
+              Answer::Yes);
+    EXPECT_EQ(title, "Save Settings");
+    EXPECT_EQ(text, "2 <b> is fewer than 3");
+}
+
+TEST_F(Dialogs, ClosingAQuestionMeansNo) {
+    whenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
+    EXPECT_EQ(platform.messageBox({.text = "Sure?", .buttons = BoxButtons::YesNo}), Answer::No);
+    whenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
+    EXPECT_EQ(platform.messageBox({.text = "Sure?", .buttons = BoxButtons::OkCancel}), Answer::Cancel);
+}
+
+TEST_F(Dialogs, AsksForATextWithItsPreset) {
+    whenModal([](QWidget& modal) {
+        auto* line = modal.findChild<QLineEdit*>();
+        ASSERT_NE(line, nullptr);
+        EXPECT_EQ(line->text(), "2");
+        line->setText("12");
+        dynamic_cast<QDialog&>(modal).accept();
+    });
+    EXPECT_EQ(platform.inputBox({.title = "Digits", .prompt = "How many?", .preset = "2"}), "12");
+    whenModal([](QWidget& modal) { dynamic_cast<QDialog&>(modal).reject(); });
+    EXPECT_EQ(platform.inputBox({.title = "Digits", .prompt = "How many?", .preset = "2"}), "");
+}
+
+TEST_F(Dialogs, RunsADialogOfTheCalculatorToItsEnd) {
+    SumDialog sum;
+    whenModal([&](QWidget& modal) {
+        auto* view = modal.findChild<qt::FormView*>();
+        ASSERT_NE(view, nullptr);
+        EXPECT_EQ(QApplication::focusWidget(), view);
+        QTest::keyClicks(view, "21");
+        QTest::keyClick(view, Qt::Key_Return);
+        QTest::mouseClick(view->widgetOf(sum.twice), Qt::LeftButton);
+        QTest::mouseClick(view->widgetOf(sum.leave), Qt::LeftButton);
+    });
+    platform.showDialog(sum);
+    EXPECT_EQ(sum.sum, 84);
+    EXPECT_FALSE(sum.open);
+}
+
+TEST_F(Dialogs, EscClicksTheCancelKeyOfADialog) {
+    SumDialog sum;
+    whenModal([](QWidget& modal) { QTest::keyClick(modal.findChild<qt::FormView*>(), Qt::Key_Escape); });
+    platform.showDialog(sum);
+    EXPECT_FALSE(sum.open);
+    EXPECT_EQ(sum.sum, 0);
+}
+
+TEST_F(Dialogs, CarriesTextsOverTheClipboard) {
+    platform.setClipboardText("caf\xE9 12.5");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QString::fromUtf8("café 12.5"));
+    QGuiApplication::clipboard()->setText(QString::fromUtf8("3.5 µ"));
+    EXPECT_EQ(platform.clipboardText(), "3.5 \xB5");
+}
+
+TEST_F(Dialogs, RemembersAnOption) {
+    const bool before = platform.readOption("GuiTest", false);
+    platform.writeOption("GuiTest", !before);
+    EXPECT_EQ(platform.readOption("GuiTest", before), !before);
+}
+
+TEST_F(Dialogs, PrintsAllLinesOnAsManyPagesAsTheyTake) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("tape.pdf");
+    whenModal([&](QWidget& modal) {
+        auto& dialog = dynamic_cast<QPrintDialog&>(modal);
+        dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
+        dialog.printer()->setOutputFileName(path);
+        dialog.done(QDialog::Accepted);
+    });
+    const std::vector<PrintLine> lines(200, {.text = "+                  5.00", .font = {.face = Face::Terminal}});
+    platform.print(lines);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray pdf = file.readAll();
+    EXPECT_TRUE(pdf.startsWith("%PDF"));
+    EXPECT_GE(pdf.count("/Type /Page\n"), 2);
+}
+
+TEST_F(Dialogs, NothingIsPrintedWhereTheUserCancels) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("tape.pdf");
+    whenModal([&](QWidget& modal) {
+        dynamic_cast<QPrintDialog&>(modal).printer()->setOutputFileName(path);
+        dynamic_cast<QDialog&>(modal).reject();
+    });
+    platform.print(std::vector<PrintLine>{{.text = "1", .font = {}}});
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(Dialogs, DrawsRandomNumbersBelowOne) {
+    for (int i = 0; i < 1000; ++i) {
+        const double drawn = platform.random();
+        EXPECT_GE(drawn, 0.0);
+        EXPECT_LT(drawn, 1.0);
+    }
+}
+
+}  // namespace
+}  // namespace tallyforge

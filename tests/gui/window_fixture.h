@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A whole calculator in its window, off screen, with a platform that answers by itself. Keys go to
+// the widget that has the keyboard, the mouse to a control's own widget.
+#pragma once
+
+#include "platform/qt/control_widget.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/main_window.h"
+#include "shell/calculator.h"
+#include "support/test_platform.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QImage>
+#include <QMenuBar>
+#include <QTest>
+
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+/// A desktop on which the calculator was never started before.
+class FreshDesktop : public TestPlatform {
+public:
+    [[nodiscard]] std::filesystem::path dataFolder() const override { return folder / "data"; }
+};
+
+class WindowTest : public testing::Test {
+protected:
+    WindowTest() : calculator((platform.decimal = '.', platform)) {
+        calculator.start();
+        window.present();
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        platform.boxes.clear();
+    }
+
+    Engine& engine() { return calculator.engine(); }
+    MainForm& form() { return calculator.engine().form; }
+    qt::FormView& view() { return window.view(); }
+    qt::ControlWidget& widget(const Control& control) {
+        qt::ControlWidget* found = view().widgetOf(control);
+        EXPECT_NE(found, nullptr) << control.fullName();
+        return *found;
+    }
+
+    /// Types characters as a keyboard without Shift would.
+    void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    /// One key with what it types, so that a layout can be played.
+    void press(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::sendKeyEvent(QTest::Press, QApplication::focusWidget(), key, text, modifiers);
+    }
+    void release(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::sendKeyEvent(QTest::Release, QApplication::focusWidget(), key, text, modifiers);
+    }
+    void strike(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        press(key, text, modifiers);
+        release(key, text, modifiers);
+    }
+    void clickOn(const Control& control, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::mouseClick(&widget(control), Qt::LeftButton, modifiers);
+    }
+    /// Double-clicks a row that the list shows, 0 for its topmost.
+    void doubleClickRow(const Control& list, int shownRow) {
+        qt::ControlWidget& target = widget(list);
+        const double rowHeight = qt::listMetrics(list, target.height(), view().scale()).rowHeight;
+        const QPoint place(target.width() / 3, static_cast<int>((shownRow + 0.5) * rowHeight));
+        QTest::mouseDClick(&target, Qt::LeftButton, Qt::NoModifier, place);
+    }
+    /// The action of a menu entry, by its caption with the access mark.
+    QAction* entry(const QString& caption) {
+        for (QAction* action : window.findChildren<QAction*>()) {
+            if (action->text() == caption) {
+                return action;
+            }
+        }
+        return nullptr;
+    }
+    QImage picture() { return window.grab().toImage(); }
+
+    /// Enlarges the window to `times` its usual size.
+    void enlarge(double times) {
+        const QSize contents = view().sizeAt(qt::FormView::kUsualScale * times);
+        window.resize(contents.width(), contents.height() + window.menuBar()->height());
+        QApplication::processEvents();
+    }
+
+    FreshDesktop platform;
+    Calculator calculator;
+    qt::MainWindow window{calculator.engine().form, '.'};
+};
+
+}  // namespace tallyforge

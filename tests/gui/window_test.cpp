@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "gui/window_fixture.h"
+
+#include <QMenu>
+
+namespace tallyforge {
+namespace {
+
+class Window : public WindowTest {
+protected:
+    /// Lets the keypad menu take over the present state, as opening it does.
+    void openMenus() {
+        for (const QAction* action : window.menuBar()->actions()) {
+            emit action->menu()->aboutToShow();
+        }
+    }
+};
+
+TEST_F(Window, HasTheMenusOfTheForm) {
+    const auto bar = window.menuBar()->actions();
+    ASSERT_EQ(bar.size(), 2);
+    EXPECT_EQ(bar.at(0)->text(), "&File");
+    EXPECT_EQ(bar.at(1)->text(), "&Keypad");
+    for (const Control* control : form().controls()) {
+        if (control->kind == ControlKind::MenuEntry || control->kind == ControlKind::Menu) {
+            EXPECT_NE(entry(QString::fromStdString(control->text)), nullptr) << control->name;
+        }
+    }
+}
+
+TEST_F(Window, ChangesTheKeypadByTheMenu) {
+    entry("&Engr'g")->trigger();
+    EXPECT_EQ(engine().s.ActiveKeypad, Keypad::Engineering);
+    EXPECT_TRUE(form().mnuEngNormal.checked);
+    openMenus();
+    EXPECT_TRUE(entry("&Engr'g")->isChecked());
+    EXPECT_FALSE(entry("&Std")->isChecked());
+}
+
+TEST_F(Window, AnEntryThatDoesNothingYetIsGrey) {
+    openMenus();
+    for (const Control* control : form().controls()) {
+        if (control->kind == ControlKind::MenuEntry) {
+            EXPECT_EQ(entry(QString::fromStdString(control->text))->isEnabled(),
+                      control->enabled && static_cast<bool>(control->click))
+                << control->name;
+        }
+    }
+}
+
+TEST_F(Window, GrowsByTheRegistersInTheExtendedViewAndShrinksBack) {
+    const QSize plain = window.size();
+    EXPECT_FALSE(widget(form().txtReg_m.front()).isVisible());
+    clickOn(form().cmdView);
+    EXPECT_EQ(form().place.width, MainForm::kExtendedWidth);
+    EXPECT_NEAR(window.width(), MainForm::kExtendedWidth * qt::FormView::kUsualScale, 1.0);
+    EXPECT_GT(window.height(), plain.height());
+    EXPECT_TRUE(widget(form().txtReg_m.front()).isVisible());
+    EXPECT_TRUE(widget(form().txtReg_m.at(11)).isVisible());
+    EXPECT_FALSE(widget(form().txtReg_m.at(12)).isVisible());
+    clickOn(form().cmdView);
+    EXPECT_EQ(window.size(), plain);
+    EXPECT_FALSE(widget(form().txtReg_m.front()).isVisible());
+}
+
+TEST_F(Window, ShowsTheSmallFieldsBesideTheEntryLine) {
+    clickOn(form().cmdView, Qt::AltModifier);
+    EXPECT_TRUE(widget(form().txty_Reg).isVisible());
+    EXPECT_FALSE(widget(form().txtLastx).isVisible());
+    clickOn(form().cmdView, Qt::ControlModifier);
+    EXPECT_TRUE(widget(form().txtLastx).isVisible());
+    clickOn(form().cmdView, Qt::AltModifier);
+    EXPECT_FALSE(widget(form().txty_Reg).isVisible());
+}
+
+TEST_F(Window, GrowsTall) {
+    const int plain = window.height();
+    clickOn(form().cmdDigits, Qt::ControlModifier);
+    EXPECT_TRUE(engine().s.TallForm);
+    EXPECT_NEAR(window.height() - plain, MainForm::kTallGrowth * qt::FormView::kUsualScale, 1.0);
+}
+
+TEST_F(Window, KeepsItsEnlargementWhenTheViewChanges) {
+    enlarge(1.5);
+    const double scale = view().scale();
+    clickOn(form().cmdView);
+    QApplication::processEvents();
+    EXPECT_NEAR(view().scale(), scale, 0.002);
+}
+
+TEST_F(Window, StaysOnTopWhenItIsAskedTo) {
+    entry("Always on &Top")->trigger();
+    EXPECT_TRUE(form().alwaysOnTop);
+    EXPECT_TRUE((window.windowFlags() & Qt::WindowStaysOnTopHint) != 0);
+    EXPECT_TRUE(window.isVisible());
+    entry("Always on &Top")->trigger();
+    EXPECT_FALSE((window.windowFlags() & Qt::WindowStaysOnTopHint) != 0);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(Window, EndsByTheMenu) {
+    entry("E&xit")->trigger();
+    EXPECT_FALSE(form().open);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(Window, EndsByItsCloseButton) {
+    EXPECT_TRUE(window.close());
+    EXPECT_FALSE(form().open);
+}
+
+TEST_F(Window, TellsTheFormWhereItStands) {
+    window.move(120, 80);
+    QApplication::processEvents();
+    EXPECT_EQ(form().place.left, 120 * 15);
+    EXPECT_EQ(form().place.top, 80 * 15);
+}
+
+}  // namespace
+}  // namespace tallyforge
