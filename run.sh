@@ -19,6 +19,6 @@ echo
 build/release/apps/tallyforge-keys "$session"
 echo
 mkdir -p out
-QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*.debug=false;*.info=false;qt.qpa.*=false' XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$PWD/out}" \
+QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false' \
     build/release/apps/tallyforge --render "$picture" "$session"
 echo "The window as it stands after that session: $picture"

@@ -150,13 +150,18 @@ void listUnfinished() {
     }
 }
 
-/// Standard output may be written by the script and flushed by the watch at once, so both use stdio.
+/// The script may print while the watch flushes, so lines go through stdio, which locks.
+void putLine(std::string_view line, std::FILE* stream) {
+    std::fwrite(line.data(), 1, line.size(), stream);
+    std::fputc('\n', stream);
+}
+
 void printLine(std::string_view line) {
-    std::printf("%.*s\n", static_cast<int>(line.size()), line.data());
+    putLine(line, stdout);
 }
 
 void complain(std::string_view line) {
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(line.size()), line.data());
+    putLine(line, stderr);
 }
 
 /// Ends the program when its time is up, whatever it does by then.

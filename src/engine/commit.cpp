@@ -20,7 +20,8 @@ constexpr int kSmallRegisterDigits = 3;
 
 void Commit::cmdEnter_Click() {
     EngineState& s = calc.s;
-    const auto slots = static_cast<std::size_t>(s.StackPtr) + 2;
+    // A recalled value goes up by two: over the X that is there, with a free slot above it.
+    const auto slots = static_cast<std::size_t>(s.StackPtr) + 3;
     if (s.Stack.size() < slots) {
         s.Stack.resize(slots);
     }

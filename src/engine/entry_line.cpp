@@ -413,13 +413,13 @@ void EntryLine::doubleOrHalve(int key) {
 int EntryLine::acceptBaseKey(int key) {
     EngineState& s = calc.s;
     if (key == '#') {
-        if (!s.BaseMode || s.BaseTagDue) {
+        if (!s.BaseMode || s.BaseTagDue || !calc.entryText().empty()) {
             return 0;
         }
         s.BaseTagDue = true;
         return key;
     }
-    if ((key == 'b' || key == 'h' || key == 'o') && std::exchange(s.BaseTagDue, false)) {
+    if ((key == 'b' || key == 'd' || key == 'h' || key == 'o') && std::exchange(s.BaseTagDue, false)) {
         s.BaseLetter = static_cast<char>(key);
         if (calc.keypads().CheckBaseDigits()) {
             s.BaseNumberDone = true;
@@ -428,6 +428,22 @@ int EntryLine::acceptBaseKey(int key) {
         calc.setEntry({});
     }
     return 0;
+}
+
+void EntryLine::typeBaseCharacter(char character) {
+    EngineState& s = calc.s;
+    if (s.BaseNumberDone) {
+        return;
+    }
+    calc.commit.BeginEntry();
+    const bool digit = character >= 'A' && character <= 'F';
+    const int accepted = digit ? (s.BaseTagDue ? character : 0) : acceptBaseKey(character);
+    if (accepted != 0 && calc.entryText().size() < kLongestEntry) {
+        calc.setEntry(calc.entryText() + static_cast<char>(accepted));
+        s.EntryTouched = true;
+    } else if (calc.entryText().empty()) {
+        clearEntryFlags();
+    }
 }
 
 int EntryLine::eex() {

@@ -27,6 +27,10 @@ public:
     /// A key came up; `event.shift` are the modifiers that are still held.
     void txtXreg_KeyUp(KeyEvent event);
 
+    /// A character of a number of a base from a key on screen: "#", a digit A to F, or the letter
+    /// that ends the number. What does not fit there is dropped.
+    void typeBaseCharacter(char character);
+
     /// Digit keys 0 to 9 on screen, 10 is the decimal key.
     void cmdNumPad_Click(int index);
     void cmdBackSpace_Click();

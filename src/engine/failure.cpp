@@ -27,6 +27,8 @@ std::string_view description(FailureNumber number) {
             return "Path or file access error";
         case FailureNumber::ModifierNotValid:
             return "Modifier not valid for this key";
+        case FailureNumber::BaseRange:
+            return "More than 64 bits";
         case FailureNumber::BaseNumberRequired:
             return "Number of a base required in x";
     }

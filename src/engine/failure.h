@@ -23,6 +23,7 @@ enum class FailureNumber : int {
     DiskFull = 61,
     PathAccess = 75,  ///< a file that cannot be read or written
     ModifierNotValid = 85,
+    BaseRange = 86,  ///< more than 64 bits
     BaseNumberRequired = 93,
 };
 

@@ -217,7 +217,7 @@ void NumberDisplay::setUpBaseNumber(std::string_view text) {
     EngineState& s = calc.s;
     const BaseLayout& layout = *baseLayout(text);
     std::string digits{text.substr(1, text.size() - 2)};
-    if (s.WordSize != kMaxWordSize && calc.cutToWord) {
+    if (calc.cutToWord) {
         digits = calc.cutToWord(digits, layout.letter, s.WordSize);
     }
     if (digits.empty()) {

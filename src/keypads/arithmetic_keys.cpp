@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypads/arithmetic_keys.h"
 
+#include "bases/binary_keys.h"
 #include "engine/engine.h"
 
 #include <array>
@@ -61,10 +62,18 @@ void ArithmeticKeys::cmdMath_Click(int index) {
     const bool intoRegister = s.ModifierMask == kCtrl;
     s.FnLabel = s.ModifierMask == kAlt ? "m" : "";
     s.FnLabel += kOperators.at(static_cast<std::size_t>(index));
-    const bool computed = compute(index, operands);
+    const std::optional<FailureNumber> failed = compute(index, operands);
+    if (tagged && failed && *failed != FailureNumber::DivisionByZero) {
+        // Numbers of a base that cannot be computed with stay where they are.
+        abandon();
+        if (*failed == FailureNumber::SubtrahendGreater) {
+            s.Xreg = "";
+        }
+        return;
+    }
     if (intoRegister) {
         // What could not be computed leaves the register alone.
-        if (computed) {
+        if (!failed) {
             storeRegisterOne();
         }
         abandon();
@@ -99,21 +108,23 @@ ArithmeticKeys::Operands ArithmeticKeys::choose(int index) {
 }
 
 // A failure leaves X as it was: a division by zero says nothing, and X, the divisor, is committed.
-bool ArithmeticKeys::compute(int index, const Operands& operands) {
+std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& operands) {
     EngineState& s = calc.s;
+    std::optional<FailureNumber> failed;
     const auto onFailure = [&](const Failure& failure) {
+        failed = failure.number();
         if (failure.number() == FailureNumber::SubtrahendGreater) {
             calc.errorBox(BoxKind::Stop, "Subtrahend is greater than the minuend!");
-            s.Xreg = "";
         } else if (failure.number() == FailureNumber::Overflow) {
             calc.errorBox(BoxKind::Stop, "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
         }
     };
     const bool tagged = operands.left.isTagged() || operands.right.isTagged();
-    return goOn(onFailure, [&] {
+    goOn(onFailure, [&] {
         s.Xreg = tagged ? bases->compute(index, operands.left, operands.right)
                         : ValueCell{apply(index, calc.number(operands.left), calc.number(operands.right))};
     });
+    return failed;
 }
 
 // X and the stack stay as they were, no line is written.

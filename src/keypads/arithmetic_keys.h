@@ -4,25 +4,16 @@
 // the stack stays as it is; with Alt on X and the constant in Register 2.
 #pragma once
 
+#include "engine/failure.h"
 #include "engine/value_cell.h"
 
-#include <cstdint>
-#include <string_view>
+#include <optional>
 
 namespace tallyforge {
 
 class Engine;
 
-/// Arithmetic on numbers of a base, for operands that carry a "#".
-class BaseArithmetic {
-public:
-    virtual ~BaseArithmetic() = default;
-    /// `left` op `right`, one of them at least a number of a base; `index` is the key. Leaves the
-    /// remainder of a division in the state. Raises 4 and 6.
-    [[nodiscard]] virtual ValueCell compute(int index, const ValueCell& left, const ValueCell& right) = 0;
-    /// The real number that a number of a base stands for.
-    [[nodiscard]] virtual double real(const ValueCell& tagged) = 0;
-};
+class BinaryKeys;
 
 class ArithmeticKeys {
 public:
@@ -34,7 +25,7 @@ public:
 
     /// Computes with numbers of a base. While there is none, such an operand ends the key and
     /// everything stays as it is.
-    BaseArithmetic* bases = nullptr;
+    BinaryKeys* bases = nullptr;
 
 private:
     struct Operands {
@@ -43,8 +34,8 @@ private:
         ValueCell right{};
     };
     [[nodiscard]] Operands choose(int index);
-    /// Puts the result into X; returns false where a failure left X as it was.
-    bool compute(int index, const Operands& operands);
+    /// Puts the result into X; returns the failure that left X as it was.
+    std::optional<FailureNumber> compute(int index, const Operands& operands);
     void abandon();
     void storeRegisterOne();
 

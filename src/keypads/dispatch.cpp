@@ -7,18 +7,13 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyforge {
 
 namespace {
 
 constexpr int kPercentKey = 4;
-
-/// Keys of the Binary keypad that may be hexadecimal digits of a number that is still typed.
-bool mayBeHexDigit(Keypad keypad, int index) {
-    return keypad == Keypad::Binary &&
-           (index == 0 || index == 1 || index == 2 || index == 16 || index == 17 || index == 19);
-}
 
 }  // namespace
 
@@ -52,7 +47,9 @@ void Dispatch::cmdFunctions_Click(int index) {
     }
     const bool foreign = s.ActiveKeypad == Keypad::Percent && index != kPercentKey;
     const KeyRow& key = row(index);
-    if (key.does == nullptr || foreign) {
+    if (key.types.plain != '\0' && !foreign) {
+        typeWith(key);
+    } else if (key.does == nullptr || foreign) {
         passOver();
     } else {
         press(key);
@@ -86,12 +83,22 @@ void Dispatch::nameProcedure() {
     calc.s.CurrentProc = programRuns && programRuns() ? "Program " : "cmdFunctions";
 }
 
-// A number that is still typed may want a hex digit of the Binary keypad, so it stays open there.
+// A number that is still typed stays open for its next digit, whatever the modifier.
+void Dispatch::typeWith(const KeyRow& key) {
+    const std::uint8_t mask = calc.s.ModifierMask;
+    const char character = mask == 0 ? key.types.plain : mask == kShift ? key.types.shift : '\0';
+    nameProcedure();
+    leaveKey();
+    if (character == '\0') {
+        showMessage(FailureNumber::ModifierNotValid, key.key);
+    } else if (typeCharacter) {
+        typeCharacter(character);
+    }
+    calc.focusEntry();
+}
+
 void Dispatch::bringXUpToDate(const KeyRow& key) {
     EngineState& s = calc.s;
-    if (mayBeHexDigit(s.ActiveKeypad, key.key)) {
-        return;
-    }
     s.SkipCommitTail = key.silentOperand && s.EntryOpen;
     calc.commit.FetchX();
     s.SkipCommitTail = false;
@@ -148,7 +155,8 @@ void Dispatch::leaveNothing(int index) {
     if (s.Xreg.textView() == kNoMeaning) {
         showMessage(FailureNumber::ModifierNotValid, index);
     }
-    s.Xreg = "";
+    const ValueCell kept = std::exchange(s.KeepX, ValueCell{});
+    s.Xreg = kept.isEmpty() ? ValueCell{""} : kept;
     calc.focusEntry();
 }
 

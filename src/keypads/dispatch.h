@@ -36,11 +36,14 @@ public:
     /// Memory array mode: the key is a register key.
     std::function<void(int index)> registerKey;
     std::function<bool()> programRuns;
+    /// A key that types: the character reaches the entry line.
+    std::function<void(char character)> typeCharacter;
 
 private:
     [[nodiscard]] const KeyRow& row(int index) const;
     [[nodiscard]] bool takenByMode(int index);
     void passOver();
+    void typeWith(const KeyRow& key);
     void nameProcedure();
     void bringXUpToDate(const KeyRow& key);
     void onFailure(const Failure& failure, int index);

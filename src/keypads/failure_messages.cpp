@@ -34,6 +34,8 @@ std::string failureMessage(FailureNumber number, int index, const EngineState& s
         case FailureNumber::ModifierNotValid:
             return "That Extended key (or keys) not valid for that function,\nsee Help file or tooltip for applicable "
                    "Extended keys";
+        case FailureNumber::BaseRange:
+            return "Number outside of range (#0b to #1111.... (64 TOTAL) ....1111b)";
         case FailureNumber::BaseNumberRequired:
             return "Binary number required in x-register!";
         default:

@@ -61,6 +61,12 @@ struct CaptionsUnder {
     }
 };
 
+/// Characters that a key types into the entry line, plain and with Shift; '\0' for none.
+struct TypedBy {
+    char plain = '\0';
+    char shift = '\0';
+};
+
 struct KeyRow {
     int key = 0;  ///< index on the bank, 0 to 23
     KeyCaption caption{};
@@ -73,6 +79,8 @@ struct KeyRow {
     /// tape shows.
     bool silentOperand = false;
     int helpTopic = 0;
+    /// A key that types, whatever keypad key it is, has no function of its own.
+    TypedBy types{};
     /// What the key does; nothing while it is not built yet.
     void (*does)(Keys&) = nullptr;
     /// Ctrl with the right button on a light blue key: chooses its units or material.

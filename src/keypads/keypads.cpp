@@ -36,6 +36,7 @@ constexpr std::array<BaseDigits, 4> kBaseDigits{{
 Keypads::Keypads(Engine& calculator)
     : model(calculator), keys{calculator}, dispatch(calculator, model, keys), arithmetic(calculator), calc(calculator) {
     calc.connect(*this);
+    arithmetic.bases = &keys.binary;
     hangOnForm();
 }
 

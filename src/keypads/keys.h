@@ -4,6 +4,7 @@
 // of the keypad tables are handed one of these.
 #pragma once
 
+#include "bases/binary_keys.h"
 #include "engine/dialog_hand_over.h"
 #include "engine/engine.h"
 
@@ -12,6 +13,7 @@ namespace tallyforge {
 struct Keys {
     Engine& calc;
     DialogHandOver dialog{calc};
+    BinaryKeys binary{calc};
 };
 
 }  // namespace tallyforge

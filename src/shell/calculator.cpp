@@ -78,6 +78,7 @@ void Calculator::hangKeys() {
             engine_.platform.helpTopic(engine_.s.BaseMode ? kWordSizeTopic : kDigitsTopic);
         }
     };
+    keypads_.dispatch.typeCharacter = [this](char character) { entryLine_.typeBaseCharacter(character); };
     keypads_.dispatch.registerKey = [this](int index) { registers_.RegisterKey(index); };
     keypads_.model.hintDue = [this](Keypad keypad) { return lifeCycle_.countNotice(keypad); };
     keypads_.above.copy = [this] { clipboard_.mnuCopy_Click(); };

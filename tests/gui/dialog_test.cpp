@@ -88,9 +88,10 @@ TEST_F(Dialogs, ShowsAMessageAndReturnsTheAnswer) {
 
 TEST_F(Dialogs, ClosingAQuestionMeansNo) {
     whenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
-    EXPECT_EQ(platform.messageBox({.text = "Sure?", .buttons = BoxButtons::YesNo}), Answer::No);
+    EXPECT_EQ(platform.messageBox({.title = "Reset", .text = "Sure?", .buttons = BoxButtons::YesNo}), Answer::No);
     whenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
-    EXPECT_EQ(platform.messageBox({.text = "Sure?", .buttons = BoxButtons::OkCancel}), Answer::Cancel);
+    EXPECT_EQ(platform.messageBox({.title = "Reset", .text = "Sure?", .buttons = BoxButtons::OkCancel}),
+              Answer::Cancel);
 }
 
 TEST_F(Dialogs, AsksForATextWithItsPreset) {

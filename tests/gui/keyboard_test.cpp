@@ -195,14 +195,13 @@ TEST_F(WindowKeyboard, DropsExchangesAndRetrievesByTheEditingKeys) {
 }
 
 TEST_F(WindowKeyboard, TakesAltWithALetterForItsKeys) {
-    type("8");
-    strike(Qt::Key_Return, "\r");
-    type("2");
-    strike(Qt::Key_Return, "\r");
-    QTest::sendKeyEvent(QTest::Press, &view(), Qt::Key_D, "d", Qt::AltModifier);
-    EXPECT_EQ(engine().s.depth(), 1);
-    EXPECT_EQ(engine().xNumber(), 8.0);
+    ASSERT_FALSE(form().txty_Reg.visible);
+    strike(Qt::Key_V, "v", Qt::AltModifier);
+    EXPECT_TRUE(widget(form().txty_Reg).isVisible());
+    strike(Qt::Key_C, "c", Qt::AltModifier);
+    EXPECT_TRUE(form().optFix.at(1).checked);
     EXPECT_EQ(form().txtXreg.text, "");
+    EXPECT_EQ(QApplication::focusWidget(), &view());
 }
 
 TEST_F(WindowKeyboard, LeavesAltWithAMenuLetterToTheMenu) {

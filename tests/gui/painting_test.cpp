@@ -42,6 +42,7 @@ const QPalette kLightDesktop() {
 }
 
 /// Paints the control with room around it, and says whether a mark was left outside of its area.
+/// Antialiased edges may touch the pixels next to it.
 bool paintsOutside(const Control& control, double pixelsPerTwip) {
     constexpr int kRoom = 60;
     const QSizeF size(control.place.width * pixelsPerTwip, control.place.height * pixelsPerTwip);
@@ -68,7 +69,7 @@ bool paintsOutside(const Control& control, double pixelsPerTwip) {
     painter.end();
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (!area.toRect().contains(x, y) && image.pixel(x, y) != untouched) {
+            if (!area.toRect().adjusted(-1, -1, 1, 1).contains(x, y) && image.pixel(x, y) != untouched) {
                 return true;
             }
         }
@@ -80,28 +81,41 @@ class WindowPainting : public WindowTest {
 protected:
     void TearDown() override { QApplication::setPalette(kLightDesktop()); }
 
-    void expectNothingClipped(const std::string& when) {
+    void expectWhole(const Control& control, const std::string& when) {
         for (const double scale : {0.1, 0.15, 0.2}) {
-            for (const Control* control : form().controls()) {
-                if (control->visible && control->place.width > 0 && view().widgetOf(*control) != nullptr) {
-                    EXPECT_FALSE(paintsOutside(*control, scale))
-                        << control->fullName() << " \"" << control->text << "\" at " << scale << ", " << when;
-                }
+            if (control.visible && control.place.width > 0 && view().widgetOf(control) != nullptr) {
+                EXPECT_FALSE(paintsOutside(control, scale))
+                    << control.fullName() << " \"" << control.text << "\" at " << scale << ", " << when;
             }
+        }
+    }
+    void expectFormWhole(const std::string& when) {
+        for (const Control* control : form().controls()) {
+            expectWhole(*control, when);
         }
     }
 };
 
 TEST_F(WindowPainting, ClipsNoCaptionOfAnyKeypadAtAnyScale) {
+    std::set<std::string> seen;
     for (const Keypad keypad : kKeypads) {
         engine().keypads().ShowKeypad(keypad);
         for (int mask = 0; mask < 8; ++mask) {
             engine().keypads().PaintModifiers(static_cast<std::uint8_t>(mask));
-            expectNothingClipped("keypad " + std::to_string(static_cast<int>(keypad)) + ", mask " +
-                                 std::to_string(mask));
+            for (const Control& key : form().cmdFunctions) {
+                if (seen.insert(key.text).second) {
+                    expectWhole(key, "keypad " + std::to_string(static_cast<int>(keypad)));
+                }
+            }
         }
         engine().keypads().RepaintKeypad();
+        expectWhole(form().lblBank, "keypad name");
     }
+    EXPECT_GT(seen.size(), 100U);
+}
+
+TEST_F(WindowPainting, ClipsNothingOfThePlainView) {
+    expectFormWhole("plain view");
 }
 
 TEST_F(WindowPainting, ClipsNothingOfTheExtendedView) {
@@ -110,7 +124,7 @@ TEST_F(WindowPainting, ClipsNothingOfTheExtendedView) {
         form().txtReg_m.at(i).text = "-1.234e-100";
     }
     form().txty_Reg.text = form().txtLastx.text = "-1.234e-100";
-    expectNothingClipped("extended view");
+    expectFormWhole("extended view");
 }
 
 TEST_F(WindowPainting, ShowsTheWidestEntryAndTapeLineWhole) {

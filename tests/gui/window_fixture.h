@@ -51,16 +51,18 @@ protected:
 
     /// Types characters as a keyboard without Shift would.
     void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
-    /// One key with what it types, so that a layout can be played.
+    /// A key goes down, or up, with what it types and the modifiers that were held before.
     void press(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::sendKeyEvent(QTest::Press, QApplication::focusWidget(), key, text, modifiers);
+        QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
     void release(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::sendKeyEvent(QTest::Release, QApplication::focusWidget(), key, text, modifiers);
+        QKeyEvent event(QEvent::KeyRelease, key, modifiers, text);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
+    /// One key down and up as a layout would have it; the modifiers go down before and up after it.
     void strike(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        press(key, text, modifiers);
-        release(key, text, modifiers);
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, text, modifiers);
     }
     void clickOn(const Control& control, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::mouseClick(&widget(control), Qt::LeftButton, modifiers);

@@ -17,11 +17,11 @@
 namespace tallyforge {
 
 struct HeadlessOptions {
-    std::filesystem::path data;
-    std::filesystem::path home;
+    std::filesystem::path data{};
+    std::filesystem::path home{};
     char decimal = '.';
-    std::optional<LocalTime> now;
-    std::optional<std::uint64_t> seed;
+    std::optional<LocalTime> now{};
+    std::optional<std::uint64_t> seed{};
     int dotsPerInch = 96;
     bool tips = false;
 };

@@ -20,7 +20,7 @@ struct NamedKey {
     int keyCode;
     int character;
 };
-constexpr std::array<NamedKey, 26> kNamedKeys{{
+constexpr std::array<NamedKey, 25> kNamedKeys{{
     {"Enter", kKeyEnter, 13},  {"Esc", kKeyEscape, 27},   {"Backspace", kKeyBackspace, 8},
     {"Delete", kKeyDelete, 0}, {"Insert", kKeyInsert, 0}, {"Home", kKeyHome, 0},
     {"End", kKeyEnd, 0},       {"Left", kKeyLeft, 0},     {"Right", kKeyRight, 0},
@@ -29,7 +29,7 @@ constexpr std::array<NamedKey, 26> kNamedKeys{{
     {"F3", kKeyF1 + 2, 0},     {"F4", kKeyF1 + 3, 0},     {"F5", kKeyF1 + 4, 0},
     {"F6", kKeyF1 + 5, 0},     {"F7", kKeyF1 + 6, 0},     {"F8", kKeyF1 + 7, 0},
     {"F9", kKeyF9, 0},         {"F10", kKeyF10, 0},       {"F11", kKeyF11, 0},
-    {"F12", kKeyF12, 0},       {"Return", kKeyEnter, 13},
+    {"F12", kKeyF12, 0},
 }};
 
 /// Takes "Shift+", "Ctrl+" and "Alt+" from the head of `text`.
@@ -294,27 +294,31 @@ KeyScript::Target KeyScript::target(std::string_view text) const {
     return found;
 }
 
+std::size_t KeyScript::rowOf(const Target& at) const {
+    const auto row = calculator_->rowOf(*at.control, at.row);
+    if (!row) {
+        throw Wrong{"no such row: " + std::to_string(at.row)};
+    }
+    return *row;
+}
+
 void KeyScript::clickControl(std::string_view rest) {
     const Target at = target(takeWord(rest));
-    withModifiers(at.shift, [&](std::uint8_t /*shift*/) {
-        if (at.row >= 0) {
-            const auto row = calculator_->rowOf(*at.control, at.row);
-            if (!row || !clickRow(form(), *at.control, *row)) {
-                throw Wrong{"no such row: " + std::to_string(at.row)};
-            }
-        } else {
-            click(form(), *at.control);
-        }
-    });
+    if (at.row < 0) {
+        withModifiers(at.shift, [&](std::uint8_t /*shift*/) { click(form(), *at.control); });
+        return;
+    }
+    const std::size_t row = rowOf(at);
+    withModifiers(at.shift, [&](std::uint8_t /*shift*/) { clickRow(form(), *at.control, row); });
 }
 
 void KeyScript::doubleClickRow(std::string_view rest) {
     const Target at = target(takeWord(rest));
-    const auto row = at.row < 0 ? std::nullopt : calculator_->rowOf(*at.control, at.row);
-    if (!row) {
-        throw Wrong{"no such row"};
+    if (at.row < 0) {
+        throw Wrong{"dblclick needs the row of a list"};
     }
-    withModifiers(at.shift, [&](std::uint8_t /*shift*/) { tallyforge::doubleClickRow(form(), *at.control, *row); });
+    const std::size_t row = rowOf(at);
+    withModifiers(at.shift, [&](std::uint8_t /*shift*/) { tallyforge::doubleClickRow(form(), *at.control, row); });
 }
 
 void KeyScript::rightClickControl(std::string_view rest) {

@@ -68,6 +68,8 @@ private:
         std::uint8_t shift = 0;
     };
     [[nodiscard]] Target target(std::string_view text) const;
+    /// Row of the list that `at` names.
+    [[nodiscard]] std::size_t rowOf(const Target& at) const;
     template <typename Act>
     void withModifiers(std::uint8_t shift, Act act);
     void repeatHeld();

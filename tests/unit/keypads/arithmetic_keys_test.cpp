@@ -238,21 +238,6 @@ TEST_F(ArithmeticKeysTest, AModifierHeldOnTheKeyboardCountsForAClick) {
     EXPECT_EQ(x(), "3");
 }
 
-/// Adds the digits of binary numbers and records what it is asked.
-class FakeBases final : public BaseArithmetic {
-public:
-    ValueCell compute(int index, const ValueCell& left, const ValueCell& right) override {
-        asked = std::to_string(index) + " " + left.text('.') + " " + right.text('.');
-        if (fails) {
-            throw Failure{FailureNumber::SubtrahendGreater};
-        }
-        return "#1000b";
-    }
-    double real(const ValueCell& /*tagged*/) override { return 0.0; }
-    std::string asked;
-    bool fails = false;
-};
-
 class TaggedOperands : public ArithmeticKeysTest {
 protected:
     void pushTagged(std::string_view text) {
@@ -262,32 +247,38 @@ protected:
     }
 };
 
-TEST_F(TaggedOperands, GoToTheBaseRoutine) {
-    FakeBases bases;
-    keypads.arithmetic.bases = &bases;
+TEST_F(TaggedOperands, GiveANumberInTheBaseOfX) {
     pushTagged("#101b");
-    pushTagged("#11b");
+    pushTagged("#3d");
     clickMath(kAdd);
-    EXPECT_EQ(bases.asked, "3 #101b #11b");
-    EXPECT_EQ(x(), "#1000b");
+    EXPECT_EQ(x(), "#8d");
     EXPECT_EQ(calc.s.depth(), 1);
 }
 
-TEST_F(TaggedOperands, ASubtrahendTooGreatIsToldAndXStays) {
-    FakeBases bases;
-    bases.fails = true;
-    keypads.arithmetic.bases = &bases;
+TEST_F(TaggedOperands, ASubtrahendTooGreatIsToldAndTheOperandsStay) {
     pushTagged("#1b");
     pushTagged("#11b");
     clickMath(kSubtract);
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].text, "Subtrahend is greater than the minuend!");
     EXPECT_EQ(platform.boxes[0].title, "cmdMath Error!");
-    EXPECT_EQ(x(), "#11b");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(x(), "");
+    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.text(calc.s.slot(2)), "#11b");
+}
+
+TEST_F(TaggedOperands, AResultBeyondSixtyFourBitsIsToldAndTheOperandsStay) {
+    pushTagged("#18446744073709551615d");
+    pushTagged("#1d");
+    clickMath(kAdd);
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].text, eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
+    EXPECT_EQ(x(), "#1d");
+    EXPECT_EQ(calc.s.depth(), 2);
 }
 
 TEST_F(TaggedOperands, WithoutABaseRoutineNothingIsLost) {
+    keypads.arithmetic.bases = nullptr;
     push("6");
     pushTagged("#11b");
     const std::size_t lines = calc.tape.lines();

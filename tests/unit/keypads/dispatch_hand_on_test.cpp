@@ -24,24 +24,27 @@ TEST_F(DispatchHandOn, KeypadFiveHasKeyFourAlone) {
     EXPECT_EQ(calc.entryText(), "4");
 }
 
-TEST_F(DispatchHandOn, KeysThatMayBeHexDigitsLeaveTheTypedNumberOpen) {
+TEST_F(DispatchHandOn, KeysThatTypeGoOnWithTheNumberThatIsTyped) {
+    std::string typed;
+    keypads.dispatch.typeCharacter = [&](char character) { typed += character; };
     keypads.ShowKeypad(Keypad::Binary);
-    for (const int key : {0, 1, 2, 16, 17, 19}) {
-        type("1");
-        const int depth = calc.s.depth();
-        static std::string typed;
-        static bool open = false;
-        pressRow(
-            [](Keys& k) {
-                typed = k.calc.entryText();
-                open = k.calc.s.EntryOpen;
-                k.calc.s.Xreg = kNothingDone;
-            },
-            key);
-        EXPECT_EQ(typed, "1") << key;
-        EXPECT_TRUE(open) << key;
-        EXPECT_EQ(calc.s.depth(), depth) << key;
+    type("1");
+    for (const std::size_t key : {2U, 1U, 0U, 19U, 16U, 17U}) {
+        clickBank(key);
+        EXPECT_EQ(calc.entryText(), "1");
+        EXPECT_TRUE(calc.s.EntryOpen);
     }
+    EXPECT_EQ(typed, "ABCDEF");
+    for (const std::size_t key : {0U, 1U, 2U, 16U, 19U}) {
+        latch(0);
+        clickBank(key);
+    }
+    EXPECT_EQ(typed, "ABCDEFohd#b");
+    EXPECT_TRUE(platform.boxes.empty());
+    keypads.optKey_Click(1);
+    keypads.cmdFunctions_Click(0);
+    ASSERT_EQ(platform.boxes.size(), 1U) << "a modifier without a meaning is told, and the number stays";
+    EXPECT_EQ(calc.entryText(), "1");
 }
 
 TEST_F(DispatchHandOn, ProgramModeTakesTheKeyAndARunningProgramLetsItThrough) {

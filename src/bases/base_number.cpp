@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bases/base_number.h"
+
+#include "engine/failure.h"
+#include "engine/number_format.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr std::string_view kDigits = "0123456789ABCDEF";
+constexpr std::size_t kWordBits = 64;
+
+std::string_view withoutLeadingZeros(std::string_view digits) {
+    const auto first = digits.find_first_not_of('0');
+    return first == digits.npos ? std::string_view{} : digits.substr(first);
+}
+
+/// A double's whole value, exactly.
+std::uint64_t wholeOfDouble(double value) {
+    constexpr double kBeyond = 18446744073709551616.0;
+    if (value >= kBeyond) {
+        throw Failure{FailureNumber::Overflow};
+    }
+    return value <= 0.0 ? 0 : static_cast<std::uint64_t>(value);
+}
+
+/// Half to even on a double that has a fraction.
+double roundedHalfEven(double value) {
+    const double below = std::floor(value);
+    const double rest = value - below;
+    const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(below, 2.0) != 0.0);
+    return up ? below + 1.0 : below;
+}
+
+std::uint64_t wholeOfPlain(const ValueCell& value, char decimal) {
+    const std::string_view text = value.textView();
+    if (!text.empty() && text.find_first_not_of("0123456789") == text.npos) {
+        // More digits than a double holds may have been typed.
+        return readDigits(text, kDecimal);
+    }
+    constexpr std::size_t kRoundedUpLength = 16;
+    const double number = value.number(decimal);
+    const std::string shown = value.text(decimal);
+    const bool halfUp = shown.size() == kRoundedUpLength && shown.find(decimal) != std::string::npos;
+    return wholeOfDouble(halfUp ? std::floor(number + 0.5) : roundedHalfEven(number));
+}
+
+}  // namespace
+
+unsigned radixOf(char letter) {
+    switch (letter) {
+        case kBinary:
+            return 2;
+        case kDecimal:
+            return 10;
+        case kHexadecimal:
+            return 16;
+        case kOctal:
+            return 8;
+        default:
+            return 0;
+    }
+}
+
+std::uint64_t readDigits(std::string_view digits, char letter) {
+    const unsigned radix = radixOf(letter);
+    if (digits.empty() || radix == 0) {
+        throw Failure{FailureNumber::TypeMismatch};
+    }
+    if (letter == kBinary && withoutLeadingZeros(digits).size() > kWordBits) {
+        throw Failure{FailureNumber::BaseRange};
+    }
+    std::uint64_t value = 0;
+    for (const char digit : digits) {
+        const auto place = kDigits.substr(0, radix).find(digit);
+        if (place == std::string_view::npos) {
+            throw Failure{FailureNumber::TypeMismatch};
+        }
+        if (value > (std::numeric_limits<std::uint64_t>::max() - place) / radix) {
+            throw Failure{FailureNumber::Overflow};
+        }
+        value = value * radix + place;
+    }
+    return value;
+}
+
+std::string writeDigits(std::uint64_t value, char letter) {
+    const unsigned radix = radixOf(letter);
+    if (radix == 0) {
+        throw Failure{FailureNumber::TypeMismatch};
+    }
+    std::string reversed;
+    do {
+        reversed += kDigits[value % radix];
+        value /= radix;
+    } while (value != 0);
+    return {reversed.rbegin(), reversed.rend()};
+}
+
+std::string Dec2Hex(std::uint64_t whole) {
+    return writeDigits(whole, kHexadecimal);
+}
+std::uint64_t Hex2Dec(std::string_view hex) {
+    return readDigits(hex, kHexadecimal);
+}
+std::string Hex2Bin(std::string_view hex) {
+    return writeDigits(readDigits(hex, kHexadecimal), kBinary);
+}
+std::string Bin2Hex(std::string_view bits) {
+    return writeDigits(readDigits(bits, kBinary), kHexadecimal);
+}
+std::string Bin2Dec(std::string_view bits) {
+    return writeDigits(readDigits(bits, kBinary), kDecimal);
+}
+std::string Oct2Bin(std::string_view octal) {
+    return writeDigits(readDigits(octal, kOctal), kBinary);
+}
+std::string Dec2Oct(std::string_view decimal) {
+    return writeDigits(readDigits(decimal, kDecimal), kOctal);
+}
+
+std::string ConvertBin(std::string_view taggedText) {
+    if (taggedText.size() < 2) {
+        throw Failure{FailureNumber::TypeMismatch};
+    }
+    return writeDigits(readDigits(taggedText.substr(1, taggedText.size() - 2), taggedText.back()), kDecimal);
+}
+
+bool ExceedsWord(std::string_view decimalText) {
+    if (decimalText.starts_with('#')) {
+        return false;
+    }
+    constexpr std::string_view kLargest = "18446744073709551615";
+    const std::string_view digits = withoutLeadingZeros(decimalText);
+    return digits.size() > kLargest.size() || (digits.size() == kLargest.size() && digits > kLargest);
+}
+
+std::string Real2Bin(const ValueCell& value, char letter, char decimal) {
+    return writeDigits(wholeOfPlain(value, decimal), letter);
+}
+
+std::string tagged(std::uint64_t value, char letter) {
+    return "#" + writeDigits(value, letter) + letter;
+}
+
+char letterOf(const ValueCell& value) {
+    return value.isTagged() ? value.textView().back() : '\0';
+}
+
+std::uint64_t wholeOf(const ValueCell& value, char decimal) {
+    if (!value.isTagged()) {
+        return wholeOfPlain(value, decimal);
+    }
+    const std::string_view text = value.textView();
+    return readDigits(text.substr(1, text.size() < 2 ? 0 : text.size() - 2), text.back());
+}
+
+std::string cutToWord(std::string_view digits, char letter, int wordSize) {
+    try {
+        std::uint64_t value = readDigits(digits, letter);
+        if (wordSize < static_cast<int>(kWordBits)) {
+            value &= (std::uint64_t{1} << wordSize) - 1;
+        }
+        return writeDigits(value, letter);
+    } catch (const Failure&) {
+        return std::string(digits);
+    }
+}
+
+}  // namespace tallyforge

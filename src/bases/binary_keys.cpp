@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bases/binary_keys.h"
+
+#include "bases/base_number.h"
+#include "engine/engine.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr std::size_t kByte = 8;
+constexpr int kSmallestByteWord = 9;
+constexpr int kBitsOfDigit = 4;
+
+bool needsBytes(std::string_view code) {
+    return code.ends_with('B');
+}
+
+/// The letter that a logic operation gives its result: h, unless an operand has another one.
+void rememberLetter(char& letter, const ValueCell& operand) {
+    const char own = letterOf(operand);
+    if (own != '\0' && own != kHexadecimal) {
+        letter = own;
+    }
+}
+
+std::uint64_t invertDigits(std::uint64_t value, int wordSize) {
+    const auto own = static_cast<int>(Dec2Hex(value).size());
+    const int digits = std::max(own, wordSize / kBitsOfDigit);
+    const int bits = digits * kBitsOfDigit;
+    const std::uint64_t all = bits >= 64 ? std::numeric_limits<std::uint64_t>::max() : (std::uint64_t{1} << bits) - 1;
+    return ~value & all;
+}
+
+std::uint64_t divide(Engine& calc, std::uint64_t left, std::uint64_t right, char letter) {
+    if (right == 0) {
+        throw Failure{FailureNumber::DivisionByZero};
+    }
+    const std::uint64_t rest = left % right;
+    calc.s.BaseRemainder = rest == 0 ? std::string{} : tagged(rest, letter);
+    return left / right;
+}
+
+std::uint64_t multiply(std::uint64_t left, std::uint64_t right) {
+    if (right != 0 && left > std::numeric_limits<std::uint64_t>::max() / right) {
+        throw Failure{FailureNumber::Overflow};
+    }
+    return left * right;
+}
+
+std::uint64_t subtract(std::uint64_t left, std::uint64_t right) {
+    if (left < right) {
+        throw Failure{FailureNumber::SubtrahendGreater};
+    }
+    return left - right;
+}
+
+std::uint64_t add(std::uint64_t left, std::uint64_t right) {
+    if (left > std::numeric_limits<std::uint64_t>::max() - right) {
+        throw Failure{FailureNumber::Overflow};
+    }
+    return left + right;
+}
+
+}  // namespace
+
+BinaryKeys::BinaryKeys(Engine& calculator) : calc(calculator) {
+    calc.cutToWord = cutToWord;
+}
+
+// The keys with one meaning refuse every modifier.
+bool BinaryKeys::plainKeyOnly() {
+    if (calc.s.ModifierMask != 0) {
+        calc.s.Xreg = kNoMeaning;
+        return false;
+    }
+    return true;
+}
+
+void BinaryKeys::show(char letter) {
+    if (plainKeyOnly()) {
+        calc.s.BaseLetter = letter;
+        calc.s.Xreg = tagged(wholeOf(calc.s.Xreg, calc.s.DecimalChar), letter);
+    }
+}
+
+void BinaryKeys::baseChoice() {
+    EngineState& s = calc.s;
+    constexpr std::array<char, 5> kLetterUnder{kBinary, kHexadecimal, kOctal, '\0', kDecimal};
+    const char letter = s.ModifierMask < kLetterUnder.size() ? kLetterUnder.at(s.ModifierMask) : '\0';
+    if (letter == '\0') {
+        s.Xreg = kNoMeaning;
+        return;
+    }
+    if (s.Xreg.isTagged()) {
+        if (s.ModifierMask != 0) {
+            throw Failure{FailureNumber::Overflow};
+        }
+        s.Xreg = ConvertBin(s.Xreg.textView());
+        s.FnLabel = "real";
+        return;
+    }
+    s.BaseLetter = letter;
+    s.Xreg = "#" + Real2Bin(s.Xreg, letter, s.DecimalChar) + letter;
+    s.FnLabel = std::string("(") + letter + ")";
+}
+
+void BinaryKeys::LogicOp(std::string_view name) {
+    EngineState& s = calc.s;
+    if (!plainKeyOnly()) {
+        return;
+    }
+    char letter = kHexadecimal;
+    rememberLetter(letter, s.Xreg);
+    const std::uint64_t x = wholeOf(s.Xreg, s.DecimalChar);
+    if (name == "NOT") {
+        s.Xreg = tagged(invertDigits(x, s.WordSize), letter);
+        s.FnLabel = name;
+        return;
+    }
+    rememberLetter(letter, s.Yreg);
+    const std::uint64_t y = wholeOf(s.Yreg, s.DecimalChar);
+    const std::uint64_t result = name == "AND" ? (x & y) : name == "OR" ? (x | y) : (x ^ y);
+    s.Xreg = tagged(result, letter);
+    s.FnLabel = name;
+    calc.commit.lowerStack(2);
+}
+
+void BinaryKeys::RotateShift(std::string_view code) {
+    EngineState& s = calc.s;
+    if (!plainKeyOnly()) {
+        return;
+    }
+    if (!s.Xreg.isTagged() || (needsBytes(code) && s.WordSize < kSmallestByteWord)) {
+        if (!s.Xreg.isTagged()) {
+            calc.errorBox(BoxKind::Stop, "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
+        }
+        s.KeepX = s.Xreg;
+        s.Xreg = kNothingDone;
+        return;
+    }
+    const char letter = letterOf(s.Xreg);
+    const std::string bits = rotateShiftBits(writeDigits(wholeOf(s.Xreg, s.DecimalChar), kBinary), code, s.WordSize);
+    s.Xreg = tagged(readDigits(bits, kBinary), letter);
+    s.FnLabel = code;
+}
+
+ValueCell BinaryKeys::compute(int index, const ValueCell& left, const ValueCell& right) {
+    EngineState& s = calc.s;
+    char letter = letterOf(s.Xreg);
+    if (letter == '\0') {
+        letter = left.isTagged() ? letterOf(left) : letterOf(right);
+    }
+    const std::uint64_t one = wholeOf(left, s.DecimalChar);
+    const std::uint64_t other = wholeOf(right, s.DecimalChar);
+    switch (index) {
+        case 0:
+            return tagged(divide(calc, one, other, letter), letter);
+        case 1:
+            return tagged(multiply(one, other), letter);
+        case 2:
+            return tagged(subtract(one, other), letter);
+        default:
+            return tagged(add(one, other), letter);
+    }
+}
+
+std::string rotateShiftBits(std::string bits, std::string_view code, int wordSize) {
+    const auto word = static_cast<std::size_t>(wordSize);
+    if (bits.size() < word) {
+        bits.insert(0, word - bits.size(), '0');
+    }
+    const std::size_t count = needsBytes(code) ? kByte : 1;
+    const std::size_t size = bits.size();
+    if (code.starts_with("rL")) {
+        std::rotate(bits.begin(), bits.begin() + static_cast<std::ptrdiff_t>(count), bits.end());
+    } else if (code.starts_with("rR")) {
+        std::rotate(bits.begin(), bits.end() - static_cast<std::ptrdiff_t>(count), bits.end());
+    } else if (code.starts_with("sL")) {
+        bits = bits.substr(count) + std::string(count, '0');
+    } else if (code.starts_with("sR")) {
+        bits = bits.substr(0, size - count);
+    } else if (code == "AsR") {
+        bits = bits.front() + bits.substr(0, size - 1);
+    }
+    return bits.size() > word ? bits.substr(bits.size() - word) : bits;
+}
+
+}  // namespace tallyforge
