@@ -97,6 +97,9 @@ void readTape(Reader& reader, TapeFileContent& content, char decimal) {
         damaged();
     }
     const std::size_t shown = content.lines.size() - static_cast<std::size_t>(content.fillers);
+    if (reader.left() < content.lines.size()) {
+        damaged();
+    }
     // The first value belongs to no line.
     for (std::size_t i = 0; reader.left() > 0; ++i) {
         ValueCell value = readValue(reader.next(), decimal);
@@ -144,7 +147,12 @@ std::string printedValue(const ValueCell& value, char decimal) {
 
 ValueCell readValue(std::string_view text, char decimal) {
     const std::string_view inner = trimmed(text);
-    return tryReadNumber(inner, decimal) ? ValueCell{inner} : ValueCell{text};
+    const auto number = tryReadNumber(inner, decimal);
+    if (!number) {
+        return text;
+    }
+    // A number was printed with a blank behind it; what stands without one was typed.
+    return text.ends_with(' ') ? ValueCell{*number} : ValueCell{inner};
 }
 
 std::string registerLine(const RegisterLine& line, char decimal) {
@@ -213,6 +221,10 @@ std::string formatTapeFile(const TapeFileContent& content, char decimal) {
 }
 
 TapeFileContent parseTapeFile(std::string_view text, char decimal) {
+    if (!text.ends_with('\n')) {
+        // Every line is written with its end, so this file was cut.
+        damaged();
+    }
     const std::vector<std::string_view> lines = splitLines(text);
     Reader reader{lines};
     TapeFileContent content;

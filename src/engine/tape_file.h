@@ -40,7 +40,8 @@ struct TapeFileContent {
 /// A value as a file holds it: a text as it stands, a number with a blank behind it and one in
 /// front where it has no minus.
 [[nodiscard]] std::string printedValue(const ValueCell& value, char decimal);
-/// The value that a line of a file reads as. Numbers lose the blanks around them.
+/// The value that a line of a file reads as. A number that was printed is a number again; one that
+/// was typed is the text that was typed. Both lose the blanks around them.
 [[nodiscard]] ValueCell readValue(std::string_view text, char decimal);
 
 /// One line of the registers section, without its line end.
@@ -52,7 +53,8 @@ struct TapeFileContent {
 [[nodiscard]] std::vector<std::string_view> splitLines(std::string_view text);
 
 [[nodiscard]] std::string formatTapeFile(const TapeFileContent& content, char decimal);
-/// Raises 54 where a section is missing, short, or a number in it makes no sense.
+/// Raises 54 where a section is missing or short, a number in it makes no sense, or the last line
+/// has no end, as in a file that was cut.
 [[nodiscard]] TapeFileContent parseTapeFile(std::string_view text, char decimal);
 
 }  // namespace tallyforge

@@ -14,6 +14,9 @@ namespace {
 constexpr double kRowTwips = 200.0;
 constexpr double kListFontShare = 0.86;
 constexpr double kStackRowTwips = 175.0;
+/// Few sizes for all captions: the bank looks quieter, and each size that is loaded costs time.
+constexpr double kNextSmaller = 7.0 / 8.0;
+constexpr double kSmallestPixels = 6.0;
 
 QString unicode(std::string_view bytes, Face face) {
     return QString::fromStdString(toUnicode(bytes, face));
@@ -69,11 +72,11 @@ FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTw
     const QChar access = mark >= 0 && mark + 1 < caption.size() ? caption.at(mark + 1) : QChar();
     caption.remove('&');
     const QList<QStringList> ways = breaks(caption);
-    for (double pixels = fontPixels(control.font, pixelsPerTwip); fitted.lines.isEmpty(); pixels -= 1.0) {
+    for (double pixels = fontPixels(control.font, pixelsPerTwip); fitted.lines.isEmpty(); pixels *= kNextSmaller) {
         fitted.font = faceFont(control.font, pixels);
         const QFontMetricsF metrics(fitted.font);
         for (const QStringList& way : ways) {
-            if (fits(way, metrics, size) || pixels <= 6.0) {
+            if (fits(way, metrics, size) || pixels <= kSmallestPixels) {
                 fitted.lines = way;
                 break;
             }

@@ -74,8 +74,8 @@ TEST_F(ShowTest, TheBankIsMarkedInTheCompactLayoutToo) {
 }
 
 TEST_F(ShowTest, ARegisterIsShownWithItsNameValueAndField) {
-    EXPECT_EQ(shown("type 12.5\nkey Enter\ntype 3\nclick Shift+cmdSTO\nshow regs"),
-              (Lines{"sound", "reg 3 3 12.5 [1.3e+01]"}));
+    EXPECT_EQ(shown("type 14.25\nkey Enter\ntype 3\nclick Shift+cmdSTO\nshow regs"),
+              (Lines{"sound", "reg 3 3 14.25 [1.4e+01]"}));
 }
 
 TEST_F(ShowTest, EachVisibleKeyIsShownWithCaptionAndColour) {
@@ -102,8 +102,8 @@ TEST_F(ShowTest, AKeyThatVanishesUnderAModifierIsNotShown) {
 }
 
 TEST_F(ShowTest, TheKeypadIsShownByIdAndName) {
-    EXPECT_EQ(shown("show keypad\nmenu mnuMag\nshow keypad"),
-              (Lines{R"(keypad 0 "Standard")", R"(keypad 8 "Magnetics")"}));
+    EXPECT_EQ(shown("show keypad\nmenu mnuTrig\nshow keypad"),
+              (Lines{R"(keypad 0 "Standard")", R"(keypad 2 "Trigonometry")"}));
 }
 
 TEST_F(ShowTest, TheLampsStandInOneOrder) {
@@ -122,8 +122,14 @@ TEST_F(ShowTest, TheAngleModeFollowsItsOptions) {
 }
 
 TEST_F(ShowTest, TheMenuIsShownWithTicks) {
-    EXPECT_TRUE(shows("show menu", R"(menu mnuStd "&Standard" ticked)"));
+    EXPECT_TRUE(shows("show menu", R"(menu mnuStd "&Std" ticked)"));
     EXPECT_TRUE(shows("menu mnuTrig\nshow menu", R"(menu mnuTrig "&Trig" ticked)"));
+    EXPECT_TRUE(shows("menu mnuTrig\nshow menu", R"(menu mnuStd "&Std")"));
+}
+
+TEST_F(ShowTest, ADisabledMenuEntryIsMarked) {
+    EXPECT_EQ(runHooked({{"show menu", [this] { form().mnuSkins.enabled = false; }}}), ScriptEnd::Done);
+    EXPECT_EQ(std::count(out.begin(), out.end(), R"(menu mnuSkins "View Skins" ticked disabled)"), 1);
 }
 
 TEST_F(ShowTest, AControlIsShownWithTextAndState) {

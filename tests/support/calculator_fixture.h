@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A whole calculator on a test platform, typed and clicked as by a hand.
+#pragma once
+
+#include "platform/form_input.h"
+#include "platform/key_codes.h"
+#include "shell/calculator.h"
+#include "support/test_platform.h"
+
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyforge {
+
+class CalculatorAtHand {
+public:
+    CalculatorAtHand() { start(); }
+
+    /// Ends the program and starts it again on the same data folder.
+    void start() {
+        calculator = std::make_unique<Calculator>(platform);
+        calculator->start();
+    }
+    [[nodiscard]] Engine& calc() const { return calculator->engine(); }
+    [[nodiscard]] EngineState& s() const { return calc().s; }
+    [[nodiscard]] MainForm& form() const { return calc().form; }
+
+    void press(int keyCode, int character = 0, std::uint8_t shift = 0) const {
+        const KeyStroke stroke{.keyCode = keyCode, .shift = shift, .character = character};
+        pressKey(form(), stroke);
+        releaseKey(form(), stroke);
+    }
+    void type(std::string_view text) const {
+        for (const char character : text) {
+            press(keyCodeOf(static_cast<unsigned char>(character)), static_cast<unsigned char>(character));
+        }
+    }
+    void enter(std::string_view text) const {
+        type(text);
+        press(kKeyEnter, 13);
+    }
+    void clickWith(std::uint8_t mask, Control& control) const {
+        if (mask != 0) {
+            holdModifiers(form(), mask);
+        }
+        click(form(), control);
+        if (mask != 0) {
+            releaseModifiers(form());
+        }
+    }
+    void choose(Control& control) const { clickWith(0, control); }
+
+    [[nodiscard]] std::string x() const { return calc().text(s().Xreg); }
+    [[nodiscard]] std::string reg(std::size_t number) const { return calc().text(s().Registers.at(number)); }
+    [[nodiscard]] std::vector<std::string> tape() const {
+        std::vector<std::string> lines;
+        for (auto row = static_cast<std::size_t>(calc().tape.fillers()); row < calc().tape.count(); ++row) {
+            lines.push_back(calc().tape.row(row));
+        }
+        return lines;
+    }
+    [[nodiscard]] std::string file(const std::string& name) const {
+        std::ifstream in(platform.folder / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+    void writeFile(const std::string& name, std::string_view bytes) const {
+        std::ofstream(platform.folder / name, std::ios::binary) << bytes;
+    }
+    /// Everything that a save and a retrieval must bring back, as text.
+    [[nodiscard]] std::vector<std::string> everything() const {
+        std::vector<std::string> all{x(), calc().text(s().LastX), std::to_string(s().StackPtr)};
+        for (int element = 1; element < s().StackPtr; ++element) {
+            all.push_back(calc().text(s().slot(element)));
+        }
+        for (std::size_t row = 0; row < calc().tape.count(); ++row) {
+            all.push_back(calc().tape.row(row) + "=" + calc().text(calc().tape.value(row)));
+        }
+        for (int number = 1; number <= kRegisters; ++number) {
+            const std::string value = reg(static_cast<std::size_t>(number));
+            all.push_back(value == "0" ? "" : value);
+        }
+        all.insert(all.end(), s().RegisterNames.begin(), s().RegisterNames.end());
+        return all;
+    }
+
+    TestPlatform platform;
+    std::unique_ptr<Calculator> calculator;
+};
+
+}  // namespace tallyforge

@@ -1,0 +1,305 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The settings records and the life cycle, with a whole calculator.
+#include "engine/settings_file.h"
+#include "support/calculator_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+namespace tallyforge {
+namespace {
+
+class Settings : public ::testing::Test, protected CalculatorAtHand {
+protected:
+    [[nodiscard]] std::string bytes() const { return file(SettingsFile::kName); }
+    [[nodiscard]] std::uint32_t longAt(std::size_t offset) const {
+        const std::string all = bytes();
+        std::uint32_t value = 0;
+        for (std::size_t i = 4; i-- > 0;) {
+            value = value << 8U | static_cast<unsigned char>(all.at(offset + i));
+        }
+        return value;
+    }
+    [[nodiscard]] std::string text(std::size_t offset, std::size_t count) const {
+        return bytes().substr(offset, count);
+    }
+    void saveSettings() {
+        platform.answers = {Answer::Yes};
+        choose(form().mnuSave);
+    }
+    static constexpr std::size_t kRecord2 = 1250;
+    static constexpr std::size_t kRecord3 = 2500;
+    static constexpr std::size_t kLongB = 116;
+    static constexpr std::size_t kTextA = 4;
+    static constexpr std::size_t kTextB = 56;
+};
+
+TEST_F(Settings, TheFirstStartLaysTheFileDownWithItsDefaults) {
+    ASSERT_EQ(bytes().size(), 3750U);
+    EXPECT_EQ(text(kTextA + 28, 2), "08");
+    EXPECT_EQ(text(kTextB, 2), "00");
+    EXPECT_EQ(text(kRecord2 + kTextB + 47, 5), "7.75 ");
+    EXPECT_EQ(text(kRecord3 + kTextB, 12), "Philosopher ");
+    EXPECT_EQ(text(kRecord3 + kTextA + 41, 2), "64");
+    EXPECT_EQ(longAt(kRecord2 + kLongB), 1U | 1U << 5 | 1U << 17 | 1U << 19 | 1U << 21);
+    EXPECT_EQ(s().DisplayDigits, 2);
+    EXPECT_EQ(s().Mode, DisplayMode::Fixed);
+    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(s().Angle, AngleMode::Degrees);
+    EXPECT_FALSE(s().ViewExtended);
+    EXPECT_FLOAT_EQ(s().TaxRate, 7.75F);
+    EXPECT_TRUE(form().mnuSkins.checked);
+    EXPECT_EQ(form().cmdDigits.text, "Display(2)");
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(Settings, EachRangeOfUnitsHasOneRow) {
+    const auto rows = [](std::uint32_t word, int first, int last) {
+        int set = 0;
+        for (int bit = first; bit <= last; ++bit) {
+            set += (word >> bit & 1U) != 0 ? 1 : 0;
+        }
+        return set;
+    };
+    const std::uint32_t magnetics = longAt(0);
+    for (const auto& [first, last] :
+         {std::pair{0, 4}, {5, 8}, {9, 10}, {11, 14}, {15, 18}, {19, 20}, {21, 22}, {23, 26}, {27, 30}}) {
+        EXPECT_EQ(rows(magnetics, first, last), 1) << first;
+    }
+    const std::uint32_t ohm = longAt(kRecord3);
+    for (const auto& [first, last] : {std::pair{0, 3}, {6, 10}, {11, 14}, {16, 19}, {20, 22}, {23, 26}, {27, 30}}) {
+        EXPECT_EQ(rows(ohm, first, last), 1) << first;
+    }
+}
+
+TEST_F(Settings, SaveSettingsKeepsFormatKeypadViewAndAngle) {
+    choose(form().optFix[2]);
+    choose(form().optGrad);
+    type("7");
+    choose(form().cmdDigits);
+    choose(form().mnuTrig);
+    choose(form().cmdView);
+    saveSettings();
+    EXPECT_EQ(platform.boxes.back().text, "Would you like to save your settings?");
+    EXPECT_EQ(platform.boxes.back().title, "SAVE!");
+    EXPECT_EQ(longAt(kRecord2 + kLongB), 1U << 2 | 1U << 10 | 1U << 18 | 1U << 23);
+    start();
+    EXPECT_EQ(s().Mode, DisplayMode::Engineering);
+    EXPECT_EQ(s().DisplayDigits, 7);
+    EXPECT_EQ(s().ActiveKeypad, Keypad::Trigonometry);
+    EXPECT_EQ(s().Angle, AngleMode::Grads);
+    EXPECT_TRUE(s().ViewExtended);
+    EXPECT_EQ(form().place.width, 7200);
+    EXPECT_TRUE(form().txtReg_m[11].visible);
+}
+
+TEST_F(Settings, WithoutSaveSettingsNothingOfThatIsKept) {
+    choose(form().optFix[1]);
+    choose(form().mnuMag);
+    choose(form().mnuSave);
+    start();
+    EXPECT_EQ(s().Mode, DisplayMode::Fixed);
+    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
+}
+
+TEST_F(Settings, OnTheBinaryKeypadTheUsersDigitsAreSaved) {
+    type("6");
+    choose(form().cmdDigits);
+    choose(form().mnuEngBinary);
+    EXPECT_EQ(s().DisplayDigits, 0);
+    saveSettings();
+    EXPECT_EQ(longAt(kRecord2 + kLongB) & 0xFFF8U, 1U << 9);
+    EXPECT_NE(longAt(kRecord2 + kLongB) & 1U << 24, 0U);
+}
+
+TEST_F(Settings, TheWordSizeIsKeptInTwoDigits) {
+    choose(form().mnuEngBinary);
+    type("8");
+    choose(form().cmdDigits);
+    saveSettings();
+    EXPECT_EQ(text(kRecord3 + kTextA + 41, 2), "08");
+    start();
+    EXPECT_EQ(s().WordSize, 8);
+}
+
+TEST_F(Settings, TheTicksWriteThemselvesAtOnce) {
+    choose(form().mnuPosition);
+    choose(form().mnuAOT);
+    choose(form().mnuLoad);
+    choose(form().mnuSkins);
+    EXPECT_EQ(text(kRecord2 + kTextA + 40, 12), "Snail mail: ");
+    EXPECT_EQ(text(kRecord2 + kTextA, 1), "E");
+    EXPECT_EQ(text(kRecord2 + kTextA + 10, 1), "S");
+    EXPECT_NE(longAt(kRecord2 + kLongB) & 1U << 16, 0U);
+    start();
+    EXPECT_TRUE(form().mnuAOT.checked);
+    EXPECT_TRUE(form().alwaysOnTop);
+    EXPECT_TRUE(form().mnuPosition.checked);
+    EXPECT_TRUE(s().NoKeyPaint);
+    EXPECT_FALSE(form().mnuSkins.checked);
+    choose(form().mnuAOT);
+    EXPECT_EQ(text(kRecord2 + kTextA, 1), "e");
+}
+
+TEST_F(Settings, ThePositionIsKeptOnlyWhereTheUserWantsIt) {
+    form().place.top = 1500;
+    form().place.left = 2400;
+    closeForm(form());
+    EXPECT_EQ(text(kRecord3 + kTextB, 12), "Philosopher ");
+    EXPECT_FALSE(form().open);
+    start();
+    EXPECT_EQ(form().place.left, 0);
+    choose(form().mnuPosition);
+    form().place.top = 1500;
+    form().place.left = 2400;
+    closeForm(form());
+    EXPECT_EQ(text(kRecord3 + kTextB, 12), "01500 002400");
+    start();
+    EXPECT_EQ(form().place.top, 1500);
+    EXPECT_EQ(form().place.left, 2400);
+    form().place.top = 9;
+    form().minimised = true;
+    closeForm(form());
+    EXPECT_EQ(text(kRecord3 + kTextB, 12), "01500 002400") << "a minimised window keeps the place it had at start";
+}
+
+TEST_F(Settings, ReservedBytesStayAsTheyStand) {
+    std::string marked = bytes();
+    for (const std::size_t offset : {120U, 1249U, 1250U + 800U, 2500U + 1249U}) {
+        marked[offset] = 'R';
+    }
+    writeFile(SettingsFile::kName, marked);
+    choose(form().mnuPosition);
+    saveSettings();
+    closeForm(form());
+    for (const std::size_t offset : {120U, 1249U, 1250U + 800U, 2500U + 1249U}) {
+        EXPECT_EQ(bytes()[offset], 'R') << offset;
+    }
+}
+
+TEST_F(Settings, AMissingShortOrNoisyFileIsToldAndHarmsNothing) {
+    const std::string whole = bytes();
+    std::string noise(3750, 'x');
+    for (const std::string& damaged : {std::string{}, whole.substr(0, 3749), whole + "x"}) {
+        writeFile(SettingsFile::kName, damaged);
+        platform.boxes.clear();
+        start();
+        ASSERT_EQ(platform.boxes.size(), 1U) << damaged.size();
+        EXPECT_EQ(platform.boxes[0].title, "Error loading program!");
+        EXPECT_EQ(platform.boxes[0].text.substr(0, 73),
+                  "There is a missing or corrupt file! Remove and reinstall the software, or");
+        EXPECT_EQ(platform.boxes[0].kind, BoxKind::Stop);
+        EXPECT_FALSE(form().open);
+        EXPECT_EQ(bytes(), damaged);
+    }
+    writeFile(SettingsFile::kName, noise);
+    platform.boxes.clear();
+    start();
+    EXPECT_EQ(platform.boxes.at(0).title, "Version Conflict!");
+    std::filesystem::remove(platform.folder / SettingsFile::kName);
+    writeFile("tape.txt", "a tape of the user's");
+    platform.boxes.clear();
+    start();
+    EXPECT_EQ(platform.boxes.at(0).title, "Error loading program!");
+    EXPECT_EQ(file("tape.txt"), "a tape of the user's");
+}
+
+TEST_F(Settings, AnOldDataVersionIsRefused) {
+    std::string old = bytes();
+    old.replace(kTextA + 28, 2, "07");
+    writeFile(SettingsFile::kName, old);
+    start();
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].title, "Version Conflict!");
+    EXPECT_EQ(platform.boxes[0].text,
+              "You must uninstall the previous version \ncompletely, then reinstall the new version.");
+    EXPECT_FALSE(form().open);
+}
+
+TEST_F(Settings, TheDecimalCommaIsTheLocales) {
+    platform.decimal = ',';
+    start();
+    EXPECT_EQ(form().cmdNumPad[10].text, ",");
+    EXPECT_FLOAT_EQ(s().TaxRate, 7.75F);
+    enter("1,5");
+    EXPECT_EQ(tape().back(), "1,50");
+}
+
+TEST_F(Settings, AnotherDensityGivesTheCompactForm) {
+    platform.desktop.dotsPerInch = 120;
+    start();
+    EXPECT_TRUE(s().CompactForm);
+    EXPECT_EQ(s().TapeRows, 5);
+    EXPECT_EQ(calc().tape.count(), 5U);
+    EXPECT_FLOAT_EQ(form().lstDisplayReg.font.points, 12.0F);
+}
+
+TEST_F(Settings, ViewShowsTheSmallRegistersAndKeepsThem) {
+    EXPECT_FALSE(form().txty_Reg.visible);
+    clickWith(kAlt, form().cmdView);
+    EXPECT_TRUE(form().txty_Reg.visible);
+    EXPECT_TRUE(form().Label7.visible);
+    EXPECT_FALSE(form().txtLastx.visible);
+    clickWith(kCtrl, form().cmdView);
+    EXPECT_TRUE(form().txtLastx.visible);
+    clickWith(kCtrl, form().cmdDigits);
+    EXPECT_EQ(form().place.height, s().BasicHeight + 300);
+    start();
+    EXPECT_TRUE(form().txty_Reg.visible);
+    EXPECT_TRUE(form().txtLastx.visible);
+    EXPECT_TRUE(s().TallForm);
+    EXPECT_EQ(form().place.height, s().BasicHeight + 240);
+    clickWith(kAlt, form().cmdView);
+    EXPECT_FALSE(form().txty_Reg.visible);
+    choose(form().cmdView);
+    EXPECT_TRUE(form().txty_Reg.visible);
+    EXPECT_EQ(form().place.height, s().BasicHeight + 240 + 2000);
+    clickWith(kAlt, form().cmdView);
+    EXPECT_TRUE(form().txty_Reg.visible) << "only the plain view has the choice";
+    clickWith(kShift, form().cmdView);
+    EXPECT_TRUE(s().ViewExtended);
+}
+
+TEST_F(Settings, TheFirstNoticesOfTheKeypadsAreCounted) {
+    choose(form().mnuEngNormal);
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].title, "Engineering Keypad");
+    EXPECT_EQ(text(kTextB, 1), "1");
+    for (int run = 0; run < 10; ++run) {
+        start();
+        choose(form().mnuEngNormal);
+    }
+    EXPECT_EQ(platform.boxes.size(), 7U);
+    EXPECT_EQ(text(kTextB, 1), "7");
+}
+
+TEST_F(Settings, APasteTakesNumbersAndNumbersOfABase) {
+    platform.clipboard = "12abc";
+    choose(form().mnuPaste);
+    EXPECT_EQ(s().depth(), 0);
+    platform.clipboard = " 1.50\n";
+    choose(form().mnuPaste);
+    EXPECT_EQ(x(), "1.50");
+    EXPECT_EQ(tape().back(), "Paste              1.50");
+    platform.clipboard = "#101b";
+    choose(form().mnuPaste);
+    EXPECT_EQ(x(), "#101b");
+    platform.clipboard = "#101";
+    choose(form().mnuPaste);
+    EXPECT_EQ(s().depth(), 2);
+    platform.clipboard = "1e999";
+    choose(form().mnuPaste);
+    EXPECT_EQ(platform.boxes.back().text, "Error number 6!");
+    EXPECT_EQ(s().depth(), 2);
+}
+
+TEST_F(Settings, CopyGivesTheNumberAsItWasTyped) {
+    enter("2.500");
+    choose(form().mnuCopy);
+    EXPECT_EQ(platform.clipboard, "2.500");
+}
+
+}  // namespace
+}  // namespace tallyforge
