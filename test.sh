@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 exec </dev/null
-export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
+export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen GTEST_BRIEF=1
 # The tree without Qt is compiled like the debug tree, so its objects are taken from the compiler cache.
 export CCACHE_NOHASHDIR=1
 
@@ -65,14 +65,23 @@ step_fuzz() {
 
 step_bench() { tools/bench --benchmark_min_time=0.02; }
 
-wanted=("$@")
-[ $# -gt 0 ] || wanted=(layers format debug core asan lint fuzz bench)
 tools/setup.sh test
-for name in "${wanted[@]}"; do
-    declare -F "step_$name" >/dev/null || { echo "there is no step $name" >&2; exit 2; }
-    printf '\n== %s\n' "$name"
-    begun=$SECONDS
-    "step_$name"
-    echo "($name: $((SECONDS - begun)) s)"
+if [ $# -eq 1 ]; then
+    declare -F "step_$1" >/dev/null || { echo "there is no step $1" >&2; exit 2; }
+    printf '\n== %s\n' "$1"
+    "step_$1"
+    echo "($1: $SECONDS s)"
+    exit
+fi
+
+# Each step runs by itself, so that one that fails does not hide the others.
+[ $# -gt 0 ] || set -- layers format debug core asan lint fuzz bench
+failed=()
+for name in "$@"; do
+    ./test.sh "$name" || failed+=("$name")
 done
+if [ ${#failed[@]} -gt 0 ]; then
+    printf '\nfailed: %s (in %s s)\n' "${failed[*]}" "$SECONDS"
+    exit 1
+fi
 printf '\nall passed, in %s s\n' "$SECONDS"

@@ -81,8 +81,9 @@ public:
             all.push_back(calc().tape.row(row) + "=" + calc().text(calc().tape.value(row)));
         }
         for (int number = 1; number <= kRegisters; ++number) {
-            const std::string value = reg(static_cast<std::size_t>(number));
-            all.push_back(value == "0" ? "" : value);
+            // A register that reads as 0 comes back empty.
+            const ValueCell& cell = s().Registers.at(static_cast<std::size_t>(number));
+            all.push_back(cell.tryNumber(s().DecimalChar) == 0.0 ? "" : calc().text(cell));
         }
         all.insert(all.end(), s().RegisterNames.begin(), s().RegisterNames.end());
         return all;

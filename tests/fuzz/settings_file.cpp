@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A calculator starts on whatever stands in its settings file: it runs or refuses, and never
+// shows more than it may.
+#include "engine/settings_file.h"
+#include "support/calculator_fixture.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static tallyforge::CalculatorAtHand hand;
+    std::string bytes(reinterpret_cast<const char*>(data), size);
+    bytes.resize(tallyforge::kRecordSize * tallyforge::SettingsFile::kRecords, ' ');
+    hand.writeFile(tallyforge::SettingsFile::kName, bytes);
+    hand.start();
+    const tallyforge::EngineState& s = hand.s();
+    if (s.DisplayDigits < 0 || s.DisplayDigits > 12 || s.WordSize < 4 || s.WordSize > 64) {
+        std::abort();
+    }
+    return 0;
+}
