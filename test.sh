@@ -19,7 +19,7 @@ run_tests() {
     mkdir -p "$home"
     XDG_DATA_HOME=$home XDG_CONFIG_HOME=$home ctest --test-dir "$tree" --output-on-failure --no-tests=error -j2
     awk -v tree="$1" '/^\[  PASSED  \] [0-9]+ test/ { cases += $4 } /^Totals: [0-9]+ passed/ { cases += $2 }
-                      /^Test: .*keys_/ { scripts++ }
+                      /^[0-9]+\/[0-9]+ Test: keys_/ && !/keys_program/ { scripts++ }
                       END { printf "%s: %d test cases and %d key scripts passed\n", tree, cases, scripts }' \
         "$tree/Testing/Temporary/LastTest.log"
 }

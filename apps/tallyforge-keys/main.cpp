@@ -34,13 +34,15 @@ struct Call {
     bool unfinished = false;
 };
 
-/// A private folder that goes with the program.
+/// A private folder that goes with the program. It lies in memory where there is such a place: its
+/// files are written through to the disk, and nobody needs them there.
 class PrivateFolder {
 public:
     PrivateFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "tallyforge-XXXXXX").string();
-        if (const char* made = mkdtemp(pattern.data()); made != nullptr) {
-            path = made;
+        std::error_code ignored;
+        const char* const chosen = std::getenv("TMPDIR");
+        if ((chosen != nullptr && *chosen != '\0') || !makeIn("/dev/shm")) {
+            makeIn(std::filesystem::temp_directory_path(ignored));
         }
     }
     ~PrivateFolder() {
@@ -50,6 +52,15 @@ public:
     PrivateFolder(const PrivateFolder&) = delete;
     PrivateFolder& operator=(const PrivateFolder&) = delete;
     std::filesystem::path path;
+
+private:
+    bool makeIn(const std::filesystem::path& folder) {
+        std::string pattern = (folder / "tallyforge-XXXXXX").string();
+        if (const char* const made = folder.empty() ? nullptr : mkdtemp(pattern.data()); made != nullptr) {
+            path = made;
+        }
+        return !path.empty();
+    }
 };
 
 /// The whole of `text` as a number, or nothing.
@@ -139,7 +150,7 @@ std::optional<Call> readCall(const std::vector<std::string>& words) {
 void listUnfinished() {
     for (const KeypadTable* table : keypadTables()) {
         for (const KeyRow& row : table->rows) {
-            if (row.does == nullptr) {
+            if (row.does == nullptr && row.types.plain == '\0') {
                 std::string caption = toUnicode(row.caption.text, row.caption.face);
                 for (char& character : caption) {
                     character = character == '\n' ? ' ' : character;
@@ -188,6 +199,10 @@ int runScript(Call& call) {
     std::optional<PrivateFolder> own;
     if (call.options.data.empty()) {
         own.emplace();
+        if (own->path.empty()) {
+            complain("tallyforge-keys: cannot make a private folder");
+            return kWrongCall;
+        }
         call.options.data = own->path;
     }
     if (call.options.home.empty()) {

@@ -14,7 +14,7 @@ constexpr std::string_view kRegisterArithmetic =
     " Use Ctrl+Click to perform register arithmetic with the contents of Register 1, and Alt+Click to use the "
     "contents of Register 2 as a constant! ";
 
-constexpr Font kCaption{.face = Face::Arial, .points = 9.0F};
+constexpr Font kCaption{.face = Face::Arial, .points = 8.0F};
 constexpr Font kSmallCaption{.face = Face::SmallFonts, .points = 7.0F};
 constexpr Font kNumbers{.face = Face::Terminal, .points = 9.0F};
 constexpr Font kEntry{.face = Face::Terminal, .points = 12.0F, .bold = true};

@@ -281,8 +281,12 @@ void NumberDisplay::RestoreDisplay() {
     calc.form.cmdChs.tip = R"( Chg Sign - use \ key )";
     calc.form.cmdChs.enabled = true;
     calc.focusEntry();
+    enableByteKeys(true);
+}
+
+void NumberDisplay::enableByteKeys(bool enabled) {
     for (const std::size_t key : {3U, 20U, 8U, 9U}) {
-        calc.form.cmdFunctions.at(key).enabled = true;
+        calc.form.cmdFunctions.at(key).enabled = enabled;
     }
 }
 
@@ -349,9 +353,7 @@ bool NumberDisplay::setWordSize(double bits) {
     }
     s.WordSize = static_cast<int>(bits);
     writeDigitsCaption();
-    for (const std::size_t key : {3U, 20U, 8U, 9U}) {
-        calc.form.cmdFunctions.at(key).enabled = s.WordSize >= kSmallestByteWord;
-    }
+    enableByteKeys(s.WordSize >= kSmallestByteWord);
     return true;
 }
 

@@ -45,6 +45,8 @@ public:
     void cmdDigits_Click();
     void optFix_Click(DisplayMode mode);
 
+    /// The keys that move whole bytes need a word of more than one.
+    void enableByteKeys(bool enabled);
     /// Caption and tool tip of the digits key for the present format.
     void writeDigitsCaption();
 

@@ -87,7 +87,9 @@ void KeypadModel::paintPlain() {
 void KeypadModel::enterBinary() {
     EngineState& s = calc.s;
     s.BaseMode = true;
+    constexpr int kSmallestByteWord = 9;
     calc.display.SaveDisplay(0);
+    calc.display.enableByteKeys(s.WordSize >= kSmallestByteWord);
     calc.display.writeDigitsCaption();
     calc.form.cmdDigits.tip = " Change Word Size (4 - 64) ";
     calc.form.cmdChs.text = "Mod";

@@ -10,5 +10,6 @@ endforeach()
 # The session that the README shows is the worked example, and what it prints.
 add_test(NAME readme_session COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_readme)
 
+# The program around the scripts: its options and exit statuses.
 add_test(NAME keys_program
          COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/keys_program_test $<TARGET_FILE:tallyforge-keys>)

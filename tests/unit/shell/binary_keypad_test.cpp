@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The Binary keypad in the hand of its user.
+#include "support/calculator_fixture.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyforge {
+namespace {
+
+class BinaryKeypad : public ::testing::Test, protected CalculatorAtHand {
+protected:
+    BinaryKeypad() { choose(form().mnuEngBinary); }
+    void bank(std::size_t key, std::uint8_t mask = 0) { clickWith(mask, form().cmdFunctions.at(key)); }
+    void word(const char* size) {
+        type(size);
+        choose(form().cmdDigits);
+    }
+    /// Pastes a number of a base, whatever its letter.
+    void put(std::string_view text) {
+        platform.clipboard = text;
+        choose(form().mnuPaste);
+    }
+    std::string lastBox() { return platform.boxes.empty() ? "" : platform.boxes.back().text; }
+    std::string line() { return tape().back(); }
+};
+
+TEST_F(BinaryKeypad, ComesAndGoesWithBaseModeAndTheFormat) {
+    EXPECT_TRUE(s().BaseMode);
+    EXPECT_EQ(form().cmdChs.text, "Mod");
+    EXPECT_EQ(form().cmdDigits.text, "wrdsze(64)");
+    enter("7");
+    EXPECT_EQ(line(), "7") << "whole numbers are shown";
+    choose(form().mnuStd);
+    EXPECT_FALSE(s().BaseMode);
+    EXPECT_EQ(s().DisplayDigits, 2);
+    EXPECT_EQ(form().cmdChs.text, "C&HS");
+    EXPECT_EQ(form().cmdDigits.text, "Display(2)");
+}
+
+TEST_F(BinaryKeypad, ANumberIsKeyedByKeyboardAndByKeys) {
+    type("#1FFh");
+    EXPECT_EQ(form().txtXreg.text, "#1FFh");
+    press(kKeyEnter, 13);
+    EXPECT_EQ(x(), "#1FFh");
+    bank(16, kShift);
+    choose(form().cmdNumPad[1]);
+    bank(17);
+    bank(0);
+    bank(1, kShift);
+    EXPECT_EQ(form().txtXreg.text, "#1FCh");
+    type("+");
+    EXPECT_EQ(x(), "#3FBh");
+    EXPECT_EQ(line(), "+                 #3FBh");
+}
+
+TEST_F(BinaryKeypad, WrongDigitsAreToldWithWhatTheLetterStandsFor) {
+    type("#12b");
+    EXPECT_EQ(lastBox(), "'b' is binary number\nOnes (1) and Zeros (0) Only!");
+    EXPECT_EQ(platform.boxes.back().title, "Syntax Error");
+    EXPECT_EQ(form().txtXreg.text, "");
+    type("#129o");
+    EXPECT_EQ(lastBox(), "'o' is octal number\n0 to 7 Only!");
+    type("#1A");
+    bank(2, kShift);
+    EXPECT_EQ(lastBox(), "'d' is decimal number\n(0 to 9) Only!");
+    EXPECT_EQ(s().depth(), 0);
+}
+
+TEST_F(BinaryKeypad, LettersInSmallAndAMissingLetter) {
+    type("#1G");
+    EXPECT_EQ(form().txtXreg.text, "#1");
+    type("c");
+    EXPECT_EQ(form().txtXreg.text, "#1") << "hexadecimal digits are capitals";
+    press(kKeyEnter, 13);
+    EXPECT_EQ(lastBox(), "Binary indicator (b, d, h, o) required");
+    EXPECT_EQ(s().depth(), 0);
+    type("#12");
+    press(kKeyBackspace, 8);
+    type("Fh");
+    press(kKeyBackspace, 8);
+    type("Eh");
+    EXPECT_EQ(form().txtXreg.text, "#1FEh") << "Backspace over the letter opens the number again";
+}
+
+TEST_F(BinaryKeypad, ThePasteOfANumberTooLongIsHeldButNotCountedWith) {
+    put("#" + std::string(65, '1') + "b");
+    EXPECT_EQ(s().depth(), 1);
+    bank(12);
+    EXPECT_EQ(lastBox(), "Number outside of range (#0b to #1111.... (64 TOTAL) ....1111b)");
+    put("18446744073709551616");
+    bank(6);
+    EXPECT_EQ(lastBox(), "Exceeded maximum number (1.845e19)!");
+    put("18446744073709551615");
+    bank(6, kShift);
+    EXPECT_EQ(x(), "#FFFFFFFFFFFFFFFFh");
+    bank(6, kShift);
+    EXPECT_EQ(lastBox(), "Real number required!");
+}
+
+TEST_F(BinaryKeypad, AWordOfEightCutsOnCommit) {
+    word("8");
+    type("#1FFh");
+    press(kKeyEnter, 13);
+    EXPECT_EQ(x(), "#FFh");
+    EXPECT_EQ(calc().text(s().slot(1)), "#FFh");
+    EXPECT_FALSE(form().cmdFunctions[3].enabled);
+    word("65");
+    EXPECT_EQ(lastBox(), "4 to 64 only for this function");
+    choose(form().mnuStd);
+    choose(form().mnuEngBinary);
+    EXPECT_FALSE(form().cmdFunctions[3].enabled) << "the byte keys know the word when the keypad comes back";
+}
+
+TEST_F(BinaryKeypad, DisplayKeysShowXInAnyBaseWithOneCommit) {
+    type("#1FFh");
+    press(kKeyEnter, 13);
+    const std::size_t lines = calc().tape.lines();
+    bank(13);
+    EXPECT_EQ(x(), "#777o");
+    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(calc().tape.lines(), lines + 1);
+    bank(15);
+    EXPECT_EQ(x(), "#511d");
+    bank(12);
+    EXPECT_EQ(x(), "#111111111b");
+    bank(14);
+    EXPECT_EQ(x(), "#1FFh");
+    EXPECT_EQ(s().depth(), 1);
+}
+
+TEST_F(BinaryKeypad, RealNumbersGoToABaseAndBack) {
+    enter("255");
+    bank(6);
+    EXPECT_EQ(x(), "#11111111b");
+    EXPECT_EQ(line().substr(0, 3), "(b)");
+    bank(6);
+    EXPECT_EQ(x(), "255");
+    EXPECT_EQ(line(), "real                255");
+    bank(6, kCtrl);
+    EXPECT_EQ(x(), "#377o");
+    type("H");
+    EXPECT_EQ(x(), "255");
+    bank(6, kAlt);
+    EXPECT_EQ(x(), "#255d");
+    enter("0");
+    bank(6);
+    EXPECT_EQ(x(), "#0b");
+}
+
+TEST_F(BinaryKeypad, DivisionKeepsItsRemainderForMod) {
+    put("#7d");
+    put("#2d");
+    type("/");
+    EXPECT_EQ(x(), "#3d");
+    choose(form().cmdChs);
+    EXPECT_EQ(x(), "#1d");
+    EXPECT_EQ(s().depth(), 2) << "Mod is a new commit and nothing else";
+    put("#6d");
+    put("#2d");
+    type("/");
+    choose(form().cmdChs);
+    EXPECT_EQ(x(), "0");
+}
+
+TEST_F(BinaryKeypad, DivisionByZeroIsQuietAndKeepsTheDivisor) {
+    put("#6d");
+    put("#0d");
+    type("/");
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(x(), "#0d");
+    EXPECT_EQ(s().depth(), 1);
+}
+
+TEST_F(BinaryKeypad, TheEdgesOfArithmetic) {
+    put("#101b");
+    put("#101b");
+    type("-");
+    EXPECT_EQ(x(), "#0b");
+    put("#7h");
+    put("#7h");
+    type("*");
+    EXPECT_EQ(x(), "#31h");
+    put("#1b");
+    put("#10b");
+    type("-");
+    EXPECT_EQ(lastBox(), "Subtrahend is greater than the minuend!");
+    EXPECT_EQ(x(), "");
+}
+
+TEST_F(BinaryKeypad, PlainNumbersBesideTaggedOnes) {
+    put("#10h");
+    enter("2.5");
+    type("+");
+    EXPECT_EQ(x(), "#12h");
+    put("#3b");
+    enter("-1");
+    choose(form().mnuStd);
+    put("#10h");
+    enter("1");
+    type("+");
+    EXPECT_EQ(x(), "#11h") << "a tagged number counts on every keypad";
+}
+
+TEST_F(BinaryKeypad, RegistersWithTaggedContents) {
+    put("#F0h");
+    type("1");
+    clickWith(kShift, form().cmdSTO);
+    put("#10h");
+    clickWith(kCtrl, form().cmdMath[2]);
+    EXPECT_EQ(reg(1), "#E0h");
+    EXPECT_EQ(form().txtReg_m[0].text, "#E0h");
+    EXPECT_EQ(x(), "#10h");
+    type("2");
+    clickWith(kShift, form().cmdSTO);
+    enter("3");
+    clickWith(kAlt, form().cmdMath[1]);
+    EXPECT_EQ(x(), "#30h");
+}
+
+TEST_F(BinaryKeypad, LogicTakesTwoAndLeavesOne) {
+    put("#Fh");
+    put("#5h");
+    bank(11);
+    EXPECT_EQ(x(), "#5h");
+    EXPECT_EQ(s().depth(), 1);
+    put("#Ah");
+    bank(23);
+    EXPECT_EQ(x(), "#Fh");
+    put("#3h");
+    bank(5);
+    EXPECT_EQ(x(), "#Ch");
+    EXPECT_EQ(line().substr(0, 3), "XOR");
+    EXPECT_EQ(s().depth(), 1);
+}
+
+TEST_F(BinaryKeypad, KeepsNotOnWholeHexDigitsUntilTheCommit) {
+    word("8");
+    put("#0h");
+    bank(4);
+    EXPECT_EQ(x(), "#FFh");
+    EXPECT_EQ(s().depth(), 1);
+    word("6");
+    put("#0h");
+    bank(4);
+    EXPECT_EQ(x(), "#Fh") << "six bits are one whole hex digit";
+}
+
+TEST_F(BinaryKeypad, ShiftsAndRotationsInAWordOfEight) {
+    word("8");
+    put("#81h");
+    bank(22);
+    EXPECT_EQ(x(), "#3h");
+    put("#80h");
+    bank(18);
+    EXPECT_EQ(x(), "#C0h");
+    put("#80h");
+    bank(10);
+    EXPECT_EQ(x(), "#40h");
+    type("<");
+    EXPECT_EQ(x(), "#80h");
+    const std::string before = x();
+    bank(9);
+    EXPECT_EQ(x(), before) << "a byte key rests in a word of one byte";
+}
+
+TEST_F(BinaryKeypad, APlainNumberIsNotShifted) {
+    enter("5");
+    const std::size_t lines = calc().tape.lines();
+    bank(7);
+    EXPECT_EQ(lastBox(), eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
+    EXPECT_EQ(x(), "5");
+    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(calc().tape.lines(), lines);
+}
+
+TEST_F(BinaryKeypad, NoKeyOfItIsUnfinished) {
+    for (const KeyRow& row : keypadTable(Keypad::Binary).rows) {
+        EXPECT_TRUE(row.does != nullptr || row.types.plain != '\0') << row.key;
+    }
+}
+
+}  // namespace
+}  // namespace tallyforge
