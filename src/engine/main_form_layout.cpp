@@ -135,12 +135,14 @@ void MainForm::placePad(int top) {
 
     // Format and angle fill the two key places above Enter.
     constexpr int kOptionHeight = 280;
+    constexpr int kFormatWidth = kPadPitch - 20;  // the angles' words are longer than the formats'
+    constexpr int kAngleWidth = kPadKey + 150;
     const int left = kPadLeft + 4 * kPadPitch;
     const int optionTop = top + 2 * kPitch;
     const auto option = [&](Control& control, int column, int row) {
-        control.place = {.left = left + column * kPadPitch,
+        control.place = {.left = left + column * kFormatWidth,
                          .top = optionTop + row * (kOptionHeight + 16),
-                         .width = kPadKey + 62,
+                         .width = column == 0 ? kFormatWidth : kAngleWidth,
                          .height = kOptionHeight};
     };
     Control* const angles[] = {&optDeg, &optRad, &optGrad};
