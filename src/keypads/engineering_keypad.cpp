@@ -2,7 +2,9 @@
 //
 // The Engineering keypad, a row a key.
 // Tips and captions that name units stand here with the first unit of each choice.
+#include "functions/constants.h"
 #include "functions/reciprocal_square.h"
+#include "functions/trigonometry.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
 
@@ -41,7 +43,8 @@ const KeypadTable kEngineeringKeypad{
                    .shiftAlt = "1/ C.R.",
                    .ctrlAlt = {"2p", Face::Symbol},
                    .all = {" 1/ 2p", Face::Symbol}},
-         .helpTopic = 1103},
+         .helpTopic = 1103,
+         .does = [](Keys& keys) { piConstant(keys.calc); }},
         {.key = 4,
          .caption = {"l", Face::Symbol},
          .tip = " Wavelength (m) > freq. (Hz) [Click] | Hz > m [Shift+] | Wavelength (m) > period (s) [Ctrl+] | Hz > s "
@@ -102,7 +105,8 @@ const KeypadTable kEngineeringKeypad{
          .caption = "P:R",
          .tip = " Polar to Rect.: Ø [^], r [Click] | Rect. to Polar: jy [^], x [Shift+] "_t,
          .under = {.shift = "R:P"},
-         .helpTopic = 1112},
+         .helpTopic = 1112,
+         .does = [](Keys& keys) { polarRectangular(keys.calc); }},
         {.key = 13,
          .caption = "Zp",
          .tip = " Parallel Complex Z: xb [Click] | jyb[Ctrl+] | xa[Alt+] | jya[Ctrl+Alt+] | Recalc.[Shift+key+Click] ",

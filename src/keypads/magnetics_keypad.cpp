@@ -2,6 +2,7 @@
 //
 // The Magnetics keypad, a row a key.
 // Tips and captions that name units stand here with the first unit of each choice.
+#include "functions/constants.h"
 #include "functions/reciprocal_square.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -41,7 +42,8 @@ const KeypadTable kMagneticsKeypad{
                    .shiftAlt = "1/ C.R.",
                    .ctrlAlt = {"2p", Face::Symbol},
                    .all = {" 1/ 2p", Face::Symbol}},
-         .helpTopic = 1803},
+         .helpTopic = 1803,
+         .does = [](Keys& keys) { piConstant(keys.calc); }},
         {.key = 4,
          .caption = "Pc",
          .tip = " MPP Core Loss: perm [Alt+Click] | Freq(KHz) [Ctrl+] | B(g) [Click] | Recalc. [Shift+key+] ",

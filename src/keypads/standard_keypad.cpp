@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The Standard keypad, a row a key.
+#include "functions/constants.h"
+#include "functions/logarithms.h"
 #include "functions/reciprocal_square.h"
+#include "functions/trigonometry.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
 
@@ -40,7 +43,8 @@ const KeypadTable kStandardKeypad{
                    .shiftAlt = "1/ C.R.",
                    .ctrlAlt = {"2p", Face::Symbol},
                    .all = {" 1/ 2p", Face::Symbol}},
-         .helpTopic = 1003},
+         .helpTopic = 1003,
+         .does = [](Keys& keys) { piConstant(keys.calc); }},
         {.key = 4,
          .caption = "%",
          .tip = " Click: x % of y | Shift-Click: % diff y to x | Ctrl-Click: ± x% of y "_t,
@@ -50,7 +54,8 @@ const KeypadTable kStandardKeypad{
          .caption = "y^x",
          .tip = " Click: y^x | Shift-Click: y^n = x (find n) | Ctrl-Click: 2^x | Alt-Click: 2^n = x (find n) ",
          .under = {.shift = "y^n", .ctrl = "2^x", .alt = "2^n"},
-         .helpTopic = 1005},
+         .helpTopic = 1005,
+         .does = [](Keys& keys) { powers(keys.calc); }},
         {.key = 6,
          .caption = "WC",
          .tip =
@@ -90,22 +95,26 @@ const KeypadTable kStandardKeypad{
          .caption = "P:R",
          .tip = " Polar to Rect.; Ø [^], r [Click] | Rect. to Polar; jy [^], x [Shift+Click] "_t,
          .under = {.shift = "R:P"},
-         .helpTopic = 1012},
+         .helpTopic = 1012,
+         .does = [](Keys& keys) { polarRectangular(keys.calc); }},
         {.key = 13,
          .caption = "ln+",
          .tip = " Click: ln(x + 1) | Shift+: (e^x) - 1 ",
          .under = {.shift = "e^-1"},
-         .helpTopic = 1013},
+         .helpTopic = 1013,
+         .does = [](Keys& keys) { logarithmOfOnePlus(keys.calc); }},
         {.key = 14,
          .caption = "ln",
          .tip = " Click: natural log | Shift+: e^x ",
          .under = {.shift = "e^x"},
-         .helpTopic = 1014},
+         .helpTopic = 1014,
+         .does = [](Keys& keys) { naturalLogarithm(keys.calc); }},
         {.key = 15,
          .caption = "Log",
          .tip = " Click: Base 10 Log | Shift+: 10^x ",
          .under = {.shift = "10^x"},
-         .helpTopic = 1015},
+         .helpTopic = 1015,
+         .does = [](Keys& keys) { commonLogarithm(keys.calc); }},
         {.key = 16,
          .caption = "tax",
          .tip = "  Compute sales tax: Subtotal [Click] | Change Rate(%) [Ctrl+] | View Rate [Shift+] ",
@@ -145,7 +154,8 @@ const KeypadTable kStandardKeypad{
                    .shiftCtrl = {"1/e²"_t},
                    .alt = {"ûe"_t, Face::Terminal},
                    .shiftAlt = {"1/ ûe"_t, Face::Terminal}},
-         .helpTopic = 1020},
+         .helpTopic = 1020,
+         .does = [](Keys& keys) { eConstant(keys.calc); }},
         {.key = 21,
          .caption = {"Ö"_t, Face::Symbol},
          .tip = " Click: 2^½ | Ctrl+: 3^½ | Alt+: 10^½ | Shift+key+ = reciprocal "_t,
@@ -154,7 +164,8 @@ const KeypadTable kStandardKeypad{
                    .shiftCtrl = {"1/Ö3"_t, Face::Symbol},
                    .alt = {"Ö10"_t, Face::Symbol},
                    .shiftAlt = {"1/ Ö10"_t, Face::Symbol}},
-         .helpTopic = 1021},
+         .helpTopic = 1021,
+         .does = [](Keys& keys) { rootConstant(keys.calc); }},
         {.key = 22,
          .caption = {"Öp"_t, Face::Symbol},
          .tip = " Click: pi^½ | Ctrl+: (2pi)^½ | Alt+: (pi/2)^½ | Shift+key+ = reciprocal "_t,
@@ -163,7 +174,8 @@ const KeypadTable kStandardKeypad{
                    .shiftCtrl = {"1/Ö2p"_t, Face::Symbol},
                    .alt = {"Öp/2"_t, Face::Symbol},
                    .shiftAlt = {"1/ Öp/2"_t, Face::Symbol}},
-         .helpTopic = 1022},
+         .helpTopic = 1022,
+         .does = [](Keys& keys) { rootOfPiConstant(keys.calc); }},
         {.key = 23,
          .caption = "N!",
          .tip = " Click: N!(x) Factorial | Shift+: N!(Int(x)) | Ctrl+: Gamma(x)",

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The pure mathematics: values in, values out, or a Failure. Angles are radians unless told.
+// Domain faults raise 5 (logarithm of 0 and below, root of a negative number), 6 (beyond the range
+// of a double, on the way too) and 11 (division by zero).
+//
+// Formulas are the textbook ones by exponentials and arc tangents, as in Abramowitz and Stegun,
+// chapter 4, and have their cancellations: the hyperbolic inverses lose digits for arguments near
+// 0 and for large negative ones.
+#pragma once
+
+#include "engine/engine_state.h"
+
+#include <optional>
+
+namespace tallyforge {
+
+/// The circle constants that the calculator computes with: fifteen digits, no more. sin(180
+/// degrees) is not quite 0 for that reason.
+inline constexpr double kPi = 3.14159265358979;
+inline constexpr double kTwoPi = 6.28318530717958;
+inline constexpr double kFourPi = 12.56637061435916;
+
+namespace MathFunctions {
+
+[[nodiscard]] double Sec(double x);
+[[nodiscard]] double Csc(double x);
+[[nodiscard]] double Cot(double x);
+
+/// Empty where the argument is refused, beyond -1 to 1. Keeps +pi/2 for -1 as for 1.
+[[nodiscard]] std::optional<double> ArcSin(double x);
+/// Empty where the argument is refused, beyond -1 to 1. Keeps 0 for -1 as for 1.
+[[nodiscard]] std::optional<double> ArcCos(double x);
+/// Raises 11 at 1 and -1, 5 between them.
+[[nodiscard]] double ArcSec(double x);
+/// Raises 11 at 1 and -1, 5 between them.
+[[nodiscard]] double ArcCsc(double x);
+/// From 0 to pi.
+[[nodiscard]] double ArcCot(double x);
+
+[[nodiscard]] double Sinh(double x);
+[[nodiscard]] double Cosh(double x);
+[[nodiscard]] double Tanh(double x);
+[[nodiscard]] double Sech(double x);
+[[nodiscard]] double Csch(double x);
+[[nodiscard]] double Coth(double x);
+
+[[nodiscard]] double ArcSinh(double x);
+[[nodiscard]] double ArcCosh(double x);
+[[nodiscard]] double ArcTanh(double x);
+[[nodiscard]] double ArcSech(double x);
+[[nodiscard]] double ArcCsch(double x);
+[[nodiscard]] double ArcCoth(double x);
+
+/// Common logarithm.
+[[nodiscard]] double Log10(double x);
+
+[[nodiscard]] double DegToRad(double degrees);
+[[nodiscard]] double RadToDeg(double radians);
+
+struct Rectangular {
+    double x = 0.0;
+    double jy = 0.0;
+};
+struct Polar {
+    double r = 0.0;
+    double theta = 0.0;
+};
+
+/// Keeps taking the radius by its absolute value. `theta` in the unit of `mode`.
+[[nodiscard]] Rectangular PolarToRect(double r, double theta, AngleMode mode);
+/// The angle comes in the unit of `mode`. Keeps doing without the quadrant: it lies within a
+/// quarter turn of 0 whatever the signs.
+[[nodiscard]] Polar RectToPolar(double x, double jy, AngleMode mode);
+
+}  // namespace MathFunctions
+
+[[nodiscard]] double degreesToGrads(double degrees);
+[[nodiscard]] double gradsToDegrees(double grads);
+/// An angle of the user's, in degrees, radians or grads, as radians.
+[[nodiscard]] double toRadians(double angle, AngleMode mode);
+/// Radians in the user's unit.
+[[nodiscard]] double fromRadians(double radians, AngleMode mode);
+
+}  // namespace tallyforge

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "functions/results.h"
+
+#include "engine/engine.h"
+
+#include <algorithm>
+
+namespace tallyforge {
+
+namespace {
+
+void setX(Engine& calc, const Result& result) {
+    calc.s.Xreg = result.value;
+    calc.s.FnLabel = result.label;
+    calc.s.ValueInXreg = true;
+}
+
+}  // namespace
+
+ValueCell cellBelow(const Engine& calc, int below) {
+    return calc.s.depth() > below ? calc.s.slot(calc.s.StackPtr - 1 - below) : ValueCell{};
+}
+
+double operandBelow(const Engine& calc, int below) {
+    return calc.number(cellBelow(calc, below));
+}
+
+void replaceX(Engine& calc, const Result& result) {
+    setX(calc, result);
+}
+
+void replaceOperands(Engine& calc, int operands, const Result& result) {
+    calc.commit.lowerStack(operands);
+    setX(calc, result);
+}
+
+void pushOnX(Engine& calc, const Result& result) {
+    setX(calc, result);
+    calc.s.EntryOpen = true;
+}
+
+void pushAtOnce(Engine& calc, const Result& result, bool keepsDigits) {
+    setX(calc, result);
+    calc.s.KeepDigits = keepsDigits;
+    calc.commit.PushResult();
+    calc.s.KeepDigits = false;
+}
+
+void replaceWithPair(Engine& calc, int operands, const Result& first, const Result& second, bool keepsDigits) {
+    calc.s.StackPtr = std::max(calc.s.StackPtr - operands, 1);
+    pushAtOnce(calc, first, keepsDigits);
+    pushOnX(calc, second);
+}
+
+void refuseModifiers(Engine& calc) {
+    calc.s.Xreg = kNoMeaning;
+}
+
+void leaveNothing(Engine& calc) {
+    calc.s.Xreg = kNothingDone;
+}
+
+}  // namespace tallyforge
