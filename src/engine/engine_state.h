@@ -158,6 +158,7 @@ struct EngineState {
 
     /// Multi-input functions that have still to clear their stored inputs, one bit each.
     std::uint32_t FunctionResetMask = 0x7FFFFFFF;
+    bool RightTriangleHasAngle = false;  ///< the key of the angles is hidden until it is solved
     std::uint32_t CalcResetWord = 0x7FFFFFFF;
 
     [[nodiscard]] int depth() const { return StackPtr - 1; }

@@ -51,6 +51,7 @@ void MachineReset::clearStackAndTape() {
     calc.form.cmdFunctions.at(kLogarithmKey).enabled = true;
     calc.form.cmdSTO.enabled = s.RegistersUsed;
     s.FunctionResetMask = kAllBits;
+    s.RightTriangleHasAngle = false;
     s.CalcResetWord = kAllBits;
     calc.keypads().ClearPartialStates();
     s.FnLabel.clear();

@@ -9,6 +9,10 @@
 namespace tallyforge {
 
 MultiInput::Outcome MultiInput::press() {
+    return press(calc.s.ModifierMask);
+}
+
+MultiInput::Outcome MultiInput::press(std::uint8_t name) {
     EngineState& s = calc.s;
     if ((s.FunctionResetMask & shape.resetBit) != 0) {
         s.FunctionResetMask &= ~shape.resetBit;
@@ -20,8 +24,8 @@ MultiInput::Outcome MultiInput::press() {
         s.FnLabel = shape.resetLabel;
         return Outcome::Reset;
     }
-    const bool recalculates = shape.shiftRecalculates && (s.ModifierMask & kShift) != 0;
-    const KeyInput* input = named(recalculates ? static_cast<std::uint8_t>(s.ModifierMask - kShift) : s.ModifierMask);
+    const bool recalculates = shape.shiftRecalculates && (name & kShift) != 0;
+    const KeyInput* input = named(recalculates ? static_cast<std::uint8_t>(name - kShift) : name);
     if (input == nullptr) {
         s.Xreg = kNoMeaning;
         return Outcome::NoMeaning;
@@ -53,7 +57,7 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
             throw Failure{FailureNumber::Overflow};
         }
     } catch (const Failure&) {
-        received_ &= static_cast<std::uint8_t>(~last.bit);
+        takeBack(last.bit);
         throw;
     }
     takePlace();
@@ -63,9 +67,7 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
         }
     }
     writeInput(last);
-    lastSet_ = received_;
-    received_ = 0;
-    savedStackPtr_ = 0;
+    complete();
     s.Xreg = result;
     s.FnLabel = solved.label;
     s.ValueInXreg = true;
@@ -73,6 +75,24 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
         calc.display.SaveDisplay(2);
         calc.commit.AutoDigits();
     }
+}
+
+void MultiInput::revise(std::uint8_t bit, double value) {
+    const auto input = std::find_if(shape.inputs.begin(), shape.inputs.end(),
+                                    [bit](const KeyInput& candidate) { return candidate.bit == bit; });
+    if (input != shape.inputs.end()) {
+        valueOf(*input) = value;
+    }
+}
+
+void MultiInput::takeBack(std::uint8_t bit) {
+    received_ &= static_cast<std::uint8_t>(~bit);
+}
+
+void MultiInput::complete() {
+    lastSet_ = received_;
+    received_ = 0;
+    savedStackPtr_ = 0;
 }
 
 void MultiInput::writeInput(const KeyInput& input) {

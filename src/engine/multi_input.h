@@ -67,6 +67,15 @@ public:
     /// given twice replaces its former value. Raises what the solution raises, and 6 where the
     /// result is out of range; the input that led there can then be given anew.
     Outcome press();
+    /// The same for a subject of several keys, which names the input itself: the `mask` of the row
+    /// is then any number that the keys agree on.
+    Outcome press(std::uint8_t name);
+
+    /// For a shape without solutions, whose owner solves: the stored value of the input `bit` in
+    /// another unit; the input is taken back; the set is complete, the next input starts a new one.
+    void revise(std::uint8_t bit, double value);
+    void takeBack(std::uint8_t bit);
+    void complete();
 
     /// Sum of the inputs received so far.
     [[nodiscard]] std::uint8_t received() const { return received_; }

@@ -33,6 +33,12 @@ void look(Control& key, const KeyCaption& caption, std::string_view tip, KeyColo
     key.colour = colour;
 }
 
+void hideWhereDue(Control& key, const KeyRow& row, const EngineState& state) {
+    if (row.hidden != nullptr && row.hidden(state)) {
+        key.visible = false;
+    }
+}
+
 bool unitsMatter(Keypad keypad) {
     return keypad == Keypad::Engineering || keypad == Keypad::Magnetics;
 }
@@ -77,7 +83,9 @@ void KeypadModel::lay(Keypad keypad) {
 void KeypadModel::paintPlain() {
     const Keypad keypad = calc.s.ActiveKeypad;
     for (const KeyRow& row : keypadTable(keypad).rows) {
-        look(calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key)), row.caption, row.tip, row.colour);
+        Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
+        look(key, row.caption, row.tip, row.colour);
+        hideWhereDue(key, row, calc.s);
     }
     if (dressUnits && unitsMatter(keypad)) {
         dressUnits(keypad);
@@ -134,6 +142,7 @@ void KeypadModel::paint(std::uint8_t mask) {
             key.visible = false;
         } else {
             write(key, caption);
+            hideWhereDue(key, row, calc.s);
         }
     }
 }

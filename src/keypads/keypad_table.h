@@ -75,6 +75,8 @@ struct KeyRow {
     CaptionsUnder under{};
     /// The key keeps its caption and stays visible under every mask.
     bool common = false;
+    /// The key stays hidden while this holds, whatever the modifiers.
+    bool (*hidden)(const EngineState&) = nullptr;
     /// A typed operand is pushed without a tape line, because the function itself writes what the
     /// tape shows.
     bool silentOperand = false;

@@ -7,6 +7,7 @@
 #include "bases/binary_keys.h"
 #include "engine/dialog_hand_over.h"
 #include "engine/engine.h"
+#include "functions/triangles.h"
 
 namespace tallyforge {
 
@@ -14,6 +15,7 @@ struct Keys {
     Engine& calc;
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
+    Triangles triangles{calc};
 };
 
 }  // namespace tallyforge
