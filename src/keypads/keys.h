@@ -7,6 +7,9 @@
 #include "bases/binary_keys.h"
 #include "engine/dialog_hand_over.h"
 #include "engine/engine.h"
+#include "functions/dates.h"
+#include "functions/everyday.h"
+#include "functions/statistics.h"
 #include "functions/triangles.h"
 
 namespace tallyforge {
@@ -15,6 +18,9 @@ struct Keys {
     Engine& calc;
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
+    Dates dates{calc};
+    Fractions fractions{calc};
+    Statistics statistics{calc};
     Triangles triangles{calc};
 };
 

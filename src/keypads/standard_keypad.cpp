@@ -2,8 +2,11 @@
 //
 // The Standard keypad, a row a key.
 #include "functions/constants.h"
+#include "functions/factorial.h"
 #include "functions/logarithms.h"
+#include "functions/percent_tax.h"
 #include "functions/reciprocal_square.h"
+#include "functions/rounding.h"
 #include "functions/trigonometry.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -49,7 +52,8 @@ const KeypadTable kStandardKeypad{
          .caption = "%",
          .tip = " Click: x % of y | Shift-Click: % diff y to x | Ctrl-Click: ± x% of y "_t,
          .under = {.shift = "%d", .ctrl = {"±%"_t}},
-         .helpTopic = 1004},
+         .helpTopic = 1004,
+         .does = [](Keys& keys) { percent(keys.calc); }},
         {.key = 5,
          .caption = "y^x",
          .tip = " Click: y^x | Shift-Click: y^n = x (find n) | Ctrl-Click: 2^x | Alt-Click: 2^n = x (find n) ",
@@ -61,7 +65,8 @@ const KeypadTable kStandardKeypad{
          .tip =
              " Wind Chill: wind velocity(mph) [^], temperature (°F) [click] | Heat Index: Rel. Humidity (%) [^], temperature (°F) [Shift-click] "_t,
          .under = {.shift = "H I"},
-         .helpTopic = 1006},
+         .helpTopic = 1006,
+         .does = [](Keys& keys) { windChillHeatIndex(keys.calc); }},
         {.key = 7,
          .caption = {"p±"_t},
          .tip = " Teach math: Add (+) [Click] | Subtract (-) Shift-Click ",
@@ -73,12 +78,14 @@ const KeypadTable kStandardKeypad{
          .tip = " days between 2 dates: Date1 (mm.ddyyy) [^], Date2 [Click] | Shift-Click: change date2 | Ctrl+: add "
                 "days | Alt+: add weeks | Shift+Ctrl+: display Date1 ",
          .under = {.shift = "chg d8 2", .ctrl = "day + ", .shiftCtrl = "date 1 ", .alt = " wks + "},
-         .helpTopic = 1008},
+         .helpTopic = 1008,
+         .does = [](Keys& keys) { keys.dates.differenceKey(); }},
         {.key = 9,
          .caption = "Now",
          .tip = " Click: today's date | Shift-Click: day of week | Ctrl-Click: convert days to weeks ",
          .under = {.shift = "Day"},
-         .helpTopic = 1009},
+         .helpTopic = 1009,
+         .does = [](Keys& keys) { keys.dates.todayKey(); }},
         {.key = 10,
          .caption = {"px÷"_t},
          .tip = " Teach math: Multiply (x) [Click] | Divide (÷) Shift-Click "_t,
@@ -90,7 +97,8 @@ const KeypadTable kStandardKeypad{
          .tip = " Click: Round y, x places | Shift+: Integer portion of x | Ctrl+: Fractional portion of x Alt+: Floor "
                 "x | Shift+Alt: Ceiling x ",
          .under = {.shift = "int", .ctrl = "frac", .alt = "flr", .shiftAlt = "Ceil"},
-         .helpTopic = 1011},
+         .helpTopic = 1011,
+         .does = [](Keys& keys) { rounding(keys.calc); }},
         {.key = 12,
          .caption = "P:R",
          .tip = " Polar to Rect.; Ø [^], r [Click] | Rect. to Polar; jy [^], x [Shift+Click] "_t,
@@ -119,7 +127,8 @@ const KeypadTable kStandardKeypad{
          .caption = "tax",
          .tip = "  Compute sales tax: Subtotal [Click] | Change Rate(%) [Ctrl+] | View Rate [Shift+] ",
          .under = {.shift = "rate", .ctrl = "chg"},
-         .helpTopic = 1016},
+         .helpTopic = 1016,
+         .does = [](Keys& keys) { salesTax(keys.calc); }},
         {.key = 17,
          .caption = {"S", Face::Symbol},
          .tip =
@@ -132,7 +141,8 @@ const KeypadTable kStandardKeypad{
                    .ctrlAlt = "std dev",
                    .all = "re- set"},
          .silentOperand = true,
-         .helpTopic = 1017},
+         .helpTopic = 1017,
+         .does = [](Keys& keys) { keys.statistics.key(); }},
         {.key = 18,
          .caption = "Intr",
          .tip = " Coumpound Interest Calculator: Loan Amount [Shift+Click] ",
@@ -145,7 +155,8 @@ const KeypadTable kStandardKeypad{
                 "length (ft) Alt+ OR length (in) Shift+Alt+ ",
          .under = {.shift = "thk\"", .ctrl = "w\"", .alt = "len'", .shiftAlt = "len\""},
          .silentOperand = true,
-         .helpTopic = 1019},
+         .helpTopic = 1019,
+         .does = [](Keys& keys) { keys.fractions.F2DandBF(); }},
         {.key = 20,
          .caption = "e",
          .tip = " Click: e | Ctrl+: e² | Alt+: e^½ | Shift+key+ = reciprocal "_t,
@@ -180,7 +191,8 @@ const KeypadTable kStandardKeypad{
          .caption = "N!",
          .tip = " Click: N!(x) Factorial | Shift+: N!(Int(x)) | Ctrl+: Gamma(x)",
          .under = {.shift = "N! Intx", .ctrl = {"â"_t, Face::Terminal}},
-         .helpTopic = 1023},
+         .helpTopic = 1023,
+         .does = [](Keys& keys) { factorialGamma(keys.calc); }},
     }},
 };
 

@@ -2,6 +2,7 @@
 //
 // The Trigonometry keypad, a row a key.
 #include "functions/constants.h"
+#include "functions/hours.h"
 #include "functions/reciprocal_square.h"
 #include "functions/solids.h"
 #include "functions/trigonometry.h"
@@ -49,7 +50,8 @@ const KeypadTable kTrigonometryKeypad{
          .caption = "h:m",
          .tip = " Click: h.mmss to h.dddd | Shift+: h.dddd to h.mmss | Ctrl+: add hours, minutes, seconds ",
          .under = {.shift = "d:m", .ctrl = "m+"},
-         .helpTopic = 1204},
+         .helpTopic = 1204,
+         .does = [](Keys& keys) { hoursMinutes(keys.calc); }},
         {.key = 5,
          .caption = "S3",
          .tip = " Triangle: S3, OR Shift: A3 ",

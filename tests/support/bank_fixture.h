@@ -17,6 +17,11 @@ namespace tallyforge {
 class BankAtHand : public ::testing::Test, protected CalculatorAtHand {
 protected:
     void bank(std::size_t key, std::uint8_t mask = 0) { clickWith(mask, form().cmdFunctions.at(key)); }
+    /// The press of a key under modifiers that hide it from the mouse.
+    void unseen(std::size_t key, std::uint8_t mask) {
+        s().ModifierMask = mask;
+        calc().keypads().cmdFunctions_Click(static_cast<int>(key));
+    }
     /// Enters the numbers, those with a minus by the key of the sign.
     void put(std::initializer_list<const char*> numbers) {
         for (const std::string_view number : numbers) {
@@ -53,8 +58,7 @@ protected:
         platform.boxes.clear();
         const auto lines = tape();
         const int depth = s().depth();
-        s().ModifierMask = mask;
-        calc().keypads().cmdFunctions_Click(static_cast<int>(key));
+        unseen(key, mask);
         ASSERT_EQ(platform.boxes.size(), 1U);
         EXPECT_EQ(lastBox(),
                   "That Extended key (or keys) not valid for that function,\n"

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "functions/percent_tax.h"
+
+#include "engine/checked_math.h"
+#include "engine/engine.h"
+#include "engine/number_format.h"
+#include "engine/settings_file.h"
+#include "functions/results.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr int kPercentDigits = 3;
+constexpr int kMoneyDigits = 2;
+constexpr std::string_view kRateLabel = "Rate(%)";
+
+// The rate is a single; its decimal digits are what the user entered.
+double rate(const Engine& calc) {
+    constexpr int kDigitsOfSingle = 5;
+    return roundHalfEven(static_cast<double>(calc.s.TaxRate), kDigitsOfSingle);
+}
+
+void plusAndMinus(Engine& calc) {
+    const double base = operandBelow(calc, 1);
+    const double share = checked(base * calc.xNumber()) / 100.0;
+    replaceWithPair(calc, 2, {checked(base + share), "+%"}, {checked(base - share), "-%"});
+}
+
+void taxAndTotal(Engine& calc) {
+    const double subtotal = calc.xNumber();
+    const double tax = roundHalfEven(checked(subtotal * rate(calc)) / 100.0, kMoneyDigits);
+    const double total = checked(tax + subtotal);
+    calc.display.SaveDisplay(kMoneyDigits);
+    // The tax stands on the tape only; the total takes the place of the subtotal.
+    pushAtOnce(calc, {tax, "tax"}, true);
+    replaceOperands(calc, 2, {total, "Total"});
+    calc.s.LastX = tax;
+}
+
+void changeRate(Engine& calc) {
+    constexpr double kTooMuch = 100.0;
+    const double wanted = roundHalfEven(calc.xNumber(), kMoneyDigits);
+    if (wanted >= kTooMuch) {
+        calc.message(BoxKind::Stop, "Error!", "Tax Rate must be less than 100!");
+        calc.s.FnLabel = "Error!";
+        return;
+    }
+    constexpr int kOptionsRecord = 2;
+    constexpr std::size_t kRateColumn = 48;
+    constexpr std::size_t kRateWidth = 5;
+    const std::string text = plainText(wanted, '.');
+    if (text.size() > kRateWidth) {
+        throw Failure{FailureNumber::InvalidArgument};
+    }
+    calc.s.TaxRate = static_cast<float>(wanted);
+    SettingsFile settings;
+    settings.setPath(calc.AppDataDir / SettingsFile::kName);
+    SettingsRecord record = settings.read(kOptionsRecord);
+    record.setTextB(kRateColumn, kRateWidth, text);
+    settings.write(kOptionsRecord, record);
+    calc.s.FnLabel = kRateLabel;
+}
+
+}  // namespace
+
+void percent(Engine& calc) {
+    switch (calc.s.ModifierMask) {
+        case 0: {
+            const double part = checked(operandBelow(calc, 1) * calc.xNumber()) / 100.0;
+            calc.display.SaveDisplay(kPercentDigits);
+            replaceX(calc, {part, "x% of y"});
+            break;
+        }
+        case kShift: {
+            const double base = operandBelow(calc, 1);
+            const double difference = quotient(checked((calc.xNumber() - base) * 100.0), base);
+            calc.display.SaveDisplay(kPercentDigits);
+            replaceOperands(calc, 2, {difference, "d%"});
+            break;
+        }
+        case kCtrl:
+            plusAndMinus(calc);
+            break;
+        default:
+            refuseModifiers(calc);
+    }
+}
+
+void salesTax(Engine& calc) {
+    switch (calc.s.ModifierMask) {
+        case 0:
+            taxAndTotal(calc);
+            break;
+        case kShift:
+            replaceX(calc, {rate(calc), kRateLabel});
+            break;
+        case kCtrl:
+            changeRate(calc);
+            break;
+        default:
+            refuseModifiers(calc);
+    }
+}
+
+}  // namespace tallyforge

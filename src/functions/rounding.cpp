@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "functions/rounding.h"
+
+#include "engine/engine.h"
+#include "engine/number_format.h"
+#include "functions/results.h"
+
+#include <cmath>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr double kMostPlaces = 22.0;
+
+double roundAt(double value, double places) {
+    const double whole = roundHalfEven(places, 0);
+    if (whole < 0.0 || whole > kMostPlaces) {
+        throw Failure{FailureNumber::InvalidArgument};
+    }
+    return roundHalfEven(value, static_cast<int>(whole));
+}
+
+}  // namespace
+
+double MathFunctions::Floor(double x) {
+    return x < 0.0 ? std::trunc(x - 1.0) : roundHalfEven(x - 0.5, 0);
+}
+
+double MathFunctions::Ceiling(double x) {
+    return x < 0.0 ? std::trunc(x) : roundHalfEven(x + 0.5, 0);
+}
+
+void rounding(Engine& calc) {
+    switch (calc.s.ModifierMask) {
+        case 0:
+            replaceOperands(calc, 2, {roundAt(operandBelow(calc, 1), calc.xNumber()), "Rnd"});
+            break;
+        case kShift:
+            replaceX(calc, {std::trunc(calc.xNumber()), "Int"});
+            break;
+        case kCtrl: {
+            const double x = calc.xNumber();
+            replaceX(calc, {x - std::trunc(x), "Frac"});
+            break;
+        }
+        case kAlt:
+            replaceX(calc, {MathFunctions::Floor(calc.xNumber()), "Floor"});
+            break;
+        case kShift | kAlt:
+            replaceX(calc, {MathFunctions::Ceiling(calc.xNumber()), "Ceil"});
+            break;
+        default:
+            refuseModifiers(calc);
+    }
+}
+
+}  // namespace tallyforge

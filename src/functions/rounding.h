@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The rounding key.
+#pragma once
+
+namespace tallyforge {
+
+class Engine;
+
+namespace MathFunctions {
+
+/// Kept as it is: a whole negative number loses one (-3 gives -4), and a number from 0 on is
+/// rounded half to even after taking off a half, so that 1 gives 0, 2 gives 2 and 3 gives 2.
+[[nodiscard]] double Floor(double x);
+/// Kept likewise: 1 gives 2, 2 gives 2, 3 gives 4.
+[[nodiscard]] double Ceiling(double x);
+
+}  // namespace MathFunctions
+
+/// Plain: Y rounded half to even at X places (0 to 22, else 5). Shift: whole part. Ctrl: the
+/// fraction. Alt: floor. Shift+Alt: ceiling.
+void rounding(Engine& calc);
+
+}  // namespace tallyforge
