@@ -70,14 +70,16 @@ void EntryLine::txtXreg_KeyDown(KeyEvent event) {
         return;
     }
     takeModifiers(event.shift);
-    if (s.Xreg.textView() == kNoMeaning || shortCut(event)) {
-        return;
+    if (!s.QuizMode) {
+        if (s.Xreg.textView() == kNoMeaning || shortCut(event)) {
+            return;
+        }
+        if (event.keyCode == kKeyF10) {
+            calc.keypads().PerformConvertFn();
+            return;
+        }
+        navigate(event.keyCode);
     }
-    if (event.keyCode == kKeyF10) {
-        calc.keypads().PerformConvertFn();
-        return;
-    }
-    navigate(event.keyCode);
     if (!calc.entryText().empty()) {
         editLine(event.keyCode);
     }
@@ -216,7 +218,7 @@ void EntryLine::txtXreg_KeyPress(int& keyAscii) {
     const int wanted = !s.EntryOpen && key == 'h' ? 'H' : key;
     calc.commit.BeginEntry();
     if (std::exchange(s.CtrlHeld, false)) {
-        if (!s.ShiftCtrlHeld) {
+        if (!s.ShiftCtrlHeld && !s.QuizMode) {
             controlCharacter(wanted);
         }
     } else {
@@ -276,6 +278,9 @@ void EntryLine::controlCharacter(int key) {
 
 // The character that goes into the line for `key`: itself, another one, or 0.
 int EntryLine::accept(int key) {
+    if (calc.s.QuizMode) {
+        return isDigit(key) ? key : 0;
+    }
     if (key == calc.s.DecimalChar) {
         return calc.entryText().find(calc.s.DecimalChar) == std::string::npos ? key : 0;
     }

@@ -284,6 +284,14 @@ void NumberDisplay::RestoreDisplay() {
     enableByteKeys(true);
 }
 
+void NumberDisplay::useFormat(DisplayMode mode, int digits) {
+    calc.s.DisplaySaved = false;
+    calc.s.DisplayDigits = digits;
+    calc.s.SavedDigits = digits;
+    optFix_Click(mode);
+    writeDigitsCaption();
+}
+
 void NumberDisplay::enableByteKeys(bool enabled) {
     for (const std::size_t key : {3U, 20U, 8U, 9U}) {
         calc.form.cmdFunctions.at(key).enabled = enabled;

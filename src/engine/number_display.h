@@ -41,6 +41,8 @@ public:
     void SaveDisplay(int digits);
     /// Returns to the remembered format.
     void RestoreDisplay();
+    /// The user's format from now on.
+    void useFormat(DisplayMode mode, int digits);
 
     void cmdDigits_Click();
     void optFix_Click(DisplayMode mode);

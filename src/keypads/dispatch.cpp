@@ -38,7 +38,8 @@ bool Dispatch::takenByMode(int index) {
 
 void Dispatch::cmdFunctions_Click(int index) {
     EngineState& s = calc.s;
-    if (s.ActiveKeypad == Keypad::LetterDrill) {
+    const bool inertInQuiz = subjects.quiz.running() && index != Quiz::kKey;
+    if (inertInQuiz || s.ActiveKeypad == Keypad::LetterDrill) {
         calc.focusEntry();
         return;
     }

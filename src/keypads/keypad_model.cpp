@@ -112,7 +112,7 @@ void KeypadModel::leaveBinary() {
 
 bool KeypadModel::bankIsLent() const {
     const EngineState& s = calc.s;
-    return s.MemoryArrayMode || s.ProgramMode || s.ActiveKeypad == Keypad::LetterDrill;
+    return s.MemoryArrayMode || s.ProgramMode || s.QuizMode || s.ActiveKeypad == Keypad::LetterDrill;
 }
 
 // Looks only: a short cut lends a function of another keypad for one key, and neither the base

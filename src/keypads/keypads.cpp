@@ -143,7 +143,16 @@ bool Keypads::CheckBaseDigits() {
 }
 
 void Keypads::EndQuiz() {
-    calc.s.QuizMode = false;
+    keys.quiz.end();
+}
+
+void Keypads::cmdEnter_Click() {
+    const bool nothingKeyed = calc.entryText().empty() && calc.s.ModifierMask == 0;
+    if (!keys.quiz.running()) {
+        calc.commit.cmdEnter_Click();
+    } else if (!nothingKeyed) {
+        cmdFunctions_Click(Quiz::kKey);
+    }
 }
 
 void Keypads::ClearPartialStates() {

@@ -33,6 +33,8 @@ public:
     /// An on-screen modifier: index + 1 is its mask, 7 means none. It stays until a key uses it.
     void optKey_Click(int index);
 
+    /// The Enter key: the commit, and in a quiz the key of the answer.
+    void cmdEnter_Click();
     void cmdFunctions_Click(int index) override { dispatch.cmdFunctions_Click(index); }
     void cmdMath_Click(int index) override { arithmetic.cmdMath_Click(index); }
     void PaintModifiers(std::uint8_t mask) override { model.paint(mask); }

@@ -9,6 +9,7 @@
 #include "engine/engine.h"
 #include "functions/dates.h"
 #include "functions/everyday.h"
+#include "functions/quiz.h"
 #include "functions/statistics.h"
 #include "functions/triangles.h"
 
@@ -20,6 +21,7 @@ struct Keys {
     BinaryKeys binary{calc};
     Dates dates{calc};
     Fractions fractions{calc};
+    Quiz quiz{calc};
     Statistics statistics{calc};
     Triangles triangles{calc};
 };

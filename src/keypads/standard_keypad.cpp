@@ -72,7 +72,8 @@ const KeypadTable kStandardKeypad{
          .tip = " Teach math: Add (+) [Click] | Subtract (-) Shift-Click ",
          .under = {.shift = "p-"},
          .silentOperand = true,
-         .helpTopic = 1007},
+         .helpTopic = 1007,
+         .does = [](Keys& keys) { keys.quiz.quizKey(); }},
         {.key = 8,
          .caption = "dD8",
          .tip = " days between 2 dates: Date1 (mm.ddyyy) [^], Date2 [Click] | Shift-Click: change date2 | Ctrl+: add "
@@ -91,7 +92,8 @@ const KeypadTable kStandardKeypad{
          .tip = " Teach math: Multiply (x) [Click] | Divide (÷) Shift-Click "_t,
          .under = {.shift = {"p÷"_t}},
          .silentOperand = true,
-         .helpTopic = 1010},
+         .helpTopic = 1010,
+         .does = [](Keys& keys) { keys.quiz.productKey(); }},
         {.key = 11,
          .caption = "Rnd",
          .tip = " Click: Round y, x places | Shift+: Integer portion of x | Ctrl+: Fractional portion of x Alt+: Floor "

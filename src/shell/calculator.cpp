@@ -47,7 +47,7 @@ void Calculator::hangEntry() {
 
 void Calculator::hangKeys() {
     MainForm& form = engine_.form;
-    form.cmdEnter.click = [this] { engine_.commit.cmdEnter_Click(); };
+    form.cmdEnter.click = [this] { keypads_.cmdEnter_Click(); };
     for (int i = 0; i < static_cast<int>(form.cmdNumPad.size()); ++i) {
         form.cmdNumPad.at(static_cast<std::size_t>(i)).click = [this, i] { entryLine_.cmdNumPad_Click(i); };
     }
