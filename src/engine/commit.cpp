@@ -65,6 +65,26 @@ void Commit::readEntry(ValueCell& savedLastX) {
     }
 }
 
+void Commit::enterStored(double number) {
+    EngineState& s = calc.s;
+    if (!s.Xreg.isEmpty() && !s.Xreg.isEmptyText()) {
+        s.LastX = s.Xreg;
+    } else if (s.depth() == 0) {
+        s.LastX = ValueCell::zero();
+    }
+    const auto held = s.Xreg.tryNumber(s.DecimalChar);
+    constexpr double kLastDigits = 1e-14;
+    // A copy of X is X with all its digits, though its text has but fifteen of them.
+    const bool copyOfX = held && *held != 0.0 && std::abs(*held - number) <= std::abs(number) * kLastDigits &&
+                         fifteenDigits(*held) == number;
+    if (!copyOfX) {
+        s.Xreg = number;
+    }
+    s.EntryOpen = true;
+    s.ValueInXreg = true;
+    cmdEnter_Click();
+}
+
 bool Commit::sameAfterRoundTrip(const ValueCell& left, std::string_view right) const {
     const char decimal = calc.s.DecimalChar;
     const auto throughText = [decimal](double value) { return readNumber(plainText(value, decimal), decimal); };
@@ -228,6 +248,9 @@ void Commit::ShowSmallRegs() {
     calc.form.txtXreg.caret = calc.form.txtXreg.text.size();
     if (s.Yreg.isEmpty()) {
         s.Yreg = ValueCell::zero();
+    }
+    if (calc.unwatched) {
+        return;
     }
     const auto small = [&](const ValueCell& cell) {
         const auto value = cell.tryNumber(s.DecimalChar);

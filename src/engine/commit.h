@@ -27,6 +27,10 @@ public:
     /// shown in a box and repaired.
     void cmdEnter_Click();
 
+    /// What the commit does with the text of `number` in the entry line while a program runs,
+    /// without the text. `number` must be one that fifteen digits show in full.
+    void enterStored(double number);
+
     /// Delivers X as a new stack element where there is no entry to consider. Chooses digits with
     /// AutoDigits unless KeepDigits is set; the user's format is as before afterwards.
     void PushResult();

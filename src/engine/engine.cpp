@@ -3,6 +3,8 @@
 
 #include "engine/number_format.h"
 
+#include <utility>
+
 namespace tallyforge {
 
 Engine::Engine(Platform& desktop) : platform(desktop), stackList(*this), display(*this), commit(*this) {
@@ -19,7 +21,17 @@ std::string Engine::patternText(const ValueCell& cell, std::string_view pattern)
     }
 }
 
+void Engine::showPending() {
+    const bool before = std::exchange(unwatched, false);
+    stackList.placeMarks();
+    commit.ShowSmallRegs();
+    unwatched = before;
+}
+
 void Engine::message(BoxKind kind, std::string_view title, std::string_view text) {
+    if (unwatched) {
+        showPending();
+    }
     platform.messageBox({.kind = kind, .title = std::string(title), .text = std::string(text)});
 }
 
@@ -28,6 +40,9 @@ void Engine::errorBox(BoxKind kind, std::string_view text) {
 }
 
 bool Engine::question(std::string_view title, std::string_view text) {
+    if (unwatched) {
+        showPending();
+    }
     return platform.messageBox({.kind = BoxKind::Question,
                                 .title = std::string(title),
                                 .text = std::string(text),

@@ -42,6 +42,11 @@ public:
     std::function<std::string(std::string_view digits, char letter, int wordSize)> cutToWord;
     /// A dialog is open over the main form.
     bool dialogOpen = false;
+    /// A program runs and nobody watches its single steps: what is for the eye alone (row marks,
+    /// small registers) waits for showPending().
+    bool unwatched = false;
+    /// Writes what waited while the calculator was unwatched.
+    void showPending();
 
     [[nodiscard]] KeypadPort& keypads() const { return *keypads_; }
     /// Must be called before the first key; the port outlives the engine.

@@ -12,48 +12,9 @@ namespace tallyforge {
 
 namespace {
 
-// Control characters that Ctrl with a letter types.
-constexpr int kCtrlC = 3;
-constexpr int kCtrlP = 16;
-constexpr int kCtrlV = 22;
-constexpr int kCtrlX = 24;
 constexpr int kBackTick = 96;
 
 constexpr std::size_t kLongestEntry = 22;
-
-// Function keys that the keyboard reaches, by index on the bank.
-constexpr int kReciprocal = 0;
-constexpr int kSquare = 1;
-constexpr int kSquareRoot = 2;
-constexpr int kPi = 3;
-constexpr int kPercent = 4;
-constexpr int kPower = 5;
-constexpr int kToBase = 6;
-constexpr int kShiftLeft = 7;
-constexpr int kShiftRight = 10;
-constexpr int kFactorial = 23;
-
-/// Arithmetic key of a character, or -1.
-int arithmeticKey(int key) {
-    switch (key) {
-        case '/':
-        case 'd':
-        case 'D':
-            return 0;
-        case '*':
-        case 'm':
-        case 'M':
-            return 1;
-        case '-':
-            return 2;
-        case '+':
-        case 'a':
-        case 'A':
-            return 3;
-        default:
-            return -1;
-    }
-}
 
 bool isDigit(int key) {
     return key >= '0' && key <= '9';
@@ -71,7 +32,7 @@ void EntryLine::txtXreg_KeyDown(KeyEvent event) {
     }
     takeModifiers(event.shift);
     if (!s.QuizMode) {
-        if (s.Xreg.textView() == kNoMeaning || shortCut(event)) {
+        if (s.Xreg.textView() == kNoMeaning || commands.shortCut(event)) {
             return;
         }
         if (event.keyCode == kKeyF10) {
@@ -98,23 +59,6 @@ void EntryLine::takeModifiers(std::uint8_t shift) {
     }
     s.CtrlHeld = shift == kCtrl;
     s.ShiftCtrlHeld = shift == (kShift | kCtrl);
-}
-
-// Digit keys that mean a function with Ctrl. Returns whether nothing more is to be done.
-bool EntryLine::shortCut(KeyEvent event) {
-    const bool ctrl = event.shift == kCtrl;
-    const bool shiftCtrl = event.shift == (kShift | kCtrl);
-    if (ctrl && (event.keyCode == kKeyDigit6 || event.keyCode == kKeyPad6)) {
-        calc.closeEmptyEntry();
-        pressOn(Keypad::Standard, kPower, kCtrl);
-    } else if ((ctrl || shiftCtrl) && (event.keyCode == kKeyDigit5 || event.keyCode == kKeyPad5)) {
-        if (!calc.s.BaseMode) {
-            calc.closeEmptyEntry();
-            pressOn(Keypad::Percent, kPercent, ctrl ? kCtrl : kShift);
-        }
-        return true;
-    }
-    return false;
 }
 
 void EntryLine::navigate(int keyCode) {
@@ -219,7 +163,7 @@ void EntryLine::txtXreg_KeyPress(int& keyAscii) {
     calc.commit.BeginEntry();
     if (std::exchange(s.CtrlHeld, false)) {
         if (!s.ShiftCtrlHeld && !s.QuizMode) {
-            controlCharacter(wanted);
+            commands.controlCharacter(wanted);
         }
     } else {
         keyAscii = accept(wanted);
@@ -252,30 +196,6 @@ void EntryLine::programLetter(int key) {
     }
 }
 
-void EntryLine::controlCharacter(int key) {
-    switch (key) {
-        case kCtrlC:
-            calc.closeEmptyEntry();
-            calc.keypads().mnuCopy_Click();
-            break;
-        case kCtrlV:
-            calc.keypads().mnuPaste_Click();
-            break;
-        case kCtrlP:
-            calc.closeEmptyEntry();
-            withoutBase([this] { pressOn(Keypad::Standard, kPi, kCtrl); });
-            break;
-        case kCtrlX:
-            if (!calc.s.BaseMode) {
-                calc.closeEmptyEntry();
-                pressFunction(kSquareRoot);
-            }
-            break;
-        default:
-            break;
-    }
-}
-
 // The character that goes into the line for `key`: itself, another one, or 0.
 int EntryLine::accept(int key) {
     if (calc.s.QuizMode) {
@@ -290,7 +210,7 @@ int EntryLine::accept(int key) {
     if (key >= 'A' && key <= 'F') {
         return acceptLetter(key);
     }
-    if (arithmetic(key) || functionCharacter(key)) {
+    if (commands.arithmetic(key) || commands.functionCharacter(key)) {
         return 0;
     }
     return key == 'e' || key == kBackTick ? (key == 'e' && calc.s.BaseTagDue ? 0 : eex()) : acceptBaseKey(key);
@@ -303,116 +223,8 @@ int EntryLine::acceptLetter(int key) {
     if (key == 'E') {
         return eex();
     }
-    arithmetic(key);
+    commands.arithmetic(key);
     return 0;
-}
-
-bool EntryLine::arithmetic(int key) {
-    const int index = arithmeticKey(key);
-    if (index < 0) {
-        return false;
-    }
-    calc.closeEmptyEntry();
-    if (!calc.s.QuizMode) {
-        calc.keypads().cmdMath_Click(index);
-    }
-    return true;
-}
-
-bool EntryLine::functionCharacter(int key) {
-    EngineState& s = calc.s;
-    const auto withoutBaseMode = [&](Keypad keypad, int function, std::uint8_t mask) {
-        if (!s.BaseMode) {
-            calc.closeEmptyEntry();
-            pressOn(keypad, function, mask);
-        }
-        return true;
-    };
-    switch (key) {
-        case kCtrlX:
-        case 'x':
-            calc.closeEmptyEntry();
-            pressFunction(std::exchange(s.ShiftCtrlHeld, false) ? kSquare : kReciprocal);
-            return true;
-        case 'X':
-            calc.closeEmptyEntry();
-            pressFunction(kSquare);
-            return true;
-        case kCtrlP:
-        case 'P':
-        case 'p':
-            calc.closeEmptyEntry();
-            withoutBase(
-                [&] { pressOn(Keypad::Standard, kPi, s.ShiftCtrlHeld ? std::uint8_t{kCtrl | kAlt} : s.ModifierMask); });
-            return true;
-        case '\\':
-            calc.closeEmptyEntry();
-            stackKeys.cmdChs_Click();
-            return true;
-        case '^':
-            return withoutBaseMode(Keypad::Standard, kPower, 0);
-        case '!':
-            return withoutBaseMode(Keypad::Standard, kFactorial, 0);
-        case '%':
-            return withoutBaseMode(Keypad::Percent, kPercent, s.ModifierMask);
-        case '<':
-        case '>':
-            doubleOrHalve(key);
-            return true;
-        case 'H':
-            toBase();
-            return true;
-        case kKeyEscape:
-            s.EntryOpen = false;
-            return true;
-        default:
-            return false;
-    }
-}
-
-void EntryLine::toBase() {
-    EngineState& s = calc.s;
-    if (!s.BaseMode) {
-        return;
-    }
-    s.EntryOpen = false;
-    if (!s.Xreg.isTagged()) {
-        s.ModifierMask = kShift;
-    }
-    pressFunction(kToBase);
-}
-
-void EntryLine::doubleOrHalve(int key) {
-    EngineState& s = calc.s;
-    calc.closeEmptyEntry();
-    calc.commit.FetchX();
-    const bool doubles = key == '<';
-    if (s.Xreg.isTagged()) {
-        s.BaseMode = true;
-        pressFunction(doubles ? kShiftLeft : kShiftRight);
-        return;
-    }
-    s.CurrentProc = "txtXreg";
-    const auto report = [&](const Failure& failure) {
-        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
-    };
-    constexpr double kLargestToDouble = 1.7976931348623157e308 / 2.0;
-    double value = 0.0;
-    const bool read = goOn(report, [&] {
-        value = calc.xNumber();
-        if (doubles && (value > kLargestToDouble || value < -kLargestToDouble)) {
-            throw Failure{FailureNumber::Overflow};
-        }
-    });
-    if (!read) {
-        s.ValueInXreg = false;
-        return;
-    }
-    s.LastX = s.Xreg;
-    s.Xreg = doubles ? value * 2.0 : value / 2.0;
-    s.FnLabel = doubles ? "X"_t : "ö"_t;
-    s.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
 }
 
 int EntryLine::acceptBaseKey(int key) {
@@ -543,31 +355,6 @@ void EntryLine::cmdF12_Click() {
         calc.keypads().MemoryArray();
     }
     calc.focusEntry();
-}
-
-void EntryLine::pressFunction(int function) {
-    calc.keypads().cmdFunctions_Click(function);
-}
-
-void EntryLine::pressOn(Keypad keypad, int function, std::uint8_t mask) {
-    EngineState& s = calc.s;
-    const Keypad shown = std::exchange(s.ActiveKeypad, keypad);
-    s.ModifierMask = mask;
-    pressFunction(function);
-    s.ActiveKeypad = shown;
-    if (shown != keypad && !s.MemoryArrayMode && !s.ProgramMode) {
-        calc.keypads().RepaintKeypad();
-    }
-}
-
-template <typename Action>
-void EntryLine::withoutBase(Action action) {
-    EngineState& s = calc.s;
-    const bool base = std::exchange(s.BaseMode, false);
-    s.BaseSuspended = base ? kBaseSuspended : std::uint8_t{0};
-    action();
-    s.BaseMode = base;
-    s.BaseSuspended = 0;
 }
 
 }  // namespace tallyforge

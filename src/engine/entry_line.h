@@ -6,6 +6,7 @@
 #pragma once
 
 #include "engine/engine_state.h"
+#include "engine/entry_commands.h"
 #include "engine/stack_keys.h"
 #include "platform/form.h"
 
@@ -17,7 +18,7 @@ class Engine;
 
 class EntryLine {
 public:
-    EntryLine(Engine& calculator, StackKeys& keys) : calc(calculator), stackKeys(keys) {}
+    EntryLine(Engine& calculator, StackKeys& keys) : calc(calculator), stackKeys(keys), commands(calculator, keys) {}
 
     /// A key went down, by itself or with modifiers.
     void txtXreg_KeyDown(KeyEvent event);
@@ -41,7 +42,6 @@ public:
 
 private:
     void takeModifiers(std::uint8_t shift);
-    bool shortCut(KeyEvent event);
     void navigate(int keyCode);
     void editLine(int keyCode);
     void dropLastCharacter();
@@ -52,22 +52,11 @@ private:
     [[nodiscard]] int acceptLetter(int key);
     [[nodiscard]] int acceptBaseKey(int key);
     [[nodiscard]] int eex();
-    void controlCharacter(int key);
     void programLetter(int key);
-    bool arithmetic(int key);
-    bool functionCharacter(int key);
-    void doubleOrHalve(int key);
-    void toBase();
-
-    /// A function key as if keypad `keypad` were shown, with `mask` held.
-    void pressOn(Keypad keypad, int function, std::uint8_t mask);
-    void pressFunction(int function);
-    /// Runs `action` with the number handling of the bases lifted.
-    template <typename Action>
-    void withoutBase(Action action);
 
     Engine& calc;
     StackKeys& stackKeys;
+    EntryCommands commands;
     bool painted_ = false;  ///< the bank shows the captions of a modifier
 };
 

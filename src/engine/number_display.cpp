@@ -83,6 +83,45 @@ void padRight(std::string& text, std::size_t width) {
     }
 }
 
+/// A label of two characters or more and a value of this many stand on lines of their own.
+constexpr std::size_t kLongValue = 20;
+
+/// A number of this size is shown in scientific form although the format is fixed.
+bool leavesFixed(double number, int digits) {
+    const double size = std::abs(number);
+    return size > kFixedLimit || (number != 0.0 && size < 1.0 / std::pow(10.0, digits));
+}
+
+/// Characters that `number` takes at most, in any mode.
+std::size_t mostCharacters(double number, const NumberLook& look) {
+    constexpr int kScientificFrame = 9;  // sign, digit, point, "e+308", the digit of a carry
+    const int exponentForm = look.digits + kScientificFrame + 2;
+    if (look.mode != DisplayMode::Fixed) {
+        return static_cast<std::size_t>(exponentForm);
+    }
+    int whole = 7;
+    for (double limit = 1e6; limit <= kFixedLimit && std::abs(number) >= limit; limit *= 10.0) {
+        ++whole;
+    }
+    const int fixedForm = 1 + whole + (whole - 1) / 3 + 1 + look.digits + look.digits / 3;
+    return static_cast<std::size_t>(std::max(fixedForm, exponentForm));
+}
+
+std::string fixedNumber(double value, int digits, char decimal, bool minutesAndSeconds) {
+    const std::string plain = fixedText(value, digits);
+    const std::string_view all{plain};
+    const std::string sign{all.starts_with('-') ? "-" : ""};
+    const auto point = all.find('.');
+    const std::string_view whole = all.substr(sign.size(), point == all.npos ? all.npos : point - sign.size());
+    const std::string_view fraction = point == all.npos ? std::string_view{} : all.substr(point + 1);
+    const std::string head = sign + groupWhole(whole, decimal);
+    if (minutesAndSeconds) {
+        const double minutes = readNumber("0." + std::string(fraction) + "0", '.');
+        return head + ":" + formatPattern(minutes, "0.00 00.0", decimal).substr(2);
+    }
+    return fraction.empty() ? head : head + decimal + groupFraction(fraction);
+}
+
 }  // namespace
 
 void NumberDisplay::DspFmat(ValueCell value) {
@@ -100,7 +139,27 @@ void NumberDisplay::DspFmat(ValueCell value) {
         s.Xreg = s.StackPtr <= 1 ? ValueCell::zero() : s.LastX;
         value = ValueCell{};
     }
-    SetUpDisplay(numDisplay(value));
+    if (!writeUnformatted(value)) {
+        SetUpDisplay(numDisplay(value));
+    }
+}
+
+// A plain number that needs one line is formatted when its line is looked at.
+bool NumberDisplay::writeUnformatted(const ValueCell& value) {
+    EngineState& s = calc.s;
+    if (value.isText() || value.isEmpty() || s.ShowRawOnce || s.DmsDisplay || s.FnLabel.size() > Tape::kLongestLabel) {
+        return false;
+    }
+    const NumberLook look{.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar};
+    if (s.FnLabel.size() > 1 && mostCharacters(calc.number(value), look) >= kLongValue) {
+        return false;
+    }
+    if (!calc.dialogOpen) {
+        calc.focusEntry();
+    }
+    calc.tape.addNumber(look, s.FnLabel, value);
+    lineWritten();
+    return true;
 }
 
 void NumberDisplay::tagWithHex(const ValueCell& value) {
@@ -123,48 +182,43 @@ std::string NumberDisplay::numDisplay(const ValueCell& value) {
     EngineState& s = calc.s;
     s.CurrentProc = "numDisplay";
     const double number = calc.number(value);
-    const double size = std::abs(number);
-    const auto label = static_cast<int>(s.FnLabel.size());
-    const int trim = std::max(label - 6, 0);
-    DisplayMode mode = s.Mode;
-    int digits = s.DisplayDigits;
-    if (mode == DisplayMode::Fixed &&
-        (size > kFixedLimit || (number != 0.0 && size < 1.0 / std::pow(10.0, s.DisplayDigits)))) {
-        mode = DisplayMode::Scientific;
+    const bool fixed = s.Mode == DisplayMode::Fixed && !leavesFixed(number, s.DisplayDigits);
+    if (fixed && std::exchange(s.ShowRawOnce, false)) {
+        return calc.text(value);
     }
-    if (mode == DisplayMode::Fixed) {
-        if (std::exchange(s.ShowRawOnce, false)) {
-            return calc.text(value);
-        }
-        return fixedNumber(number);
+    const bool minutesAndSeconds = std::exchange(s.DmsDisplay, false);
+    if (fixed && minutesAndSeconds) {
+        return fixedNumber(number, s.DisplayDigits, s.DecimalChar, true);
     }
-    s.DmsDisplay = false;
-    if (mode == DisplayMode::Scientific) {
-        if (label > 0 && s.DisplayDigits > 10) {
-            digits = s.DisplayDigits - 2 - trim;
-        }
-        return formatScientific(number, std::max(digits, 0), s.DecimalChar);
-    }
-    if (label > 0 && s.DisplayDigits > 8) {
-        digits = s.DisplayDigits - 4 - trim;
-    }
-    return EngFormat(number, std::max(digits, 0), s.DecimalChar);
+    return shownNumber(number, {.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar},
+                       s.FnLabel.size());
 }
 
-std::string NumberDisplay::fixedNumber(double value) const {
-    EngineState& s = calc.s;
-    const std::string plain = fixedText(value, s.DisplayDigits);
-    const std::string_view all{plain};
-    const std::string sign{all.starts_with('-') ? "-" : ""};
-    const auto point = all.find('.');
-    const std::string_view whole = all.substr(sign.size(), point == all.npos ? all.npos : point - sign.size());
-    const std::string_view fraction = point == all.npos ? std::string_view{} : all.substr(point + 1);
-    const std::string head = sign + groupWhole(whole, s.DecimalChar);
-    if (std::exchange(s.DmsDisplay, false)) {
-        const double minutes = readNumber("0." + std::string(fraction) + "0", '.');
-        return head + ":" + formatPattern(minutes, "0.00 00.0", s.DecimalChar).substr(2);
+std::string NumberDisplay::shownNumber(double number, const NumberLook& look, std::size_t labelSize) {
+    const auto label = static_cast<int>(labelSize);
+    const int trim = std::max(label - 6, 0);
+    if (look.mode == DisplayMode::Fixed && !leavesFixed(number, look.digits)) {
+        return fixedNumber(number, look.digits, look.decimal, false);
     }
-    return fraction.empty() ? head : head + s.DecimalChar + groupFraction(fraction);
+    int digits = look.digits;
+    if (look.mode != DisplayMode::Engineering) {
+        if (label > 0 && look.digits > 10) {
+            digits = look.digits - 2 - trim;
+        }
+        return formatScientific(number, std::max(digits, 0), look.decimal);
+    }
+    if (label > 0 && look.digits > 8) {
+        digits = look.digits - 4 - trim;
+    }
+    return EngFormat(number, std::max(digits, 0), look.decimal);
+}
+
+std::string NumberDisplay::labelled(std::string_view label, std::string_view text) {
+    std::string line{label};
+    if (!label.empty()) {
+        padRight(line, kTapeWidth - std::min(text.size(), kTapeWidth));
+    }
+    return line.append(text);
 }
 
 std::string NumberDisplay::EngFormat(double value, int digits, char decimal) {
@@ -201,10 +255,8 @@ void NumberDisplay::SetUpDisplay(const std::string& text) {
         return;
     }
     std::string label = s.FnLabel;
-    constexpr std::size_t kLongValue = 20;
     if (label.size() < 2 || text.size() < kLongValue) {
-        padRight(label, kTapeWidth - std::min(text.size(), kTapeWidth));
-        Add2Display(label + text);
+        Add2Display(labelled(label, text));
         return;
     }
     Add2Display(text);
@@ -248,6 +300,10 @@ void NumberDisplay::setUpBaseNumber(std::string_view text) {
 void NumberDisplay::Add2Display(std::string_view text) {
     calc.s.CurrentProc = "Add2Display";
     calc.tape.add(text, calc.s.Xreg);
+    lineWritten();
+}
+
+void NumberDisplay::lineWritten() {
     calc.stackList.refresh();
     calc.s.FnLabel.clear();
 }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "engine/engine_state.h"
+#include "engine/tape.h"
 #include "engine/value_cell.h"
 
 #include <string>
@@ -25,6 +26,11 @@ public:
 
     /// `value` in the user's format (mode, digits, room for FnLabel). Raises 13 and 6.
     [[nodiscard]] std::string numDisplay(const ValueCell& value);
+
+    /// `number` as `look` has it, with room for a label of `labelSize` characters.
+    [[nodiscard]] static std::string shownNumber(double number, const NumberLook& look, std::size_t labelSize);
+    /// A line of the tape: `label` on the left, `text` at the right edge.
+    [[nodiscard]] static std::string labelled(std::string_view label, std::string_view text);
 
     /// Engineering notation with `digits` digits behind the point: "12.345e+03".
     [[nodiscard]] static std::string EngFormat(double value, int digits, char decimal);
@@ -53,7 +59,8 @@ public:
     void writeDigitsCaption();
 
 private:
-    [[nodiscard]] std::string fixedNumber(double value) const;
+    [[nodiscard]] bool writeUnformatted(const ValueCell& value);
+    void lineWritten();
     void tagWithHex(const ValueCell& value);
     void setUpBaseNumber(std::string_view text);
     bool setWordSize(double bits);

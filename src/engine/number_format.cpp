@@ -94,6 +94,50 @@ void appendExponent(std::string& out, int exponent) {
     out += std::to_string(size);
 }
 
+/// Powers of ten that a double holds exactly.
+constexpr int kExactPowers = 22;
+constexpr std::array<double, kExactPowers + 1> kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                            1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                            1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+/// `size` times ten to the power of `scale`, as a rounded product and what it lacks, exactly.
+struct Scaled {
+    double product;
+    double rest;
+};
+Scaled scaled(double size, int scale) {
+    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(scale))];
+    if (scale >= 0) {
+        const double product = size * power;
+        return {product, std::fma(size, power, -product)};
+    }
+    const double quotient = size / power;
+    // The remainder of a division is exact; its quotient is far below what a tie could turn on.
+    return {quotient, std::fma(-quotient, power, size) / power};
+}
+
+/// `size` as a whole number of fifteen digits that stand `scale` places behind the point; the
+/// integer nearest to it, or 0 where only the decimal text can tell.
+double nearestFifteen(double size, int scale) {
+    const auto [product, rest] = scaled(size, scale);
+    double whole = std::nearbyint(product);
+    const double fraction = product - whole;
+    // Where the halves meet the text decides: ties are rare, and it knows them exactly.
+    if (std::abs(std::abs(fraction) - 0.5) < 0.001) {
+        return 0.0;
+    }
+    return fraction + rest > 0.5 ? whole + 1.0 : fraction + rest < -0.5 ? whole - 1.0 : whole;
+}
+
+double throughText(double value) {
+    std::array<char, 40> text{};
+    const auto printed =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, kTextDigits);
+    double back = value;
+    const auto read = std::from_chars(text.data(), printed.ptr, back);
+    return read.ec == std::errc{} ? back : value;
+}
+
 /// A number pattern taken apart at its point.
 struct Pattern {
     std::string_view whole;
@@ -206,6 +250,34 @@ std::string plainText(double value, char decimal) {
         }
     }
     return out;
+}
+
+double fifteenDigits(double value) {
+    constexpr double kLeastFifteen = 1e14;
+    constexpr double kLeastSixteen = 1e15;
+    const double size = std::abs(value);
+    if (size < kLeastSixteen && size == std::trunc(size)) {
+        return value;
+    }
+    constexpr double kLeast = 1e-7;
+    constexpr double kMost = 1e36;
+    if (!(size >= kLeast && size < kMost)) {
+        return throughText(value);
+    }
+    constexpr double kDigitsPerBit = 0.30103;
+    const int exponent = static_cast<int>(std::floor(std::ilogb(size) * kDigitsPerBit));
+    int scale = kTextDigits - 1 - exponent;
+    double whole = scale > kExactPowers ? 0.0 : nearestFifteen(size, scale);
+    if (whole >= kLeastSixteen) {
+        // The estimate of the exponent is one too small for the upper part of a binary step.
+        whole = nearestFifteen(size, --scale);
+    }
+    if (whole <= kLeastFifteen || whole >= kLeastSixteen) {
+        return throughText(value);
+    }
+    // Both are exact, so this is the double nearest to the decimal number.
+    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(scale))];
+    return std::copysign(scale >= 0 ? whole / power : whole * power, value);
 }
 
 double roundHalfEven(double value, int places) {

@@ -26,6 +26,10 @@ inline constexpr int kTextDigits = 15;
 /// Up to 15 significant digits: "1.5", "-3", "1E+20", "1.5E-07"; never "-0".
 [[nodiscard]] std::string plainText(double value, char decimal);
 
+/// `value` to its plain text and back: the double nearest to its fifteen-digit decimal. The few
+/// numbers at the end of the range whose text would read as too large stay as they are.
+[[nodiscard]] double fifteenDigits(double value);
+
 /// The value whose fifteen-digit text is rounded half to even at `places` decimal places (0 to
 /// 22). Negative zero becomes zero.
 [[nodiscard]] double roundHalfEven(double value, int places);

@@ -70,7 +70,9 @@ void StackList::select(std::size_t index) {
 void StackList::refresh() {
     clicked_ = -1;
     ++revision_;
-    placeMarks();
+    if (!calc.unwatched) {
+        placeMarks();
+    }
 }
 
 void StackList::placeMarks() {

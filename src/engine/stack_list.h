@@ -25,13 +25,14 @@ public:
 
     /// The stack changed: rows are made anew when next read, marks are set now.
     void refresh();
+    /// Sets the row marks for the present depth.
+    void placeMarks();
     /// Stack element that row `index` shows.
     [[nodiscard]] int element(std::size_t index) const { return first() + static_cast<int>(index); }
 
 private:
     [[nodiscard]] int first() const;
     [[nodiscard]] int capacity() const;
-    void placeMarks();
 
     Engine& calc;
     std::uint64_t revision_ = 0;

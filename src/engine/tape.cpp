@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/tape.h"
 
+#include "engine/number_display.h"
+
 #include <algorithm>
 
 namespace tallyforge {
@@ -31,6 +33,26 @@ void Tape::add(std::string_view text, const ValueCell& value) {
     ++revision_;
 }
 
+void Tape::addNumber(const NumberLook& look, std::string_view label, const ValueCell& value) {
+    Row& row = rows_.emplace_back();
+    row.length = kNumber;
+    row.text[0] = static_cast<char>(look.mode);
+    row.text[1] = static_cast<char>(look.digits);
+    row.text[2] = look.decimal;
+    row.text[3] = static_cast<char>(label.size());
+    std::copy(label.begin(), label.end(), row.text.begin() + 4);
+    row.value = value;
+    selected_ = rows_.size() - 1;
+    ++revision_;
+}
+
+std::string Tape::numberText(const Row& row) {
+    const NumberLook look{
+        .mode = static_cast<DisplayMode>(row.text[0]), .digits = row.text[1], .decimal = row.text[2]};
+    const std::string_view label{row.text.data() + 4, static_cast<std::size_t>(row.text[3])};
+    return NumberDisplay::labelled(label, NumberDisplay::shownNumber(row.value.number(look.decimal), look, label.size()));
+}
+
 bool Tape::dropFiller() {
     if (fillers_ == 0) {
         return false;
@@ -49,9 +71,21 @@ ValueCell Tape::value(std::size_t index) const {
 }
 
 void Tape::setValue(std::size_t index, const ValueCell& value) {
-    if (index < rows_.size()) {
-        rows_[index].value = value;
+    if (index >= rows_.size()) {
+        return;
     }
+    Row& row = rows_[index];
+    if (row.length == kNumber) {
+        // The line goes on reading as the number that it was written for.
+        const std::string text = numberText(row);
+        row.length = text.size() <= kTapeWidth ? static_cast<std::uint8_t>(text.size()) : kLong;
+        if (row.length == kLong) {
+            longTexts_.emplace(dropped_ + index, text);
+        } else {
+            std::copy(text.begin(), text.end(), row.text.begin());
+        }
+    }
+    row.value = value;
 }
 
 std::string Tape::row(std::size_t index) const {
@@ -63,7 +97,7 @@ std::string Tape::row(std::size_t index) const {
         const auto found = longTexts_.find(dropped_ + index);
         return found == longTexts_.end() ? std::string{} : found->second;
     }
-    return {row.text.data(), row.length};
+    return row.length == kNumber ? numberText(row) : std::string(row.text.data(), row.length);
 }
 
 void Tape::select(std::size_t index) {

@@ -5,6 +5,7 @@
 // first did and a line takes less than 96 bytes.
 #pragma once
 
+#include "engine/engine_state.h"
 #include "engine/value_cell.h"
 #include "platform/form.h"
 
@@ -20,6 +21,13 @@ namespace tallyforge {
 /// Characters in a line of the tape.
 inline constexpr std::size_t kTapeWidth = 23;
 
+/// How a number is to be shown: the format in force when its line was written.
+struct NumberLook {
+    DisplayMode mode = DisplayMode::Fixed;
+    int digits = 2;
+    char decimal = '.';
+};
+
 class Tape : public ListRows {
 public:
     /// Empties the tape and lays `rows` filler lines on it, so that new lines appear at the
@@ -28,6 +36,12 @@ public:
 
     /// Appends a line with the value behind it and selects it.
     void add(std::string_view text, const ValueCell& value);
+
+    /// Longest label that addNumber takes.
+    static constexpr std::size_t kLongestLabel = kTapeWidth - 4;
+    /// Appends the line of a number, one that is not a text, with its label, and selects it. The
+    /// line is formatted when someone looks at it, and reads as it would have been written now.
+    void addNumber(const NumberLook& look, std::string_view label, const ValueCell& value);
 
     /// Takes one filler line away; returns false where none is left.
     bool dropFiller();
@@ -52,10 +66,13 @@ public:
 private:
     struct Row {
         std::array<char, kTapeWidth> text;
-        std::uint8_t length;  ///< kLong: the text lies in longTexts_
+        std::uint8_t length;  ///< kLong: the text lies in longTexts_; kNumber: look and label lie in text
         ValueCell value;
     };
     static constexpr std::uint8_t kLong = 255;
+    static constexpr std::uint8_t kNumber = 254;
+
+    [[nodiscard]] static std::string numberText(const Row& row);
 
     std::deque<Row> rows_;
     /// Texts longer than a line, by the number that their row had when it was added.
