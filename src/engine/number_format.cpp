@@ -120,13 +120,14 @@ Scaled scaled(double size, int scale) {
 /// integer nearest to it, or 0 where only the decimal text can tell.
 double nearestFifteen(double size, int scale) {
     const auto [product, rest] = scaled(size, scale);
-    double whole = std::nearbyint(product);
+    const double whole = std::nearbyint(product);
     const double fraction = product - whole;
     // Where the halves meet the text decides: ties are rare, and it knows them exactly.
-    if (std::abs(std::abs(fraction) - 0.5) < 0.001) {
+    const double beyond = fraction + rest;
+    if (std::abs(std::abs(beyond) - 0.5) < 0.001) {
         return 0.0;
     }
-    return fraction + rest > 0.5 ? whole + 1.0 : fraction + rest < -0.5 ? whole - 1.0 : whole;
+    return beyond > 0.5 ? whole + 1.0 : beyond < -0.5 ? whole - 1.0 : whole;
 }
 
 double throughText(double value) {
