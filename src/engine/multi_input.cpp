@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/multi_input.h"
 
+#include "engine/checked_math.h"
 #include "engine/engine.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tallyforge {
 
@@ -52,10 +52,7 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
     EngineState& s = calc.s;
     double result = 0.0;
     try {
-        result = solved.solve(values_);
-        if (!std::isfinite(result)) {
-            throw Failure{FailureNumber::Overflow};
-        }
+        result = checked(solved.solve(values_));
     } catch (const Failure&) {
         takeBack(last.bit);
         throw;
