@@ -47,7 +47,9 @@ void Commit::readEntry(ValueCell& savedLastX) {
     EngineState& s = calc.s;
     const std::string& typed = calc.entryText();
     if (typed.empty()) {
-        calc.setEntry(calc.text(s.Xreg));
+        if (s.KeepEntryText || s.SkipCommitTail) {
+            calc.setEntry(calc.text(s.Xreg));
+        }
         s.StackPtr += 1;
         s.LastX = s.Xreg;
         return;

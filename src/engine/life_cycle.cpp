@@ -206,7 +206,7 @@ void LifeCycle::Form_Activate() {
     EngineState& s = calc.s;
     s.FormActive = true;
     setAngle(s.Angle);
-    if (std::exchange(s.AutoLoadProgram, false)) {
+    if (s.AutoLoadProgram) {
         calc.keypads().mnuProgram_Click();
     }
     if (!s.BaseMode) {

@@ -163,7 +163,9 @@ void Dispatch::leaveNothing(int index) {
 
 void Dispatch::commitResult() {
     EngineState& s = calc.s;
-    calc.setEntry(calc.text(s.Xreg));
+    if (s.KeepEntryText || s.SkipCommitTail) {
+        calc.setEntry(calc.text(s.Xreg));
+    }
     // Not by way of the text, which has fewer digits than the number.
     s.ValueInXreg = true;
     calc.commit.cmdEnter_Click();

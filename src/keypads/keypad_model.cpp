@@ -48,7 +48,7 @@ bool unitsMatter(Keypad keypad) {
 KeypadModel::KeypadModel(Engine& calculator) : calc(calculator) {}
 
 void KeypadModel::show(Keypad keypad) {
-    if (calc.s.MemoryArrayMode) {
+    if (calc.s.MemoryArrayMode || calc.s.ProgramMode) {
         return;
     }
     lay(keypad);

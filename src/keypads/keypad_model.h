@@ -21,7 +21,7 @@ public:
     explicit KeypadModel(Engine& calculator);
 
     /// Lays `keypad` over the bank, plain, and puts it into the history. Nothing in memory array
-    /// mode, where the bank is the registers.
+    /// mode and in Program mode, where the bank is the registers or the program's keys.
     void show(Keypad keypad);
     /// The same without history and hint, for a keypad that is lent for one key.
     void lay(Keypad keypad);

@@ -13,10 +13,15 @@
 #include "functions/statistics.h"
 #include "functions/triangles.h"
 
+#include <functional>
+#include <string_view>
+
 namespace tallyforge {
 
 struct Keys {
     Engine& calc;
+    /// Loads one of the programs that belong to a key, by its file name.
+    std::function<void(std::string_view)> runProgram{};
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
     Dates dates{calc};

@@ -7,6 +7,19 @@
 
 namespace tallyforge {
 
+namespace {
+
+// The program does all the rest; the key itself has no value.
+void boardFootCalculator(Keys& keys) {
+    if (keys.runProgram) {
+        keys.runProgram("Board feet.rec");
+    }
+    keys.calc.s.KeepX = keys.calc.s.Xreg;
+    keys.calc.s.Xreg = kNothingDone;
+}
+
+}  // namespace
+
 const KeypadTable kTablesKeypad{
     .id = Keypad::Tables,
     .name = "Tables",
@@ -41,7 +54,11 @@ const KeypadTable kTablesKeypad{
          .caption = "MS",
          .tip = " Machine Screw size number [Click], calculate diameter ",
          .helpTopic = 3007},
-        {.key = 8, .caption = "BFC", .tip = " Board Foot Calculator - [Click] ", .helpTopic = 3008},
+        {.key = 8,
+         .caption = "BFC",
+         .tip = " Board Foot Calculator - [Click] ",
+         .helpTopic = 3008,
+         .does = [](Keys& keys) { boardFootCalculator(keys); }},
         {.key = 9,
          .caption = "SS-T",
          .tip = " Stainless Steel Thickness, Gauge 6/0 (-5) - 38 [Click] ",

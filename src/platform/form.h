@@ -23,7 +23,7 @@ enum Modifier : std::uint8_t { kNoModifier = 0, kShift = 1, kCtrl = 2, kAlt = 4 
 enum class ControlKind { Key, Field, Label, List, Option, Frame, Lamp, Menu, MenuEntry, Separator };
 
 /// Back colour of a key: what kind of key it is.
-enum class KeyColour { Plain, Yellow, Blue };
+enum class KeyColour { Plain, Yellow, Blue, PaleYellow };
 
 /// Place on the form in twips, 1/1440 inch.
 struct Place {

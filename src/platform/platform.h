@@ -60,6 +60,9 @@ struct PrintLine {
     Font font;
 };
 
+/// How the user wants a running program ended: at once, or after a question.
+enum class Interruption { None, Break, Close };
+
 class Platform {
 public:
     virtual ~Platform() = default;
@@ -98,6 +101,9 @@ public:
     /// Uniform in [0, 1).
     [[nodiscard]] virtual double random() = 0;
     virtual void sleep(std::chrono::milliseconds time) = 0;
+    /// A program runs and holds the form: lets the desktop see that the window is alive, and drops
+    /// what is typed and clicked meanwhile. Returns what the user wants of the run.
+    virtual Interruption breathe() { return Interruption::None; }
 };
 
 }  // namespace tallyforge

@@ -16,12 +16,19 @@ Calculator::Calculator(Platform& platform)
       resetKey_(engine_, machineReset_, tapeKeys_),
       viewKeys_(engine_, settings_),
       lifeCycle_(engine_, settings_, viewKeys_),
-      clipboard_(engine_) {
+      clipboard_(engine_),
+      programs_({.calc = engine_,
+                 .keypads = keypads_,
+                 .stackKeys = stackKeys_,
+                 .registers = registers_,
+                 .resetKey = resetKey_,
+                 .settings = settings_}) {
     hangEntry();
     hangKeys();
     hangOptions();
     hangMenus();
     hangLifeCycle();
+    hangPrograms();
 }
 
 void Calculator::hangEntry() {
@@ -83,7 +90,6 @@ void Calculator::hangKeys() {
     keypads_.model.hintDue = [this](Keypad keypad) { return lifeCycle_.countNotice(keypad); };
     keypads_.above.copy = [this] { clipboard_.mnuCopy_Click(); };
     keypads_.above.paste = [this] { clipboard_.mnuPaste_Click(); };
-    keypads_.above.toggleMemoryArray = [this] { registers_.MemoryArray(); };
 }
 
 void Calculator::hangOptions() {
@@ -125,6 +131,27 @@ void Calculator::hangLifeCycle() {
     form.activate = [this] { lifeCycle_.Form_Activate(); };
     form.deactivate = [this] { lifeCycle_.Form_Deactivate(); };
     form.close = [this] { lifeCycle_.Form_Unload(); };
+}
+
+void Calculator::hangPrograms() {
+    keypads_.dispatch.programKey = [this](int index) {
+        programs_.RunProgramKey(index);
+        return true;
+    };
+    keypads_.dispatch.programRuns = [this] { return programs_.running(); };
+    keypads_.keys.runProgram = [this](std::string_view name) { programs_.loadBuiltIn(std::string(name)); };
+    Keypads::Above& above = keypads_.above;
+    above.toggleProgramMode = [this] { programs_.ToggleProgramMode(); };
+    above.programLetter = [this](int letter) { programs_.pressLetter(letter); };
+    above.loadProgram = [this] { programs_.mnuProgram_Click(); };
+    above.resetProgram = [this] { programs_.resetProgram(); };
+    above.toggleMemoryArray = [this] {
+        if (engine_.s.ProgramMode) {
+            programs_.ToggleProgramMode();
+        }
+        registers_.MemoryArray();
+    };
+    engine_.form.mnuProgram.click = [this] { programs_.mnuProgram_Click(); };
 }
 
 void Calculator::start() {

@@ -15,6 +15,7 @@
 #include "engine/tape_keys.h"
 #include "engine/view_keys.h"
 #include "keypads/keypads.h"
+#include "program/programs.h"
 #include "shell/clipboard.h"
 
 #include <cstddef>
@@ -33,6 +34,7 @@ public:
 
     [[nodiscard]] Engine& engine() { return engine_; }
     [[nodiscard]] const Engine& engine() const { return engine_; }
+    [[nodiscard]] Programs& programs() { return programs_; }
 
     /// Row of a list by the number that a user gives it: tape line from 1 without the filler
     /// lines, or stack element. Empty where there is no such row.
@@ -44,6 +46,7 @@ private:
     void hangOptions();
     void hangMenus();
     void hangLifeCycle();
+    void hangPrograms();
 
     Engine engine_;
     Keypads keypads_;
@@ -57,6 +60,7 @@ private:
     ViewKeys viewKeys_;
     LifeCycle lifeCycle_;
     Clipboard clipboard_;
+    Programs programs_;
 };
 
 }  // namespace tallyforge

@@ -85,7 +85,7 @@ Lines registerLines(const Engine& calc) {
 }
 
 Lines keyLines(const Engine& calc) {
-    constexpr std::array<std::string_view, 3> kColours{"plain", "yellow", "blue"};
+    constexpr std::array<std::string_view, 4> kColours{"plain", "yellow", "blue", "yellow"};
     Lines lines;
     for (const Control& key : calc.form.cmdFunctions) {
         if (key.visible) {

@@ -55,6 +55,7 @@ QString firstPresent(const QStringList& families, const QString& otherwise) {
 const QColor& Theme::keyFace(KeyColour colour) const {
     switch (colour) {
         case KeyColour::Yellow:
+        case KeyColour::PaleYellow:
             return keyYellow;
         case KeyColour::Blue:
             return keyBlue;

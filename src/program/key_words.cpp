@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "program/key_words.h"
+
+#include "engine/engine.h"
+#include "engine/memory_registers.h"
+#include "engine/number_format.h"
+#include "engine/reset_key.h"
+#include "platform/form_input.h"
+
+#include <utility>
+
+namespace tallyforge {
+
+void KeyWords::DoProgramWord(const FunctionWord& word, int registerNumber) {
+    if (word.direct == DirectKey::None) {
+        if (word.mask != kMaskAsItStands) {
+            calc.s.ModifierMask = static_cast<std::uint8_t>(word.mask);
+        }
+        PressProgramKey(word.keypad, word.key);
+        return;
+    }
+    pressDirect(word.direct, registerNumber);
+    if (std::exchange(state.resetLatch, false)) {
+        mode.ToggleProgramMode();
+    }
+}
+
+void KeyWords::PressProgramKey(Keypad keypad, int index) {
+    EngineState& s = calc.s;
+    const bool programMode = std::exchange(s.ProgramMode, false);
+    const bool quiz = std::exchange(s.QuizMode, true);
+    const Keypad active = std::exchange(s.ActiveKeypad, keypad);
+    parts.keypads.cmdFunctions_Click(index);
+    s.ActiveKeypad = active;
+    s.ProgramMode = programMode;
+    s.QuizMode = quiz;
+}
+
+void KeyWords::pressDirect(DirectKey key, int registerNumber) {
+    switch (key) {
+        case DirectKey::ProgramMode:
+            return calc.s.ProgramMode ? mode.ToggleProgramMode() : void();
+        case DirectKey::Reset:
+            return pressReset(registerNumber == 1 ? kShift : kNoModifier, registerNumber != 1);
+        case DirectKey::ClearRegisters:
+            return pressReset(kCtrl, false);
+        case DirectKey::ResetAll:
+            return pressReset(kAlt, true);
+        case DirectKey::Drop:
+            return parts.stackKeys.cmdDown_Click();
+        case DirectKey::Exchange:
+            return parts.stackKeys.cmdXchgY_Click();
+        case DirectKey::ChangeSign:
+            return parts.stackKeys.cmdChs_Click();
+        case DirectKey::Store:
+            return pressRegister(kShift, registerNumber);
+        case DirectKey::Recall:
+            return pressRegister(kNoModifier, registerNumber);
+        case DirectKey::Enter:
+            return calc.commit.cmdEnter_Click();
+        case DirectKey::LastX:
+            return parts.stackKeys.cmdLastx_Click();
+        case DirectKey::Degrees:
+            return static_cast<void>(click(calc.form, calc.form.optDeg));
+        case DirectKey::Radians:
+            return static_cast<void>(click(calc.form, calc.form.optRad));
+        case DirectKey::Grads:
+            return static_cast<void>(click(calc.form, calc.form.optGrad));
+        case DirectKey::Fixed:
+            return calc.display.optFix_Click(DisplayMode::Fixed);
+        case DirectKey::Scientific:
+            return calc.display.optFix_Click(DisplayMode::Scientific);
+        case DirectKey::Engineering:
+            return calc.display.optFix_Click(DisplayMode::Engineering);
+        case DirectKey::Divide:
+        case DirectKey::Multiply:
+        case DirectKey::Subtract:
+        case DirectKey::Add:
+            return parts.keypads.cmdMath_Click(static_cast<int>(key) - static_cast<int>(DirectKey::Divide));
+        case DirectKey::None:
+            break;
+    }
+}
+
+void KeyWords::pressReset(std::uint8_t mask, bool modeComesBack) {
+    calc.s.ModifierMask = mask;
+    state.resetLatch = modeComesBack && calc.s.ProgramMode;
+    parts.resetKey.cmdReset_Click();
+}
+
+void KeyWords::pressRegister(std::uint8_t mask, int registerNumber) {
+    EngineState& s = calc.s;
+    if (mask == kShift) {
+        if (const auto x = s.Xreg.tryNumber(s.DecimalChar); x && !s.Xreg.isEmptyText()) {
+            s.Xreg = fifteenDigits(*x);
+        }
+    }
+    s.ModifierMask = mask;
+    // An open entry, so that the number reaches the key whole.
+    s.EntryOpen = true;
+    calc.setEntry(std::to_string(registerNumber));
+    parts.registers.cmdSTO_Click();
+}
+
+}  // namespace tallyforge

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Where programs and traces lie: the user's own in the data folder, those that came with the
+// calculator beside the executable or where it was installed.
+#pragma once
+
+#include "engine/engine.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace tallyforge {
+
+/// The user's own programs.
+[[nodiscard]] std::filesystem::path userPrograms(const Engine& calc);
+[[nodiscard]] std::filesystem::path tracesFolder(const Engine& calc);
+
+/// The first folder that holds the program `name`: the user's own, "programs" beside the
+/// executable, the installed one. None where no folder has it or the name is empty.
+[[nodiscard]] std::optional<std::filesystem::path> folderOfProgram(const Engine& calc, const std::string& name);
+
+}  // namespace tallyforge

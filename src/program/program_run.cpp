@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "program/program_run.h"
+
+#include "engine/engine.h"
+#include "engine/number_format.h"
+#include "program/comparison.h"
+
+#include <cmath>
+
+namespace tallyforge {
+
+void ProgramRun::run(const std::string& label) {
+    findLabel(label);
+    while (!over()) {
+        const ProgramLine& line = nextLine();
+        tick();
+        if (line.skipped()) {
+            continue;
+        }
+        const ProgramLine& ready = text->prepared(position_, state.variables);
+        if (std::exchange(behindIf_, false)) {
+            runBehindIf(ready);
+        } else {
+            runLine(ready);
+        }
+    }
+}
+
+const ProgramLine& ProgramRun::nextLine() {
+    if (position_ >= text->count()) {
+        throw ProgramFault(ProgramFaultNumber::PastEndOfFile);
+    }
+    ++position_;
+    ++lineNumber_;
+    return text->line(position_);
+}
+
+void ProgramRun::runLine(const ProgramLine& line) {
+    Variables& variables = state.variables;
+    if (line.words.front().text == "name") {
+        executeWord(line.whole);
+        return;
+    }
+    if (line.assigns) {
+        variables.ProgramVarScan = kNoScan;
+    }
+    const bool several = line.words.size() > 2;
+    if (several && variables.ProgramVarScan != kNoScan) {
+        // Kept as it always was: from a load to the first line with "=" an expression keeps its result.
+        if (const int index = variables.find(line.words.front().text); index >= 0) {
+            executeAll(line.joined, 0, index);
+            return;
+        }
+        variables.ProgramVarScan = kNoScan;
+    } else if (several && !line.isIf) {
+        expressionOrAssignment(line);
+        return;
+    }
+    if (line.isIf) {
+        runIf(line);
+    } else {
+        executeWord(line.whole);
+    }
+}
+
+// The line behind an "if" is told apart by its first word alone.
+void ProgramRun::runBehindIf(const ProgramLine& line) {
+    const bool named = state.variables.ProgramVarCount > 0 && state.variables.find(line.words.front().text) >= 0;
+    if (!named) {
+        executeWord(line.whole);
+    } else if (tokensOfIf_ > 2) {
+        expressionOrAssignment(line);
+    }
+}
+
+void ProgramRun::expressionOrAssignment(const ProgramLine& line) {
+    if (line.words.size() > 1 && line.words[1].text == "=") {
+        assign(line);
+        return;
+    }
+    if (state.variables.find(line.words.front().text) < 0) {
+        // Kept as it always was: the search for the name runs off its counter.
+        throw ProgramFault(ProgramFaultNumber::Overflow);
+    }
+    executeAll(line.words, 0);
+}
+
+void ProgramRun::assign(const ProgramLine& line) {
+    const int index = state.variables.find(line.words.front().text);
+    if (index < 0 || line.words.size() < 3) {
+        state.variableMissing = true;
+        throw ProgramFault(ProgramFaultNumber::VariableNotDeclared,
+                           " Variable \"" + line.words.front().text + "\" not declared" + nearLine());
+    }
+    executeAll(line.words, 2, index);
+}
+
+void ProgramRun::executeAll(const Words& words, std::size_t from, int storeTo) {
+    const Words* const row = std::exchange(row_, &words);
+    const std::size_t at = at_;
+    for (at_ = from; at_ < words.size() && !over(); ++at_) {
+        executeWord(words[at_]);
+        if (storeTo >= 0) {
+            state.variables.ProgramVarValues[static_cast<std::size_t>(storeTo)] = numberInX();
+        }
+    }
+    row_ = row;
+    at_ = at;
+}
+
+void ProgramRun::runIf(const ProgramLine& line) {
+    const int here = position_;
+    executeAll(line.test.left, 0);
+    const double left = numberInX();
+    tools.keys.DoProgramWord(*findFunction("drop"), 0);
+    executeAll(line.test.right, 0);
+    const double right = numberInX();
+    tools.keys.DoProgramWord(*findFunction("drop"), 0);
+    if (!comparisonHolds(left, line.test.op, right)) {
+        const int endif = text->endifOf(here);
+        if (endif == 0) {
+            lineNumber_ += text->count() - here;
+            throw ProgramFault(ProgramFaultNumber::PastEndOfFile);
+        }
+        lineNumber_ += endif - here;
+        position_ = endif;
+    }
+    behindIf_ = true;
+    tokensOfIf_ = line.words.size();
+}
+
+// An X that a key has left empty counts as 0.
+double ProgramRun::numberInX() const {
+    return calc.s.Xreg.isEmptyText() ? 0.0 : calc.xNumber();
+}
+
+void ProgramRun::executeWord(const ProgramWord& word) {
+    tick();
+    if (word.kind == ProgramWord::Kind::Statement) {
+        executeStatement(word);
+        return;
+    }
+    if (state.TraceOn) {
+        trace_.write(lineNumber_, word.text);
+    }
+    switch (word.kind) {
+        case ProgramWord::Kind::Number:
+            pushNumber(word.number);
+            break;
+        case ProgramWord::Kind::NoNumber:
+            throw ProgramFault(word.failure);
+        case ProgramWord::Kind::Function:
+            pressFunction(*word.function);
+            break;
+        case ProgramWord::Kind::Variable:
+            pushVariable(state.variables.ProgramVarValues[static_cast<std::size_t>(word.index)]);
+            break;
+        default:
+            pushVariable(0.0);
+            break;
+    }
+}
+
+void ProgramRun::pushNumber(double number) {
+    calc.s.RoundTripCheck = true;
+    calc.commit.enterStored(number);
+    calc.s.RoundTripCheck = false;
+    roundTrip();
+}
+
+void ProgramRun::pushVariable(double value) {
+    calc.s.RoundTripCheck = true;
+    calc.s.Xreg = value;
+    calc.commit.cmdEnter_Click();
+    calc.s.RoundTripCheck = false;
+    roundTrip();
+}
+
+// A number of a base stays one.
+void ProgramRun::pushCopy(const ValueCell& cell) {
+    if (const auto number = cell.tryNumber(calc.s.DecimalChar); number && !cell.isEmptyText()) {
+        pushNumber(fifteenDigits(*number));
+    } else if (cell.isEmpty() || cell.isEmptyText()) {
+        pushVariable(0.0);
+    } else {
+        calc.s.LastX = std::exchange(calc.s.Xreg, ValueCell(cell));
+        calc.s.EntryOpen = true;
+        calc.s.ValueInXreg = true;
+        calc.commit.cmdEnter_Click();
+    }
+}
+
+void ProgramRun::pressFunction(const FunctionWord& word, int registerNumber) {
+    calc.s.RoundTripCheck = true;
+    tools.keys.DoProgramWord(word, registerNumber);
+    calc.s.RoundTripCheck = false;
+    roundTrip();
+}
+
+// X carries the fifteen digits of its text; the element on the stack keeps them all.
+void ProgramRun::roundTrip() {
+    ValueCell& x = calc.s.Xreg;
+    if (x.isEmptyText()) {
+        return;
+    }
+    if (const auto number = x.tryNumber(calc.s.DecimalChar)) {
+        x = fifteenDigits(*number);
+    }
+}
+
+void ProgramRun::restoreFormat() {
+    if (formatBefore_) {
+        calc.display.optFix_Click(*formatBefore_);
+    }
+    if (digitsBefore_) {
+        calc.setEntry(std::to_string(*digitsBefore_));
+        calc.display.cmdDigits_Click();
+    }
+}
+
+void ProgramRun::tick() {
+    constexpr int kWordsBetween = 256;
+    if (++tools.control.words >= kWordsBetween) {
+        tools.control.words = 0;
+        constexpr std::chrono::milliseconds kOften{50};
+        const auto now = std::chrono::steady_clock::now();
+        if (now - tools.control.asked >= kOften) {
+            breathe();
+            tools.control.asked = std::chrono::steady_clock::now();
+        }
+    }
+}
+
+void ProgramRun::breathe() {
+    const Interruption wish = calc.platform.breathe();
+    if (wish == Interruption::None) {
+        return;
+    }
+    if (wish == Interruption::Break || calc.question("Program", "A program is running. Do you want to end it?")) {
+        tools.control.interrupted = true;
+        stop();
+    }
+}
+
+void ProgramRun::stop() {
+    ended_ = true;
+    calc.message(BoxKind::Info, "Attention!", "Stop Statement encountered at Line " + std::to_string(lineNumber_));
+}
+
+std::string ProgramRun::nearLine() const {
+    return " near line " + std::to_string(lineNumber_);
+}
+
+std::string ProgramRun::shown(const ValueCell& cell) const {
+    const auto number = cell.tryNumber(calc.s.DecimalChar);
+    return number && !cell.isEmptyText() ? calc.display.numDisplay(cell) : calc.text(cell);
+}
+
+}  // namespace tallyforge
