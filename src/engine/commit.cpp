@@ -117,16 +117,16 @@ void Commit::storeOnStack() {
 void Commit::showAndFinish(const ValueCell& savedLastX) {
     EngineState& s = calc.s;
     const bool shown = display();
-    s.CurrentProc = "cmdEnter";
     if (std::exchange(s.FormatFault, false)) {
+        refused_ = true;
         s.Xreg = s.LastX;
         s.LastX = savedLastX;
         s.StackPtr = std::max(s.StackPtr - 1, 1);
         s.Yreg = s.slot(s.StackPtr - 2);
     } else if (shown) {
         calc.display.DisplayChg();
-        s.CurrentProc = "cmdEnter";
     }
+    s.CurrentProc = "cmdEnter";
     // A label belongs to the line of its own commit; one that was not printed stands on no other.
     s.FnLabel.clear();
     calc.stackList.refresh();
@@ -202,15 +202,19 @@ void Commit::AutoDigits() {
     }
 }
 
-void Commit::FetchX() {
+bool Commit::FetchX() {
     EngineState& s = calc.s;
     if (s.EntryOpen) {
+        refused_ = false;
         cmdEnter_Click();
+        if (refused_) {
+            return false;
+        }
     } else if (s.StackPtr <= 1) {
         if (s.Xreg.isEmpty() || s.Xreg.isEmptyText()) {
             s.Xreg = ValueCell::zero();
         }
-        return;
+        return true;
     } else if (s.BaseMode) {
         s.Xreg = calc.tape.value(calc.tape.selected());
     } else {
@@ -222,6 +226,7 @@ void Commit::FetchX() {
     }
     s.ValueInXreg = true;
     s.SkipCommitTail = false;
+    return true;
 }
 
 void Commit::BeginEntry() {

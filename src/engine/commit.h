@@ -36,8 +36,9 @@ public:
     void PushResult();
 
     /// Brings the operand into X: commits a number that is still being typed, else takes the top
-    /// of the stack. First call of every key function.
-    void FetchX();
+    /// of the stack. First call of every key function. Returns false where what was typed is no
+    /// number (the box has said so): there is no operand then, and the function is not to run.
+    [[nodiscard]] bool FetchX();
 
     /// Before the first character of a number reaches the entry line.
     void BeginEntry();
@@ -65,6 +66,7 @@ private:
     [[nodiscard]] bool sameAfterRoundTrip(const ValueCell& left, std::string_view right) const;
 
     Engine& calc;
+    bool refused_ = false;  ///< the last entry was no number and has been taken back
 };
 
 }  // namespace tallyforge

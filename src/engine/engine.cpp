@@ -67,10 +67,12 @@ void Engine::ClearOptKeys() {
     }
     s.ModifierMask = 0;
     s.ModifierLatched = false;
-    for (Control& option : form.optKey) {
-        option.checked = false;
+    if (!form.optKey.back().checked) {
+        for (Control& option : form.optKey) {
+            option.checked = false;
+        }
+        form.optKey.back().checked = true;
     }
-    form.optKey.back().checked = true;
     LightModifiers(0);
     focusEntry();
 }

@@ -183,7 +183,9 @@ void EntryCommands::toBase() {
 void EntryCommands::doubleOrHalve(int key) {
     EngineState& s = calc.s;
     calc.closeEmptyEntry();
-    calc.commit.FetchX();
+    if (!calc.commit.FetchX()) {
+        return;
+    }
     const bool doubles = key == '<';
     if (s.Xreg.isTagged()) {
         s.BaseMode = true;

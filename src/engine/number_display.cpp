@@ -126,6 +126,9 @@ std::string fixedNumber(double value, int digits, char decimal, bool minutesAndS
 
 void NumberDisplay::DspFmat(ValueCell value) {
     EngineState& s = calc.s;
+    if (writeUnformatted(value)) {
+        return;
+    }
     s.CurrentProc = "DspFmat";
     if (value.isTagged()) {
         if (baseLayout(value.textView()) != nullptr) {
@@ -139,25 +142,24 @@ void NumberDisplay::DspFmat(ValueCell value) {
         s.Xreg = s.StackPtr <= 1 ? ValueCell::zero() : s.LastX;
         value = ValueCell{};
     }
-    if (!writeUnformatted(value)) {
-        SetUpDisplay(numDisplay(value));
-    }
+    SetUpDisplay(numDisplay(value));
 }
 
 // A plain number that needs one line is formatted when its line is looked at.
 bool NumberDisplay::writeUnformatted(const ValueCell& value) {
     EngineState& s = calc.s;
-    if (value.isText() || value.isEmpty() || s.ShowRawOnce || s.DmsDisplay || s.FnLabel.size() > Tape::kLongestLabel) {
+    const double* const number = value.asDouble();
+    if (number == nullptr || s.ShowRawOnce || s.DmsDisplay || s.FnLabel.size() > Tape::kLongestLabel) {
         return false;
     }
     const NumberLook look{.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar};
-    if (s.FnLabel.size() > 1 && mostCharacters(calc.number(value), look) >= kLongValue) {
+    if (s.FnLabel.size() > 1 && mostCharacters(*number, look) >= kLongValue) {
         return false;
     }
     if (!calc.dialogOpen) {
         calc.focusEntry();
     }
-    calc.tape.addNumber(look, s.FnLabel, value);
+    calc.tape.addNumber(look, s.FnLabel, *number);
     lineWritten();
     return true;
 }
@@ -190,8 +192,7 @@ std::string NumberDisplay::numDisplay(const ValueCell& value) {
     if (fixed && minutesAndSeconds) {
         return fixedNumber(number, s.DisplayDigits, s.DecimalChar, true);
     }
-    return shownNumber(number, {.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar},
-                       s.FnLabel.size());
+    return shownNumber(number, {.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar}, s.FnLabel.size());
 }
 
 std::string NumberDisplay::shownNumber(double number, const NumberLook& look, std::size_t labelSize) {
@@ -309,7 +310,6 @@ void NumberDisplay::lineWritten() {
 }
 
 void NumberDisplay::DisplayChg() {
-    calc.s.CurrentProc = "DisplayChg";
     if (!calc.tape.dropFiller()) {
         calc.form.lstDisplayReg.place.width = kWideTape;
     }

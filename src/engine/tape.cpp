@@ -7,50 +7,79 @@
 
 namespace tallyforge {
 
+namespace {
+
+constexpr int kDigitsShift = 2;
+constexpr int kCommaShift = 6;
+
+std::uint8_t packed(const NumberLook& look) {
+    return static_cast<std::uint8_t>(static_cast<int>(look.mode) | look.digits << kDigitsShift |
+                                     (look.decimal == ',' ? 1 : 0) << kCommaShift);
+}
+
+NumberLook unpacked(std::uint8_t look) {
+    return {.mode = static_cast<DisplayMode>(look & 3),
+            .digits = look >> kDigitsShift & 15,
+            .decimal = (look >> kCommaShift & 1) != 0 ? ',' : '.'};
+}
+
+}  // namespace
+
 void Tape::clear(int rows) {
-    rows_.clear();
+    blocks_.clear();
+    texts_.clear();
     longTexts_.clear();
+    added_ = 0;
     dropped_ = 0;
     for (int i = 0; i < rows; ++i) {
         add({}, ValueCell{});
     }
     fillers_ = rows;
-    selected_ = rows_.size();
+    selected_ = count();
     ++revision_;
+}
+
+Tape::Row& Tape::append() {
+    if (added_ == blocks_.size() * kBlock) {
+        // Not filled with zeros: each row is written before it is read.
+        blocks_.push_back(std::make_unique_for_overwrite<std::array<Row, kBlock>>());
+    }
+    ++added_;
+    selected_ = count() - 1;
+    ++revision_;
+    return at(added_ - 1);
+}
+
+void Tape::putText(Row& row, std::string_view text, const ValueCell& value) {
+    const std::size_t place = texts_.size();
+    row.number = static_cast<double>(place);
+    row.look = kText;
+    Text& line = texts_.emplace_back();
+    if (text.size() <= kTapeWidth) {
+        std::copy(text.begin(), text.end(), line.text.begin());
+        line.length = static_cast<std::uint8_t>(text.size());
+    } else {
+        line.length = kLong;
+        longTexts_.emplace(place, text);
+    }
+    line.value = value;
 }
 
 void Tape::add(std::string_view text, const ValueCell& value) {
-    Row& row = rows_.emplace_back();
-    if (text.size() <= kTapeWidth) {
-        std::copy(text.begin(), text.end(), row.text.begin());
-        row.length = static_cast<std::uint8_t>(text.size());
-    } else {
-        row.length = kLong;
-        longTexts_.emplace(dropped_ + rows_.size() - 1, text);
-    }
-    row.value = value;
-    selected_ = rows_.size() - 1;
-    ++revision_;
+    putText(append(), text, value);
 }
 
-void Tape::addNumber(const NumberLook& look, std::string_view label, const ValueCell& value) {
-    Row& row = rows_.emplace_back();
-    row.length = kNumber;
-    row.text[0] = static_cast<char>(look.mode);
-    row.text[1] = static_cast<char>(look.digits);
-    row.text[2] = look.decimal;
-    row.text[3] = static_cast<char>(label.size());
-    std::copy(label.begin(), label.end(), row.text.begin() + 4);
-    row.value = value;
-    selected_ = rows_.size() - 1;
-    ++revision_;
+void Tape::addNumber(const NumberLook& look, std::string_view label, double value) {
+    Row& row = append();
+    row.number = value;
+    row.look = packed(look);
+    row.labelLength = static_cast<std::uint8_t>(label.size());
+    std::copy(label.begin(), label.end(), row.label.begin());
 }
 
 std::string Tape::numberText(const Row& row) {
-    const NumberLook look{
-        .mode = static_cast<DisplayMode>(row.text[0]), .digits = row.text[1], .decimal = row.text[2]};
-    const std::string_view label{row.text.data() + 4, static_cast<std::size_t>(row.text[3])};
-    return NumberDisplay::labelled(label, NumberDisplay::shownNumber(row.value.number(look.decimal), look, label.size()));
+    const std::string_view label{row.label.data(), row.labelLength};
+    return NumberDisplay::labelled(label, NumberDisplay::shownNumber(row.number, unpacked(row.look), label.size()));
 }
 
 bool Tape::dropFiller() {
@@ -58,8 +87,6 @@ bool Tape::dropFiller() {
         return false;
     }
     --fillers_;
-    rows_.pop_front();
-    longTexts_.erase(dropped_);
     ++dropped_;
     selected_ = std::max<std::size_t>(selected_, 1) - 1;
     ++revision_;
@@ -67,41 +94,41 @@ bool Tape::dropFiller() {
 }
 
 ValueCell Tape::value(std::size_t index) const {
-    return index < rows_.size() ? rows_[index].value : ValueCell{};
+    if (index >= count()) {
+        return {};
+    }
+    const Row& row = at(dropped_ + index);
+    return row.look == kText ? textOf(row).value : ValueCell{row.number};
 }
 
 void Tape::setValue(std::size_t index, const ValueCell& value) {
-    if (index >= rows_.size()) {
+    if (index >= count()) {
         return;
     }
-    Row& row = rows_[index];
-    if (row.length == kNumber) {
+    Row& row = at(dropped_ + index);
+    if (row.look == kText) {
+        textOf(row).value = value;
+    } else {
         // The line goes on reading as the number that it was written for.
-        const std::string text = numberText(row);
-        row.length = text.size() <= kTapeWidth ? static_cast<std::uint8_t>(text.size()) : kLong;
-        if (row.length == kLong) {
-            longTexts_.emplace(dropped_ + index, text);
-        } else {
-            std::copy(text.begin(), text.end(), row.text.begin());
-        }
+        putText(row, numberText(row), value);
     }
-    row.value = value;
 }
 
 std::string Tape::row(std::size_t index) const {
-    if (index >= rows_.size()) {
+    if (index >= count()) {
         return {};
     }
-    const Row& row = rows_[index];
-    if (row.length == kLong) {
-        const auto found = longTexts_.find(dropped_ + index);
-        return found == longTexts_.end() ? std::string{} : found->second;
+    const Row& row = at(dropped_ + index);
+    if (row.look != kText) {
+        return numberText(row);
     }
-    return row.length == kNumber ? numberText(row) : std::string(row.text.data(), row.length);
+    const Text& line = textOf(row);
+    return line.length == kLong ? longTexts_.at(static_cast<std::size_t>(row.number))
+                                : std::string(line.text.data(), line.length);
 }
 
 void Tape::select(std::size_t index) {
-    if (index < rows_.size()) {
+    if (index < count()) {
         selected_ = index;
         ++revision_;
     }

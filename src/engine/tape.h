@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The running tape: the lines as shown and the exact value behind each. A line is fixed-width
-// text, kept inline, and lines live in blocks, so that appending the millionth costs what the
-// first did and a line takes less than 96 bytes.
+// The running tape: the lines as shown and the exact value behind each. Lines live in blocks, so
+// that appending the millionth costs what the first did. A plain number takes 16 bytes and is
+// formatted when it is looked at; any other line is fixed-width text, kept inline, below 96 bytes.
 #pragma once
 
 #include "engine/engine_state.h"
@@ -12,9 +12,11 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace tallyforge {
 
@@ -38,10 +40,10 @@ public:
     void add(std::string_view text, const ValueCell& value);
 
     /// Longest label that addNumber takes.
-    static constexpr std::size_t kLongestLabel = kTapeWidth - 4;
-    /// Appends the line of a number, one that is not a text, with its label, and selects it. The
-    /// line is formatted when someone looks at it, and reads as it would have been written now.
-    void addNumber(const NumberLook& look, std::string_view label, const ValueCell& value);
+    static constexpr std::size_t kLongestLabel = 6;
+    /// Appends the line of a number with its label, and selects it. The line is formatted when
+    /// someone looks at it, and reads as it would have been written now.
+    void addNumber(const NumberLook& look, std::string_view label, double value);
 
     /// Takes one filler line away; returns false where none is left.
     bool dropFiller();
@@ -49,7 +51,7 @@ public:
     /// Filler lines left at the head.
     [[nodiscard]] int fillers() const { return fillers_; }
     /// Lines that are no filler.
-    [[nodiscard]] std::size_t lines() const { return rows_.size() - static_cast<std::size_t>(fillers_); }
+    [[nodiscard]] std::size_t lines() const { return count() - static_cast<std::size_t>(fillers_); }
     /// Value behind row `index` (fillers count); Empty for a filler or an index beyond the end.
     [[nodiscard]] ValueCell value(std::size_t index) const;
     /// Puts another value behind row `index`.
@@ -57,27 +59,45 @@ public:
     /// For a retrieval: rows read from a file, the first `fillers` of them filler lines.
     void setFillers(int fillers) { fillers_ = fillers; }
 
-    [[nodiscard]] std::size_t count() const override { return rows_.size(); }
+    [[nodiscard]] std::size_t count() const override { return static_cast<std::size_t>(added_ - dropped_); }
     [[nodiscard]] std::string row(std::size_t index) const override;
     [[nodiscard]] std::size_t selected() const override { return selected_; }
     void select(std::size_t index) override;
     [[nodiscard]] std::uint64_t revision() const override { return revision_; }
 
 private:
+    /// A line. Most are plain numbers, which a program writes by the million.
     struct Row {
+        double number;             ///< or the place in texts_
+        std::uint8_t look;         ///< mode, digits and decimal character, packed, or kText
+        std::uint8_t labelLength;  ///< of a number
+        std::array<char, kLongestLabel> label;
+    };
+    /// What stands on a line that is no plain number.
+    struct Text {
         std::array<char, kTapeWidth> text;
-        std::uint8_t length;  ///< kLong: the text lies in longTexts_; kNumber: look and label lie in text
+        std::uint8_t length;  ///< kLong: the text lies in longTexts_
         ValueCell value;
     };
     static constexpr std::uint8_t kLong = 255;
-    static constexpr std::uint8_t kNumber = 254;
+    static constexpr std::uint8_t kText = 255;
+    static constexpr std::size_t kBlock = 4096;
 
+    Row& append();
+    [[nodiscard]] Row& at(std::uint64_t number) { return (*blocks_[number / kBlock])[number % kBlock]; }
+    [[nodiscard]] const Row& at(std::uint64_t number) const { return (*blocks_[number / kBlock])[number % kBlock]; }
+    [[nodiscard]] Text& textOf(const Row& row) { return texts_[static_cast<std::size_t>(row.number)]; }
+    [[nodiscard]] const Text& textOf(const Row& row) const { return texts_[static_cast<std::size_t>(row.number)]; }
+    void putText(Row& row, std::string_view text, const ValueCell& value);
     [[nodiscard]] static std::string numberText(const Row& row);
 
-    std::deque<Row> rows_;
-    /// Texts longer than a line, by the number that their row had when it was added.
-    std::unordered_map<std::uint64_t, std::string> longTexts_;
-    std::uint64_t dropped_ = 0;  ///< rows taken from the head so far
+    // Lines are numbered as they are added; those below dropped_ are gone.
+    std::vector<std::unique_ptr<std::array<Row, kBlock>>> blocks_;
+    std::uint64_t added_ = 0;
+    std::uint64_t dropped_ = 0;
+    std::deque<Text> texts_;
+    /// Texts longer than a line, by their place in texts_.
+    std::unordered_map<std::size_t, std::string> longTexts_;
     int fillers_ = 0;
     std::size_t selected_ = 0;
     std::uint64_t revision_ = 0;

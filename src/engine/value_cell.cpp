@@ -35,7 +35,7 @@ double ValueCell::number(char decimal) const {
     return tryNumber(decimal).value_or(0.0);
 }
 
-std::optional<double> ValueCell::tryNumber(char decimal) const {
+std::optional<double> ValueCell::readAny(char decimal) const {
     struct Reader {
         char decimal;
         std::optional<double> operator()(std::monostate /*empty*/) const { return 0.0; }

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 
 namespace tallyforge {
@@ -25,11 +26,37 @@ public:
     ValueCell(std::string_view value) : held_(std::string(value)) {}
     ValueCell(const char* value) : held_(std::string(value)) {}
     // NOLINTEND(google-explicit-constructor)
+    ValueCell(const ValueCell&) = default;
+    ValueCell(ValueCell&&) noexcept = default;
+    ~ValueCell() = default;
+    // Nearly all cells that a running program moves are doubles, so these go first.
+    ValueCell& operator=(const ValueCell& other) {
+        if (const double* number = other.asDouble()) {
+            held_ = *number;
+        } else {
+            held_ = other.held_;
+        }
+        return *this;
+    }
+    ValueCell& operator=(ValueCell&& other) noexcept {
+        if (const double* number = other.asDouble()) {
+            held_ = *number;
+        } else {
+            held_ = std::move(other.held_);
+        }
+        return *this;
+    }
+    ValueCell& operator=(double value) {
+        held_ = value;
+        return *this;
+    }
     /// The integer 0, as a cleared cell holds it.
     [[nodiscard]] static ValueCell zero() { return ValueCell{std::int16_t{0}}; }
 
     [[nodiscard]] bool isEmpty() const { return std::holds_alternative<std::monostate>(held_); }
     [[nodiscard]] bool isText() const { return std::holds_alternative<std::string>(held_); }
+    /// The held double; nullptr for anything else.
+    [[nodiscard]] const double* asDouble() const { return std::get_if<double>(&held_); }
     /// The held text; an empty view for anything but a text.
     [[nodiscard]] std::string_view textView() const {
         const auto* held = std::get_if<std::string>(&held_);
@@ -45,7 +72,10 @@ public:
     /// range of a double.
     [[nodiscard]] double number(char decimal) const;
     /// number() without the failures: empty where it would raise one.
-    [[nodiscard]] std::optional<double> tryNumber(char decimal) const;
+    [[nodiscard]] std::optional<double> tryNumber(char decimal) const {
+        const double* const number = asDouble();
+        return number != nullptr ? std::optional{*number} : readAny(decimal);
+    }
     /// The value as plain text: a text as it stands, "" for Empty, "True" or "False", a number
     /// with up to 15 significant digits ("1.5", "-3", "1E+20") and the locale's `decimal`.
     [[nodiscard]] std::string text(char decimal) const;
@@ -53,6 +83,8 @@ public:
     friend bool operator==(const ValueCell&, const ValueCell&) = default;
 
 private:
+    [[nodiscard]] std::optional<double> readAny(char decimal) const;
+
     std::variant<std::monostate, std::int16_t, float, double, bool, std::string> held_;
 };
 

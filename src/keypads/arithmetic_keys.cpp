@@ -50,7 +50,10 @@ double apply(int index, double left, double right) {
 
 void ArithmeticKeys::cmdMath_Click(int index) {
     EngineState& s = calc.s;
-    calc.commit.FetchX();
+    if (!calc.commit.FetchX()) {
+        calc.ClearOptKeys();
+        return;
+    }
     s.CurrentProc = "cmdMath";
     s.LastX = s.Xreg;
     const Operands operands = choose(index);

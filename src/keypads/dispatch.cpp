@@ -62,8 +62,11 @@ void Dispatch::press(const KeyRow& key) {
     nameProcedure();
     const auto whenFailed = [&](const Failure& failure) { onFailure(failure, key.key); };
     goOn(whenFailed, [&] {
-        bringXUpToDate(key);
-        key.does(subjects);
+        if (bringXUpToDate(key)) {
+            key.does(subjects);
+        } else {
+            s.KeepX = std::exchange(s.Xreg, kNothingDone);
+        }
     });
     leaveKey();
     s.EntryTouched = false;
@@ -98,17 +101,22 @@ void Dispatch::typeWith(const KeyRow& key) {
     calc.focusEntry();
 }
 
-void Dispatch::bringXUpToDate(const KeyRow& key) {
+// Returns whether there is an operand to work on.
+bool Dispatch::bringXUpToDate(const KeyRow& key) {
     EngineState& s = calc.s;
     s.SkipCommitTail = key.silentOperand && s.EntryOpen;
-    calc.commit.FetchX();
+    const bool fetched = calc.commit.FetchX();
     s.SkipCommitTail = false;
+    if (!fetched) {
+        return false;
+    }
     if (programRuns && programRuns()) {
         // The commit has put its own name there; messages of a program carry the program's.
         nameProcedure();
     }
     s.LastX = s.Xreg;
     s.Xnum = s.Xreg.isTagged() ? 0.0 : calc.xNumber();
+    return true;
 }
 
 void Dispatch::onFailure(const Failure& failure, int index) {

@@ -45,7 +45,7 @@ private:
     void passOver();
     void typeWith(const KeyRow& key);
     void nameProcedure();
-    void bringXUpToDate(const KeyRow& key);
+    bool bringXUpToDate(const KeyRow& key);
     void onFailure(const Failure& failure, int index);
     void showMessage(FailureNumber number, int index);
     void leaveKey();
