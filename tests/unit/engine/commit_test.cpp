@@ -106,7 +106,7 @@ TEST_F(Commit_, ABaseNumberWithoutLetterAndHexDigitIsTakenBack) {
 }
 
 TEST_F(Commit_, AFunctionOnAnEmptyStackLeavesItEmpty) {
-    calc.commit.FetchX();
+    EXPECT_TRUE(calc.commit.FetchX());
     EXPECT_EQ(x(), "0");
     EXPECT_EQ(calc.s.StackPtr, 1);
     calc.s.Xreg = 1.0;

@@ -89,7 +89,7 @@ protected:
     }
     /// A function's result: replaces the top under `label`.
     void replaceTop(ValueCell value, std::string_view label) {
-        calc.commit.FetchX();
+        EXPECT_TRUE(calc.commit.FetchX());
         calc.s.LastX = calc.s.Xreg;
         calc.s.Xreg = std::move(value);
         calc.s.FnLabel = label;

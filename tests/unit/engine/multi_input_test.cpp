@@ -39,7 +39,7 @@ protected:
         type(typed);
         calc.s.ModifierMask = mask;
         calc.s.SkipCommitTail = calc.s.EntryOpen;
-        calc.commit.FetchX();
+        EXPECT_TRUE(calc.commit.FetchX());
         calc.s.SkipCommitTail = false;
         calc.s.LastX = calc.s.Xreg;
         const MultiInput::Outcome outcome = input.press();
@@ -210,7 +210,7 @@ TEST_F(MultiInputTest, AFailedSolutionLeavesTheStackAndTheOtherInputs) {
     press(0, "100");
     type("100");
     calc.s.ModifierMask = kCtrl;
-    calc.commit.FetchX();
+    EXPECT_TRUE(calc.commit.FetchX());
     const int pointer = calc.s.StackPtr;
     EXPECT_THROW(key.press(), Failure) << "both alike: the other one is infinite";
     EXPECT_EQ(calc.s.StackPtr, pointer);

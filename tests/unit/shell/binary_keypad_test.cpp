@@ -280,5 +280,29 @@ TEST_F(BinaryKeypad, NoKeyOfItIsUnfinished) {
     }
 }
 
+TEST_F(BinaryKeypad, AnOperandWithoutItsLetterStopsTheFunctionAndLosesNothing) {
+    put("#31h");
+    const auto lines = tape();
+    const auto stays = [&] {
+        EXPECT_NE(lastBox().find("Binary indicator"), std::string::npos) << lastBox();
+        EXPECT_EQ(s().depth(), 1);
+        EXPECT_EQ(calc().text(s().slot(1)), "#31h");
+        EXPECT_EQ(x(), "#31h");
+        EXPECT_EQ(tape(), lines);
+        EXPECT_EQ(form().txtXreg.text, "");
+        platform.boxes.clear();
+    };
+    for (const char* operation : {"#7/", "#7*", "#7-", "#7+", "#7<"}) {
+        SCOPED_TRACE(operation);
+        type(operation);
+        stays();
+    }
+    for (const std::size_t key : {12U, 4U, 21U}) {
+        type("#7");
+        bank(key);
+        stays();
+    }
+}
+
 }  // namespace
 }  // namespace tallyforge
