@@ -72,6 +72,7 @@ int showWindow() {
     }
     qt::MainWindow window(form, calculator.engine().s.DecimalChar);
     platform.setWindow(&window);
+    platform.showChanges = [&window] { window.view().sync(); };
     window.present();
     window.show();
     return QApplication::exec();

@@ -62,7 +62,14 @@ QString optionKey(std::string_view key) {
 
 QtPlatform::QtPlatform() : generator_(std::random_device{}()) {}
 
+void QtPlatform::refresh() const {
+    if (showChanges) {
+        showChanges();
+    }
+}
+
 Answer QtPlatform::messageBox(const MessageBox& box) {
+    refresh();
     QMessageBox message(iconOf(box.kind), unicode(box.title), unicode(box.text), QMessageBox::NoButton, window_);
     message.setTextFormat(Qt::PlainText);
     switch (box.buttons) {
@@ -90,6 +97,7 @@ Answer QtPlatform::messageBox(const MessageBox& box) {
 }
 
 std::string QtPlatform::inputBox(const InputBox& box) {
+    refresh();
     bool accepted = false;
     const QString text = QInputDialog::getText(window_, unicode(box.title), unicode(box.prompt), QLineEdit::Normal,
                                                unicode(box.preset), &accepted);
@@ -207,6 +215,11 @@ double QtPlatform::random() {
 
 void QtPlatform::sleep(std::chrono::milliseconds time) {
     QThread::msleep(static_cast<unsigned long>(time.count()));
+}
+
+Interruption QtPlatform::breathe() {
+    refresh();
+    return runWatch_.letPass(window_);
 }
 
 }  // namespace tallyforge::qt

@@ -4,7 +4,9 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/qt/run_watch.h"
 
+#include <functional>
 #include <random>
 
 class QWidget;
@@ -17,6 +19,9 @@ public:
 
     /// Boxes and dialogs open over this window.
     void setWindow(QWidget* window) { window_ = window; }
+    /// Shows what has changed in the main form; called before a box opens and while a program runs,
+    /// when no handler ends that would show it.
+    std::function<void()> showChanges;
 
     Answer messageBox(const MessageBox& box) override;
     std::string inputBox(const InputBox& box) override;
@@ -37,9 +42,13 @@ public:
     [[nodiscard]] LocalTime now() const override;
     [[nodiscard]] double random() override;
     void sleep(std::chrono::milliseconds time) override;
+    Interruption breathe() override;
 
 private:
+    void refresh() const;
+
     QWidget* window_ = nullptr;
+    RunWatch runWatch_;
     std::mt19937_64 generator_;
 };
 
