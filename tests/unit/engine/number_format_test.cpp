@@ -5,7 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cfloat>
+#include <cmath>
+#include <ios>
+#include <random>
 
 namespace tallyforge {
 namespace {
@@ -90,6 +94,49 @@ struct Patterned {
     char decimal;
     const char* text;
 };
+
+double byText(double value) {
+    const auto read = tryReadNumber(plainText(value, '.'), '.');
+    return read.value_or(value);
+}
+
+TEST(FifteenDigits, AreThoseOfTheText) {
+    std::mt19937_64 bits{20261121};
+    for (int i = 0; i < 200000; ++i) {
+        double value = std::bit_cast<double>(bits());
+        if (i % 2 == 0) {
+            value = std::ldexp(1.0 + static_cast<double>(bits() >> 12U) * 0x1p-52, static_cast<int>(bits() % 160) - 40);
+        }
+        if (std::isfinite(value)) {
+            ASSERT_EQ(fifteenDigits(value), byText(value)) << std::hexfloat << value;
+        }
+    }
+}
+
+TEST(FifteenDigits, RoundHalvesAsTheTextDoes) {
+    for (int i = 1; i < 2000; ++i) {
+        for (const double scale : {1.0, 1e-3, 1e-9, 1e4}) {
+            const double value = (123456789012345.0 + i + 0.5) * scale;
+            ASSERT_EQ(fifteenDigits(value), byText(value)) << std::hexfloat << value;
+            ASSERT_EQ(fifteenDigits(-value), byText(-value));
+        }
+    }
+    EXPECT_EQ(fifteenDigits(999999999999999.5), byText(999999999999999.5));
+    EXPECT_EQ(fifteenDigits(0.99999999999999994), 1.0);
+}
+
+TEST(FifteenDigits, LeaveWholeNumbersAndWhatHasMadeTheTripAlone) {
+    EXPECT_EQ(fifteenDigits(999999999999999.0), 999999999999999.0);
+    EXPECT_EQ(fifteenDigits(-0.0), 0.0);
+    const double once = fifteenDigits(2.0 / 3.0);
+    EXPECT_NE(once, 2.0 / 3.0);
+    EXPECT_EQ(fifteenDigits(once), once);
+}
+
+TEST(FifteenDigits, OfTheLargestNumberDoNotReadBackSoItStays) {
+    EXPECT_EQ(fifteenDigits(DBL_MAX), DBL_MAX);
+    EXPECT_EQ(fifteenDigits(DBL_MIN), byText(DBL_MIN));
+}
 
 TEST(Patterns, PrintAsTheyAreWritten) {
     constexpr Patterned kPatterned[] = {
