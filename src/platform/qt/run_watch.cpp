@@ -11,9 +11,14 @@ namespace tallyforge::qt {
 
 namespace {
 
-// The Break key is the Pause key with Ctrl, and some keyboards have one for Cancel.
+// The Break key is the Pause key with Ctrl, and some keyboards have one for Cancel. X11 and Wayland
+// have a key symbol of its own for the former, which Qt does not know.
 bool isBreak(const QKeyEvent& key) {
-    return key.modifiers().testFlag(Qt::ControlModifier) && (key.key() == Qt::Key_Pause || key.key() == Qt::Key_Cancel);
+    constexpr quint32 kBreakSymbol = 0xFF6B;
+    const bool named = key.key() == Qt::Key_Pause || key.key() == Qt::Key_Cancel;
+    const bool known = key.key() != 0 && key.key() != Qt::Key_unknown;
+    return key.modifiers().testFlag(Qt::ControlModifier) &&
+           (named || (!known && key.nativeVirtualKey() == kBreakSymbol));
 }
 
 }  // namespace
