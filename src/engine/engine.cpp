@@ -83,6 +83,10 @@ void Engine::focusEntry() {
 }
 
 void Engine::setEntry(std::string_view text) {
+    if (text.empty() && form.txtXreg.text.empty()) {
+        form.txtXreg.caret = 0;
+        return;
+    }
     form.txtXreg.text = text;
     form.txtXreg.caret = text.size();
 }

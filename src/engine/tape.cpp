@@ -39,10 +39,10 @@ void Tape::clear(int rows) {
     ++revision_;
 }
 
-Tape::Row& Tape::append() {
+Tape::Row Tape::append() {
     if (added_ == blocks_.size() * kBlock) {
         // Not filled with zeros: each row is written before it is read.
-        blocks_.push_back(std::make_unique_for_overwrite<std::array<Row, kBlock>>());
+        blocks_.push_back(std::make_unique_for_overwrite<Block>());
     }
     ++added_;
     selected_ = count() - 1;
@@ -50,7 +50,7 @@ Tape::Row& Tape::append() {
     return at(added_ - 1);
 }
 
-void Tape::putText(Row& row, std::string_view text, const ValueCell& value) {
+void Tape::putText(const Row& row, std::string_view text, const ValueCell& value) {
     const std::size_t place = texts_.size();
     row.number = static_cast<double>(place);
     row.look = kText;
@@ -70,15 +70,36 @@ void Tape::add(std::string_view text, const ValueCell& value) {
 }
 
 void Tape::addNumber(const NumberLook& look, std::string_view label, double value) {
-    Row& row = append();
+    const std::size_t place = placeOfLabel(label);
+    if (place == kLabels) {
+        add(NumberDisplay::labelled(label, NumberDisplay::shownNumber(value, look, label.size())), ValueCell{value});
+        return;
+    }
+    const Row row = append();
     row.number = value;
     row.look = packed(look);
-    row.labelLength = static_cast<std::uint8_t>(label.size());
-    std::copy(label.begin(), label.end(), row.label.begin());
+    row.label = static_cast<std::uint8_t>(place);
 }
 
-std::string Tape::numberText(const Row& row) {
-    const std::string_view label{row.label.data(), row.labelLength};
+std::size_t Tape::placeOfLabel(std::string_view label) {
+    if (label.empty()) {
+        return 0;
+    }
+    constexpr std::size_t kSpread = 37;
+    std::size_t place = label.size();
+    for (const char character : label) {
+        place = place * kSpread + static_cast<unsigned char>(character);
+    }
+    place = 1 + place % (kLabels - 1);
+    std::string& held = labels_[place];
+    if (held.empty()) {
+        held = label;
+    }
+    return held == label ? place : kLabels;
+}
+
+std::string Tape::numberText(const Row& row) const {
+    const std::string& label = labels_[row.label];
     return NumberDisplay::labelled(label, NumberDisplay::shownNumber(row.number, unpacked(row.look), label.size()));
 }
 
@@ -97,7 +118,7 @@ ValueCell Tape::value(std::size_t index) const {
     if (index >= count()) {
         return {};
     }
-    const Row& row = at(dropped_ + index);
+    const Row row = at(dropped_ + index);
     return row.look == kText ? textOf(row).value : ValueCell{row.number};
 }
 
@@ -105,7 +126,7 @@ void Tape::setValue(std::size_t index, const ValueCell& value) {
     if (index >= count()) {
         return;
     }
-    Row& row = at(dropped_ + index);
+    const Row row = at(dropped_ + index);
     if (row.look == kText) {
         textOf(row).value = value;
     } else {
@@ -118,7 +139,7 @@ std::string Tape::row(std::size_t index) const {
     if (index >= count()) {
         return {};
     }
-    const Row& row = at(dropped_ + index);
+    const Row row = at(dropped_ + index);
     if (row.look != kText) {
         return numberText(row);
     }

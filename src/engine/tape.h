@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The running tape: the lines as shown and the exact value behind each. Lines live in blocks, so
-// that appending the millionth costs what the first did. A plain number takes 16 bytes and is
+// that appending the millionth costs what the first did. A plain number takes 10 bytes and is
 // formatted when it is looked at; any other line is fixed-width text, kept inline, below 96 bytes.
 #pragma once
 
@@ -40,7 +40,7 @@ public:
     void add(std::string_view text, const ValueCell& value);
 
     /// Longest label that addNumber takes.
-    static constexpr std::size_t kLongestLabel = 6;
+    static constexpr std::size_t kLongestLabel = kTapeWidth - 4;
     /// Appends the line of a number with its label, and selects it. The line is formatted when
     /// someone looks at it, and reads as it would have been written now.
     void addNumber(const NumberLook& look, std::string_view label, double value);
@@ -66,13 +66,6 @@ public:
     [[nodiscard]] std::uint64_t revision() const override { return revision_; }
 
 private:
-    /// A line. Most are plain numbers, which a program writes by the million.
-    struct Row {
-        double number;             ///< or the place in texts_
-        std::uint8_t look;         ///< mode, digits and decimal character, packed, or kText
-        std::uint8_t labelLength;  ///< of a number
-        std::array<char, kLongestLabel> label;
-    };
     /// What stands on a line that is no plain number.
     struct Text {
         std::array<char, kTapeWidth> text;
@@ -82,17 +75,36 @@ private:
     static constexpr std::uint8_t kLong = 255;
     static constexpr std::uint8_t kText = 255;
     static constexpr std::size_t kBlock = 4096;
+    /// Lines side by side. Most are plain numbers, which a program writes by the million.
+    struct Block {
+        std::array<double, kBlock> number;       ///< or the place in texts_
+        std::array<std::uint8_t, kBlock> look;   ///< mode, digits and decimal character, packed, or kText
+        std::array<std::uint8_t, kBlock> label;  ///< of a number: place in labels_
+    };
+    /// One line of a block.
+    struct Row {
+        double& number;
+        std::uint8_t& look;
+        std::uint8_t& label;
+    };
+    static constexpr std::size_t kLabels = 256;
 
-    Row& append();
-    [[nodiscard]] Row& at(std::uint64_t number) { return (*blocks_[number / kBlock])[number % kBlock]; }
-    [[nodiscard]] const Row& at(std::uint64_t number) const { return (*blocks_[number / kBlock])[number % kBlock]; }
+    Row append();
+    [[nodiscard]] Row at(std::uint64_t number) const {
+        Block& block = *blocks_[number / kBlock];
+        const std::size_t place = number % kBlock;
+        return {block.number[place], block.look[place], block.label[place]};
+    }
+    /// Place of `label` in labels_; kLabels where another label has it.
+    [[nodiscard]] std::size_t placeOfLabel(std::string_view label);
     [[nodiscard]] Text& textOf(const Row& row) { return texts_[static_cast<std::size_t>(row.number)]; }
     [[nodiscard]] const Text& textOf(const Row& row) const { return texts_[static_cast<std::size_t>(row.number)]; }
-    void putText(Row& row, std::string_view text, const ValueCell& value);
-    [[nodiscard]] static std::string numberText(const Row& row);
+    void putText(const Row& row, std::string_view text, const ValueCell& value);
+    [[nodiscard]] std::string numberText(const Row& row) const;
 
     // Lines are numbered as they are added; those below dropped_ are gone.
-    std::vector<std::unique_ptr<std::array<Row, kBlock>>> blocks_;
+    std::vector<std::unique_ptr<Block>> blocks_;
+    std::array<std::string, kLabels> labels_;
     std::uint64_t added_ = 0;
     std::uint64_t dropped_ = 0;
     std::deque<Text> texts_;

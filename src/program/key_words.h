@@ -16,6 +16,8 @@ public:
     /// Presses the key of `word`. `registerNumber` is the register of "sto" and "rcl", and 1 for a
     /// "reset" that leaves Program mode.
     void DoProgramWord(const FunctionWord& word, int registerNumber);
+    /// Presses Drop.
+    void drop() { parts.stackKeys.cmdDown_Click(); }
     /// A key of a keypad that is not on display, with the mask that the caller has set.
     void PressProgramKey(Keypad keypad, int index);
 

@@ -37,7 +37,7 @@ const ProgramLine& ProgramRun::nextLine() {
 
 void ProgramRun::runLine(const ProgramLine& line) {
     Variables& variables = state.variables;
-    if (line.words.front().text == "name") {
+    if (line.isName) {
         executeWord(line.whole);
         return;
     }
@@ -47,8 +47,8 @@ void ProgramRun::runLine(const ProgramLine& line) {
     const bool several = line.words.size() > 2;
     if (several && variables.ProgramVarScan != kNoScan) {
         // Kept as it always was: from a load to the first line with "=" an expression keeps its result.
-        if (const int index = variables.find(line.words.front().text); index >= 0) {
-            executeAll(line.joined, 0, index);
+        if (line.variable >= 0) {
+            executeAll(line.joined, 0, line.variable);
             return;
         }
         variables.ProgramVarScan = kNoScan;
@@ -65,7 +65,7 @@ void ProgramRun::runLine(const ProgramLine& line) {
 
 // The line behind an "if" is told apart by its first word alone.
 void ProgramRun::runBehindIf(const ProgramLine& line) {
-    const bool named = state.variables.ProgramVarCount > 0 && state.variables.find(line.words.front().text) >= 0;
+    const bool named = state.variables.ProgramVarCount > 0 && line.variable >= 0;
     if (!named) {
         executeWord(line.whole);
     } else if (tokensOfIf_ > 2) {
@@ -74,11 +74,11 @@ void ProgramRun::runBehindIf(const ProgramLine& line) {
 }
 
 void ProgramRun::expressionOrAssignment(const ProgramLine& line) {
-    if (line.words.size() > 1 && line.words[1].text == "=") {
+    if (line.isAssignment) {
         assign(line);
         return;
     }
-    if (state.variables.find(line.words.front().text) < 0) {
+    if (line.variable < 0) {
         // Kept as it always was: the search for the name runs off its counter.
         throw ProgramFault(ProgramFaultNumber::Overflow);
     }
@@ -86,13 +86,12 @@ void ProgramRun::expressionOrAssignment(const ProgramLine& line) {
 }
 
 void ProgramRun::assign(const ProgramLine& line) {
-    const int index = state.variables.find(line.words.front().text);
-    if (index < 0 || line.words.size() < 3) {
+    if (line.variable < 0 || line.words.size() < 3) {
         state.variableMissing = true;
         throw ProgramFault(ProgramFaultNumber::VariableNotDeclared,
                            " Variable \"" + line.words.front().text + "\" not declared" + nearLine());
     }
-    executeAll(line.words, 2, index);
+    executeAll(line.words, 2, line.variable);
 }
 
 void ProgramRun::executeAll(const Words& words, std::size_t from, int storeTo) {
@@ -112,10 +111,10 @@ void ProgramRun::runIf(const ProgramLine& line) {
     const int here = position_;
     executeAll(line.test.left, 0);
     const double left = numberInX();
-    tools.keys.DoProgramWord(*findFunction("drop"), 0);
+    tools.keys.drop();
     executeAll(line.test.right, 0);
     const double right = numberInX();
-    tools.keys.DoProgramWord(*findFunction("drop"), 0);
+    tools.keys.drop();
     if (!comparisonHolds(left, line.test.op, right)) {
         const int endif = text->endifOf(here);
         if (endif == 0) {
@@ -165,7 +164,10 @@ void ProgramRun::pushNumber(double number) {
     calc.s.RoundTripCheck = true;
     calc.commit.enterStored(number);
     calc.s.RoundTripCheck = false;
-    roundTrip();
+    // A number of fifteen digits needs no trip; a copy of X that has more does.
+    if (const double* const x = calc.s.Xreg.asDouble(); x == nullptr || *x != number) {
+        roundTrip();
+    }
 }
 
 void ProgramRun::pushVariable(double value) {
@@ -173,7 +175,6 @@ void ProgramRun::pushVariable(double value) {
     calc.s.Xreg = value;
     calc.commit.cmdEnter_Click();
     calc.s.RoundTripCheck = false;
-    roundTrip();
 }
 
 // A number of a base stays one.

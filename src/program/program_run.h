@@ -72,6 +72,7 @@ private:
     void executeStatement(const ProgramWord& word);
     void pressFunction(const FunctionWord& word, int registerNumber = 0);
     void pushNumber(double number);
+    /// `value` has made the trip through its text when it was stored.
     void pushVariable(double value);
     void pushCopy(const ValueCell& cell);
     void roundTrip();

@@ -141,7 +141,13 @@ void ProgramRun::jump(const ProgramWord& word, bool returns) {
         }
         returns_.push_back({position_, lineNumber_});
     }
-    findLabel(from(word.text, 5));
+    constexpr std::string_view kInit = "init";
+    if (word.target > 0 && !word.text.ends_with(kInit)) {
+        position_ = word.target;
+        lineNumber_ = word.target;
+    } else {
+        findLabel(from(word.text, 5));
+    }
 }
 
 void ProgramRun::findLabel(const std::string& label) {

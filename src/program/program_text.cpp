@@ -284,11 +284,23 @@ const ProgramLine& ProgramText::prepared(int number, const Variables& variables)
     for (std::size_t at = 2; at < tokens.size();) {
         line.joined.push_back(joinedWord(tokens, at, variables));
     }
+    line.isAssignment = tokens.size() > 1 && tokens[1] == "=";
+    line.isName = !tokens.empty() && tokens.front() == "name";
+    line.variable = tokens.empty() ? -1 : variables.find(std::string(tokens.front()));
+    setTarget(line.whole);
+    std::for_each(line.words.begin(), line.words.end(), [this](ProgramWord& word) { setTarget(word); });
     line.isIf = line.text.starts_with("if");
     if (line.isIf) {
         line.test = testOf(tokens, variables);
     }
     return line;
+}
+
+void ProgramText::setTarget(ProgramWord& word) const {
+    constexpr std::size_t kLabelAt = 4;
+    if ((word.statement == Statement::Gsb || word.statement == Statement::Glb) && word.text.size() > kLabelAt) {
+        word.target = label(word.text.substr(kLabelAt)).value_or(0);
+    }
 }
 
 std::optional<int> ProgramText::label(const std::string& label) const {

@@ -32,6 +32,7 @@ struct ProgramWord {
     double number = 0.0;  ///< the literal, or the operand of sto, rcl and the flags
     int failure = 0;      ///< number of the failure that running it raises; 0 for none
     int index = -1;
+    int target = 0;  ///< of a jump: the line of its label, 0 where there is none
     const FunctionWord* function = nullptr;
 };
 
@@ -53,6 +54,9 @@ struct ProgramLine {
     std::vector<ProgramWord> joined;  ///< words from the third on, "rcl" and "sto" joined with the next
     ProgramTest test;                 ///< of an "if" line
     bool assigns = false;             ///< "=" stands among the words
+    bool isAssignment = false;        ///< "=" is the second word
+    bool isName = false;              ///< the first word is "name"
+    int variable = -1;                ///< index of the variable that the first word names
     bool isIf = false;
     int endifLine = 0;  ///< line of the "endif" of this "if", 0 while it is not known
 
@@ -87,6 +91,7 @@ public:
 
 private:
     void addLine(std::string_view line);
+    void setTarget(ProgramWord& word) const;
 
     std::vector<ProgramLine> lines_;
     std::unordered_map<std::string, int> labels_;
