@@ -1,11 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/program_folders.h"
 
+#include "program/program_text.h"
+
 namespace tallyforge {
 
 namespace {
 
 constexpr const char* kPrograms = "programs";
+
+/// The file whose name differs from `name` in capitals at most.
+std::optional<std::filesystem::path> sameLetters(const std::filesystem::path& folder, const std::string& name) {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        if (smallLetters(entry.path().filename().string()) == smallLetters(name) && entry.is_regular_file(error)) {
+            return entry.path();
+        }
+    }
+    return std::nullopt;
+}
 
 }  // namespace
 
@@ -17,7 +30,7 @@ std::filesystem::path tracesFolder(const Engine& calc) {
     return calc.AppDataDir / "Traces";
 }
 
-std::optional<std::filesystem::path> folderOfProgram(const Engine& calc, const std::string& name) {
+std::optional<std::filesystem::path> findProgram(const Engine& calc, const std::string& name) {
     if (name.empty()) {
         return std::nullopt;
     }
@@ -27,7 +40,12 @@ std::optional<std::filesystem::path> folderOfProgram(const Engine& calc, const s
     for (const std::filesystem::path& folder : folders) {
         std::error_code error;
         if (std::filesystem::is_regular_file(folder / name, error)) {
-            return folder;
+            return folder / name;
+        }
+    }
+    for (const std::filesystem::path& folder : folders) {
+        if (auto found = sameLetters(folder, name)) {
+            return found;
         }
     }
     return std::nullopt;

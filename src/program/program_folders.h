@@ -16,8 +16,9 @@ namespace tallyforge {
 [[nodiscard]] std::filesystem::path userPrograms(const Engine& calc);
 [[nodiscard]] std::filesystem::path tracesFolder(const Engine& calc);
 
-/// The first folder that holds the program `name`: the user's own, "programs" beside the
-/// executable, the installed one. None where no folder has it or the name is empty.
-[[nodiscard]] std::optional<std::filesystem::path> folderOfProgram(const Engine& calc, const std::string& name);
+/// The file of program `name` in the first folder that has it: the user's own, "programs" beside
+/// the executable, the installed one. Where none has exactly this name, capitals and small letters
+/// are the same. None for an empty name.
+[[nodiscard]] std::optional<std::filesystem::path> findProgram(const Engine& calc, const std::string& name);
 
 }  // namespace tallyforge

@@ -63,11 +63,11 @@ void Programs::mnuProgram_Click() {
         // Programs lie in their folders only, whatever was entered.
         name = withExtension(std::filesystem::path(answer).filename().string());
     }
-    auto folder = folderOfProgram(calc, name);
-    if (!folder) {
+    const auto file = findProgram(calc, name);
+    if (!file) {
         fail("File not found!");
-        name.clear();
     }
+    name = file ? file->filename().string() : "";
     if (!name.ends_with(kExtension)) {
         fail("Please rename your program with the \".rec\" extension.", "Illegal File Extension!");
         return calc.focusEntry();
@@ -77,7 +77,7 @@ void Programs::mnuProgram_Click() {
     }
     calc.s.DefaultProgram = name;
     loadingAtStart_ = atStart;
-    load(*folder, name);
+    load(file->parent_path(), name);
     loadingAtStart_ = false;
 }
 
@@ -109,8 +109,8 @@ void Programs::loadBuiltIn(const std::string& name) {
     if (running()) {
         return;
     }
-    if (const auto folder = folderOfProgram(calc, name)) {
-        load(*folder, name);
+    if (const auto file = findProgram(calc, name)) {
+        load(file->parent_path(), file->filename().string());
     } else {
         fail("File not found!");
     }

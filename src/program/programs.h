@@ -43,7 +43,6 @@ public:
     ProgramMode mode;
 
 private:
-    bool askForFile(std::string& name, std::string& folder);
     [[nodiscard]] bool agreed(const std::string& name);
     void rememberDefault(const std::string& name);
     void load(const std::filesystem::path& folder, const std::string& name);

@@ -130,6 +130,15 @@ TEST_F(Load, ANameWithAFolderIsTakenByItsLastPart) {
     EXPECT_EQ(programState().ProgramFile, "test.rec");
 }
 
+TEST_F(Load, CapitalsInANameDoNotMatterWhereNoFileHasExactlyIt) {
+    writeProgram("#\nlbl a\nend\n", "Loan.rec");
+    loadFile("loan");
+    EXPECT_EQ(programState().ProgramFile, "Loan.rec");
+    writeProgram("#\nlbl a\nend\n", "loan.rec");
+    loadFile("loan");
+    EXPECT_EQ(programState().ProgramFile, "loan.rec");
+}
+
 TEST_F(Load, ADeclarationNamesTheVariables) {
     loadProgram("free text\n# aa bb2 x 3d\nlbl init\nend\n");
     EXPECT_EQ(programState().variables.ProgramVarNames, (std::vector<std::string>{"xreg", "aa", "bb2", "x", "3d"}));
