@@ -14,8 +14,30 @@ namespace {
 
 constexpr double kQuarterTurn = kPi / 2.0;
 
+[[noreturn]] void noTriangle() {
+    throw Failure{FailureNumber::InvalidArgument};
+}
+
 double legFrom(double hypotenuse, double otherLeg) {
+    if (otherLeg >= hypotenuse) {
+        noTriangle();
+    }
     return rootOf((hypotenuse - otherLeg) * (hypotenuse + otherLeg));
+}
+
+// A right angle that was converted from degrees or grads is one to its last bits only.
+bool isAcute(double angle) {
+    constexpr double kLastDigits = 1e-14;
+    return angle > 0.0 && angle < kQuarterTurn - kLastDigits;
+}
+
+void checkGiven(std::uint8_t bits, const RightTriangle& given) {
+    const auto holds = [bits](std::uint8_t bit, bool right) { return (bits & bit) == 0 || right; };
+    if (!holds(kHypotenuse, given.hypotenuse > 0.0) || !holds(kAbscissa, given.x > 0.0) ||
+        !holds(kOrdinate, given.y > 0.0) || !holds(kAngleOppositeX, isAcute(given.oppositeX)) ||
+        !holds(kAngleOppositeY, isAcute(given.oppositeY))) {
+        noTriangle();
+    }
 }
 
 // The sides are all known: only the angles are missing.
@@ -64,10 +86,6 @@ Opposed opposed(const Triangle& t) {
         o.angle.at(afterNext(i)) = t.angles.at(i);
     }
     return o;
-}
-
-[[noreturn]] void noTriangle() {
-    throw Failure{FailureNumber::InvalidArgument};
 }
 
 Triangle finished(const Opposed& o) {
@@ -167,6 +185,7 @@ bool determinesRightTriangle(std::uint8_t bits) {
 }
 
 RightTriangle solveRightTriangle(std::uint8_t bits, RightTriangle given) {
+    checkGiven(bits, given);
     if ((bits & kAngleOppositeX) != 0) {
         return fromAngle(bits & ~kAngleOppositeX, given);
     }

@@ -30,8 +30,9 @@ struct RightTriangle {
 /// Whether two quantities with the sum `bits` determine the triangle; two angles do not.
 [[nodiscard]] bool determinesRightTriangle(std::uint8_t bits);
 
-/// The whole triangle from the two quantities of `given` that `bits` names. Raises 5 for a leg
-/// longer than the hypotenuse, 6, and 11 for an angle that has no triangle.
+/// The whole triangle from the two quantities of `given` that `bits` names. Raises 5 for a side
+/// that is not above 0, an angle that is not between 0 and a right one, and a leg that is not
+/// shorter than the hypotenuse; 6.
 [[nodiscard]] RightTriangle solveRightTriangle(std::uint8_t bits, RightTriangle given);
 
 /// Angle i lies between side i and side i + 1, so opposite to side i + 2, counted round from 0.

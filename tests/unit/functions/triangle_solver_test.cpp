@@ -171,12 +171,31 @@ TEST(TriangleSolver, ARightTriangleFollowsFromEveryTwoQuantities) {
     }
 }
 
-TEST(TriangleSolver, ALegLongerThanTheHypotenuseFails) {
-    try {
-        (void)solveRightTriangle(3, {.hypotenuse = 3, .x = 5});
-        FAIL();
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number(), FailureNumber::InvalidArgument);
+TEST(TriangleSolver, WhatIsNoRightTriangleFails) {
+    struct Row {
+        std::uint8_t bits;
+        RightTriangle given;
+    };
+    const double third = std::numbers::pi / 3.0;
+    const Row rows[] = {
+        {kHypotenuse | kAbscissa, {.hypotenuse = 3, .x = 5}},
+        {kHypotenuse | kAbscissa, {.hypotenuse = 3, .x = 3}},
+        {kHypotenuse | kOrdinate, {.hypotenuse = 3, .y = 5}},
+        {kHypotenuse | kAbscissa, {.hypotenuse = -5, .x = 3}},
+        {kAbscissa | kOrdinate, {.x = -3, .y = 4}},
+        {kHypotenuse | kAngleOppositeX, {.hypotenuse = 10, .oppositeX = 2 * third}},
+        {kHypotenuse | kAngleOppositeX, {.hypotenuse = 10, .oppositeX = -third}},
+        {kAbscissa | kAngleOppositeY, {.x = 3, .oppositeY = 2.5 * third}},
+        {kOrdinate | kAngleOppositeX, {.y = 3, .oppositeX = MathFunctions::DegToRad(90.0)}},
+        {kOrdinate | kAngleOppositeX, {.y = 3, .oppositeX = toRadians(100.0, AngleMode::Grads)}},
+    };
+    for (const Row& row : rows) {
+        try {
+            (void)solveRightTriangle(row.bits, row.given);
+            ADD_FAILURE() << int{row.bits};
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.number(), FailureNumber::InvalidArgument) << int{row.bits};
+        }
     }
 }
 
