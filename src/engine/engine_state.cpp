@@ -17,10 +17,9 @@ EngineState::EngineState() : Stack(3) {
     }
 }
 
-const ValueCell& EngineState::slot(int slot) const {
+const ValueCell& EngineState::noCell() {
     static const ValueCell kNothing;
-    return slot >= 0 && static_cast<std::size_t>(slot) < Stack.size() ? Stack[static_cast<std::size_t>(slot)]
-                                                                      : kNothing;
+    return kNothing;
 }
 
 int registerOfKey(int keyIndex) {

@@ -163,7 +163,13 @@ struct EngineState {
 
     [[nodiscard]] int depth() const { return StackPtr - 1; }
     /// Stack slot `slot`, or an Empty cell where there is none.
-    [[nodiscard]] const ValueCell& slot(int slot) const;
+    [[nodiscard]] const ValueCell& slot(int slot) const {
+        return slot >= 0 && static_cast<std::size_t>(slot) < Stack.size() ? Stack[static_cast<std::size_t>(slot)]
+                                                                          : noCell();
+    }
+
+private:
+    [[nodiscard]] static const ValueCell& noCell();
 };
 
 /// The register that a key of the bank stands for in memory array mode, 1 to 24.

@@ -124,11 +124,13 @@ std::string fixedNumber(double value, int digits, char decimal, bool minutesAndS
 
 }  // namespace
 
-void NumberDisplay::DspFmat(ValueCell value) {
+void NumberDisplay::DspFmat(const ValueCell& shown) {
     EngineState& s = calc.s;
-    if (writeUnformatted(value)) {
+    if (writeUnformatted(shown)) {
         return;
     }
+    // A copy: the value may be X, which changes here.
+    ValueCell value = shown;
     s.CurrentProc = "DspFmat";
     if (value.isTagged()) {
         if (baseLayout(value.textView()) != nullptr) {

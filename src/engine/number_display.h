@@ -22,7 +22,7 @@ public:
     /// Writes `value` to the tape. A number of a base without its letter gets "h" where it has a
     /// hex digit; without one FormatFault is set after a message. Raises 13 and 6 for a text that
     /// is no number.
-    void DspFmat(ValueCell value);
+    void DspFmat(const ValueCell& value);
 
     /// `value` in the user's format (mode, digits, room for FnLabel). Raises 13 and 6.
     [[nodiscard]] std::string numDisplay(const ValueCell& value);

@@ -57,7 +57,7 @@ void ArithmeticKeys::cmdMath_Click(int index) {
     s.CurrentProc = "cmdMath";
     s.LastX = s.Xreg;
     const Operands operands = choose(index);
-    const bool tagged = operands.left.isTagged() || operands.right.isTagged();
+    const bool tagged = operands.valid && (operands.left->isTagged() || operands.right->isTagged());
     if (!operands.valid || (tagged && bases == nullptr)) {
         abandon();
         return;
@@ -95,15 +95,15 @@ ArithmeticKeys::Operands ArithmeticKeys::choose(int index) {
     const ValueCell& x = s.Xreg;
     switch (s.ModifierMask) {
         case 0:
-            return {.valid = true, .left = s.slot(s.StackPtr - 2), .right = x};
+            return {.valid = true, .left = &s.slot(s.StackPtr - 2), .right = &x};
         case kCtrl:
             s.RegistersUsed = true;
-            return {.valid = true, .left = s.Registers.at(kArithmeticRegister), .right = x};
+            return {.valid = true, .left = &s.Registers.at(kArithmeticRegister), .right = &x};
         case kAlt: {
             s.RegistersUsed = true;
             const ValueCell& constant = s.Registers.at(kConstantRegister);
             const bool constantIsLeft = index == kMultiply || index == kAdd;
-            return {.valid = true, .left = constantIsLeft ? constant : x, .right = constantIsLeft ? x : constant};
+            return {.valid = true, .left = constantIsLeft ? &constant : &x, .right = constantIsLeft ? &x : &constant};
         }
         default:
             return {};
@@ -122,10 +122,10 @@ std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& 
             calc.errorBox(BoxKind::Stop, "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
         }
     };
-    const bool tagged = operands.left.isTagged() || operands.right.isTagged();
+    const bool tagged = operands.left->isTagged() || operands.right->isTagged();
     goOn(onFailure, [&] {
-        s.Xreg = tagged ? bases->compute(index, operands.left, operands.right)
-                        : ValueCell{apply(index, calc.number(operands.left), calc.number(operands.right))};
+        s.Xreg = tagged ? bases->compute(index, ValueCell(*operands.left), ValueCell(*operands.right))
+                        : ValueCell{apply(index, calc.number(*operands.left), calc.number(*operands.right))};
     });
     return failed;
 }

@@ -30,8 +30,8 @@ public:
 private:
     struct Operands {
         bool valid = false;  ///< false: the modifiers mean nothing here
-        ValueCell left{};
-        ValueCell right{};
+        const ValueCell* left = nullptr;
+        const ValueCell* right = nullptr;
     };
     [[nodiscard]] Operands choose(int index);
     /// Puts the result into X; returns the failure that left X as it was.
