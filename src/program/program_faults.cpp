@@ -29,7 +29,7 @@ std::string faultDescription(int number) {
 }
 
 std::string faultText(int number, const std::string& own, int line) {
-    const std::string head = "Error " + std::to_string(number);
+    std::string head = "Error " + std::to_string(number);
     const std::string place = " in program near line " + std::to_string(line);
     if (!own.empty()) {
         return head + own;
