@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/comparison.h"
 
-#include "engine/failure.h"
+#include "engine/checked_math.h"
 
 #include <cmath>
 
@@ -13,16 +13,9 @@ constexpr double kJustAboveOne = 1.0 + 1e-15;
 constexpr double kTolerance = 1.00000000000001;
 constexpr double kSameFrom = 1e14;
 
-double inRange(double value) {
-    if (!std::isfinite(value)) {
-        throw Failure{FailureNumber::Overflow};
-    }
-    return value;
-}
-
 /// How many times `left` is larger than its distance from `right`; infinite where there is none.
 double closeness(double left, double right) {
-    const double distance = inRange(left - inRange(kJustAboveOne * right));
+    const double distance = checked(left - checked(kJustAboveOne * right));
     return distance == 0.0 ? HUGE_VAL : std::abs(left / distance);
 }
 
@@ -45,10 +38,10 @@ bool comparisonHolds(double left, std::string_view op, double right) {
         return !(close >= kSameFrom && std::isfinite(close));
     }
     if (op == ">") {
-        return inRange(right * kTolerance) <= left;
+        return checked(right * kTolerance) <= left;
     }
     if (op == "<") {
-        return inRange(left * kTolerance) <= right;
+        return checked(left * kTolerance) <= right;
     }
     throw Failure{FailureNumber::Overflow};
 }
