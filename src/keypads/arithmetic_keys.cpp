@@ -2,10 +2,10 @@
 #include "keypads/arithmetic_keys.h"
 
 #include "bases/binary_keys.h"
+#include "engine/checked_math.h"
 #include "engine/engine.h"
 
 #include <array>
-#include <cmath>
 #include <string>
 
 namespace tallyforge {
@@ -22,28 +22,16 @@ constexpr int kArithmeticRegister = 1;
 constexpr int kConstantRegister = 2;
 
 double apply(int index, double left, double right) {
-    double result = 0.0;
     switch (index) {
         case kDivide:
-            if (right == 0.0) {
-                throw Failure{FailureNumber::DivisionByZero};
-            }
-            result = left / right;
-            break;
+            return quotient(left, right);
         case kMultiply:
-            result = left * right;
-            break;
+            return checked(left * right);
         case kSubtract:
-            result = left - right;
-            break;
+            return checked(left - right);
         default:
-            result = left + right;
-            break;
+            return checked(left + right);
     }
-    if (!std::isfinite(result)) {
-        throw Failure{FailureNumber::Overflow};
-    }
-    return result;
 }
 
 }  // namespace

@@ -209,13 +209,18 @@ void ProgramMode::traceKey() {
 
 void ProgramMode::listVariables() {
     calc.s.ModifierMask = 0;
+    for (int i = 0; i <= state.variables.ProgramVarCount; ++i) {
+        listVariable(i);
+    }
+}
+
+void ProgramMode::listVariable(int index) {
     const Variables& variables = state.variables;
-    for (std::size_t i = 0; i < variables.ProgramVarNames.size() && i < variables.ProgramVarValues.size(); ++i) {
-        if (variables.ProgramVarValues[i] != 0.0) {
-            calc.s.Xreg = variables.ProgramVarValues[i];
-            calc.s.FnLabel = " " + variables.ProgramVarNames[i] + "- ";
-            calc.commit.cmdEnter_Click();
-        }
+    const auto at = static_cast<std::size_t>(index);
+    if (at < variables.ProgramVarValues.size() && variables.ProgramVarValues[at] != 0.0) {
+        calc.s.Xreg = variables.ProgramVarValues[at];
+        calc.s.FnLabel = " " + variables.ProgramVarNames[at] + "- ";
+        calc.commit.cmdEnter_Click();
     }
 }
 

@@ -53,6 +53,8 @@ public:
 
     /// Runs a key that is no section. Returns whether `label` is one.
     bool specialKey(std::string_view label);
+    /// Puts the variable on the tape under its name, where it is not 0.
+    void listVariable(int index);
     /// Switches the trace; its key is painted in `colour` while it is on.
     void toggleTrace(KeyColour colour);
 

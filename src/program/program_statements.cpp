@@ -94,14 +94,8 @@ void ProgramRun::trac(const ProgramWord& word) {
 
 // Kept as it always was: the number of the line counts the variables, and stays changed.
 void ProgramRun::listVariables() {
-    const Variables& variables = state.variables;
-    for (lineNumber_ = 0; lineNumber_ <= variables.ProgramVarCount; ++lineNumber_) {
-        const auto at = static_cast<std::size_t>(lineNumber_);
-        if (at < variables.ProgramVarValues.size() && variables.ProgramVarValues[at] != 0.0) {
-            calc.s.Xreg = variables.ProgramVarValues[at];
-            calc.s.FnLabel = " " + variables.ProgramVarNames[at] + "- ";
-            calc.commit.cmdEnter_Click();
-        }
+    for (lineNumber_ = 0; lineNumber_ <= state.variables.ProgramVarCount; ++lineNumber_) {
+        tools.mode.listVariable(lineNumber_);
     }
 }
 

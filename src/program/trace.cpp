@@ -46,7 +46,8 @@ void Trace::write(int line, std::string_view word) {
     if (!std::exchange(state.TraceHeaderDone, true)) {
         file_ << '\n' << dateAndTime(calc.platform.now()) << '\n';
     }
-    file_ << ' ' << line << ' ' << word << printed(calc.s.Xreg, calc.s.DecimalChar) << '\n';
+    // Written out at once: a trace is read while its program waits, or after it was cut off.
+    file_ << ' ' << line << ' ' << word << printed(calc.s.Xreg, calc.s.DecimalChar) << std::endl;
     if (!file_) {
         throw Failure{FailureNumber::PathAccess};
     }
