@@ -162,15 +162,20 @@ std::uint64_t wholeOf(const ValueCell& value, char decimal) {
 }
 
 std::string cutToWord(std::string_view digits, char letter, int wordSize) {
-    try {
-        std::uint64_t value = readDigits(digits, letter);
-        if (wordSize < static_cast<int>(kWordBits)) {
-            value &= (std::uint64_t{1} << wordSize) - 1;
-        }
-        return writeDigits(value, letter);
-    } catch (const Failure&) {
+    const unsigned radix = radixOf(letter);
+    const auto leading = digits.find_first_not_of('0');
+    if (radix == 0 || digits.find_first_not_of(kDigits.substr(0, radix)) != digits.npos) {
         return std::string(digits);
     }
+    if (wordSize >= static_cast<int>(kWordBits)) {
+        return leading == digits.npos ? "0" : std::string(digits.substr(leading));
+    }
+    // What runs over the top of 64 bits lies above the word, too.
+    std::uint64_t value = 0;
+    for (const char digit : digits) {
+        value = value * radix + kDigits.find(digit);
+    }
+    return writeDigits(value & ((std::uint64_t{1} << wordSize) - 1), letter);
 }
 
 }  // namespace tallyforge

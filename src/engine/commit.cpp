@@ -64,6 +64,16 @@ void Commit::readEntry(ValueCell& savedLastX) {
                                  });
     if (!keepsExactValue) {
         s.Xreg = typed;
+        endExponent();
+    }
+}
+
+// An exponent that was left without digits is one of 0.
+void Commit::endExponent() {
+    EngineState& s = calc.s;
+    const std::string_view typed = s.Xreg.textView();
+    if (!typed.starts_with('#') && (typed.ends_with('e') || typed.ends_with('E'))) {
+        s.Xreg = std::string(typed.substr(0, typed.size() - 1)) + "e0";
     }
 }
 
@@ -99,10 +109,7 @@ void Commit::storeOnStack() {
     if (s.StackPtr != 0) {
         s.Yreg = s.Stack[static_cast<std::size_t>(s.StackPtr) - 1];
         if (!s.QuizMode) {
-            calc.form.cmdDown.enabled = true;
-            calc.form.cmdXchgY.enabled = true;
-            calc.form.cmdLastx.enabled = true;
-            calc.form.cmdSTO.enabled = true;
+            enableStackKeys();
         }
     } else {
         s.Yreg = ValueCell::zero();
@@ -110,8 +117,16 @@ void Commit::storeOnStack() {
         calc.form.cmdXchgY.enabled = false;
     }
     s.StackPtr += 1;
+    s.LowestStackPtr = std::min(s.LowestStackPtr, s.StackPtr);
     s.EntryOpen = false;
     s.EexActive = false;
+}
+
+void Commit::enableStackKeys() {
+    calc.form.cmdDown.enabled = true;
+    calc.form.cmdXchgY.enabled = true;
+    calc.form.cmdLastx.enabled = true;
+    calc.form.cmdSTO.enabled = true;
 }
 
 void Commit::showAndFinish(const ValueCell& savedLastX) {
@@ -139,30 +154,15 @@ void Commit::showAndFinish(const ValueCell& savedLastX) {
 }
 
 bool Commit::display() {
-    EngineState& s = calc.s;
-    try {
-        calc.display.DspFmat(s.Xreg);
-        return !s.FormatFault;
-    } catch (const Failure& failure) {
-        const std::string_view typed = s.Xreg.textView();
-        if (failure.number() != FailureNumber::TypeMismatch || (!typed.ends_with('e') && !typed.ends_with('E'))) {
-            onFailure(failure);
-            return false;
-        }
-    }
-    // An exponent was left without digits.
-    std::string mended{s.Xreg.textView()};
-    mended.back() = 'e';
-    mended += '0';
-    s.Xreg = std::move(mended);
-    s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = s.Xreg;
-    return goOn([&](const Failure& failure) { onFailure(failure); }, [&] { calc.display.DspFmat(s.Xreg); });
+    const auto report = [&](const Failure& failure) { onFailure(failure); };
+    return goOn(report, [&] { calc.display.DspFmat(calc.s.Xreg); }) && !calc.s.FormatFault;
 }
 
 void Commit::onFailure(const Failure& failure) {
     EngineState& s = calc.s;
     if (failure.number() == FailureNumber::Overflow) {
         calc.errorBox(BoxKind::Stop, kOutOfRange);
+        refused_ = true;
         s.Xreg = ValueCell::zero();
         s.StackPtr = std::max(s.StackPtr - 1, 1);
         s.Yreg = s.slot(s.StackPtr - 2);
@@ -215,8 +215,6 @@ bool Commit::FetchX() {
             s.Xreg = ValueCell::zero();
         }
         return true;
-    } else if (s.BaseMode) {
-        s.Xreg = calc.tape.value(calc.tape.selected());
     } else {
         s.Xreg = s.slot(s.StackPtr - 1);
     }

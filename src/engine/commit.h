@@ -54,6 +54,9 @@ public:
     /// short is taken as holding zeros, and StackPtr stays at least 1.
     void lowerStack(int operands);
 
+    /// Lets Drop, x<>y, last x and REG be pressed, as they may be once there is an element.
+    void enableStackKeys();
+
     /// Writes the last-x and y fields.
     void ShowSmallRegs();
 
@@ -62,6 +65,7 @@ private:
     void storeOnStack();
     void showAndFinish(const ValueCell& savedLastX);
     bool display();
+    void endExponent();
     void onFailure(const Failure& failure);
     [[nodiscard]] bool sameAfterRoundTrip(const ValueCell& left, std::string_view right) const;
 

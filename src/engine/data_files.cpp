@@ -32,6 +32,10 @@ std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_vi
                        "file is saved in the Oakhollow Application Data Folder. ",
              .preset = preset});
         auto path = inDataFolder(calc, entered);
+        if (path && path->filename() == SettingsFile::kName) {
+            calc.message(BoxKind::Stop, title, "The settings are kept under this name, please choose another one.");
+            continue;
+        }
         std::error_code ignored;
         if (!path || !std::filesystem::exists(*path, ignored) ||
             calc.question("File Exists!", path->filename().string() + " exists, do you want to overwrite it?")) {

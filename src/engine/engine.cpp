@@ -83,9 +83,15 @@ void Engine::focusEntry() {
 }
 
 void Engine::setEntry(std::string_view text) {
-    if (text.empty() && form.txtXreg.text.empty()) {
-        form.txtXreg.caret = 0;
-        return;
+    if (text.empty()) {
+        // What was begun in the line ends with it.
+        s.EexActive = false;
+        s.BaseTagDue = false;
+        s.BaseNumberDone = false;
+        if (form.txtXreg.text.empty()) {
+            form.txtXreg.caret = 0;
+            return;
+        }
     }
     form.txtXreg.text = text;
     form.txtXreg.caret = text.size();

@@ -73,6 +73,7 @@ struct EngineState {
     ValueCell LastY;
     std::vector<ValueCell> Stack;  ///< slot 0 lies under the stack; element 1 is the bottom
     int StackPtr = 1;              ///< next free slot; 1 is an empty stack
+    int LowestStackPtr = 1;        ///< lowest StackPtr after a commit since the last statistics entry
     ValueCell KeepX;               ///< what a key that did nothing leaves in X; Empty for nothing
     double Xnum = 0.0;             ///< working copy for functions that compute in doubles
     std::string FnLabel;           ///< label of the coming tape line

@@ -173,7 +173,10 @@ void EntryCommands::toBase() {
     if (!s.BaseMode) {
         return;
     }
-    s.EntryOpen = false;
+    calc.closeEmptyEntry();
+    if (!calc.commit.FetchX()) {
+        return;
+    }
     if (!s.Xreg.isTagged()) {
         s.ModifierMask = kShift;
     }
@@ -188,8 +191,10 @@ void EntryCommands::doubleOrHalve(int key) {
     }
     const bool doubles = key == '<';
     if (s.Xreg.isTagged()) {
-        s.BaseMode = true;
-        pressFunction(doubles ? kShiftLeft : kShiftRight);
+        // The shift is a key of the Binary keypad, lent to the keypad on show.
+        const bool base = std::exchange(s.BaseMode, true);
+        pressOn(Keypad::Binary, doubles ? kShiftLeft : kShiftRight, s.ModifierMask);
+        s.BaseMode = base;
         return;
     }
     s.CurrentProc = "txtXreg";

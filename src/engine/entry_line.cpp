@@ -14,8 +14,6 @@ namespace {
 
 constexpr int kBackTick = 96;
 
-constexpr std::size_t kLongestEntry = 22;
-
 bool isDigit(int key) {
     return key >= '0' && key <= '9';
 }
@@ -177,6 +175,10 @@ void EntryLine::txtXreg_KeyPress(int& keyAscii) {
     }
 }
 
+bool EntryLine::lineIsFull() const {
+    return calc.entryText().size() >= calc.form.txtXreg.maxLength;
+}
+
 bool EntryLine::passesDoneNumber(int key) const {
     return std::string_view{"*+-/<>ADMadm"}.find(static_cast<char>(key)) != std::string_view::npos && key > 0;
 }
@@ -236,7 +238,8 @@ int EntryLine::acceptBaseKey(int key) {
         s.BaseTagDue = true;
         return key;
     }
-    if ((key == 'b' || key == 'd' || key == 'h' || key == 'o') && std::exchange(s.BaseTagDue, false)) {
+    const bool letter = key == 'b' || key == 'd' || key == 'h' || key == 'o';
+    if (letter && !lineIsFull() && std::exchange(s.BaseTagDue, false)) {
         s.BaseLetter = static_cast<char>(key);
         if (calc.keypads().CheckBaseDigits()) {
             s.BaseNumberDone = true;
@@ -255,7 +258,7 @@ void EntryLine::typeBaseCharacter(char character) {
     calc.commit.BeginEntry();
     const bool digit = character >= 'A' && character <= 'F';
     const int accepted = digit ? (s.BaseTagDue ? character : 0) : acceptBaseKey(character);
-    if (accepted != 0 && calc.entryText().size() < kLongestEntry) {
+    if (accepted != 0 && !lineIsFull()) {
         calc.setEntry(calc.entryText() + static_cast<char>(accepted));
         s.EntryTouched = true;
     } else if (calc.entryText().empty()) {
@@ -264,7 +267,7 @@ void EntryLine::typeBaseCharacter(char character) {
 }
 
 int EntryLine::eex() {
-    if (std::exchange(calc.s.EexActive, true)) {
+    if (lineIsFull() || std::exchange(calc.s.EexActive, true)) {
         return 0;
     }
     if (calc.entryText().empty()) {
@@ -283,6 +286,12 @@ void EntryLine::txtXreg_KeyUp(KeyEvent event) {
     }
     s.ModifierMask = 0;
     if (s.QuizMode) {
+        return;
+    }
+    if (event.shift != 0 && std::exchange(s.SkipModifierRelease, false)) {
+        // The key that came up has shown a keypad: plain, until the next key goes down.
+        s.ModifierMask = event.shift;
+        calc.LightModifiers(event.shift);
         return;
     }
     if (event.shift != 0) {
@@ -305,7 +314,7 @@ void EntryLine::cmdNumPad_Click(int index) {
     calc.commit.BeginEntry();
     const char character = index == kDecimalKey ? s.DecimalChar : static_cast<char>('0' + index);
     const bool secondPoint = index == kDecimalKey && calc.entryText().find(s.DecimalChar) != std::string::npos;
-    if (!secondPoint && !s.BaseNumberDone && calc.entryText().size() < kLongestEntry) {
+    if (!secondPoint && !s.BaseNumberDone && !lineIsFull()) {
         calc.setEntry(calc.entryText() + character);
         s.EntryTouched = true;
         s.DigitTyped = true;
@@ -347,7 +356,8 @@ void EntryLine::cmdF11_Click() {
 }
 
 void EntryLine::cmdF12_Click() {
-    if (calc.s.ModifierMask == kShift) {
+    // Shift held for the click performs the Convert function; a latched one waits for its key.
+    if (calc.s.ModifierMask == kShift && !calc.s.ModifierLatched) {
         calc.s.ModifierMask = 0;
         calc.keypads().PerformConvertFn();
     } else if (calc.s.ModifierMask == 0) {

@@ -47,6 +47,7 @@ private:
     void dropLastCharacter();
     void clearEntryFlags();
 
+    [[nodiscard]] bool lineIsFull() const;
     [[nodiscard]] bool passesDoneNumber(int key) const;
     [[nodiscard]] int accept(int key);
     [[nodiscard]] int acceptLetter(int key);

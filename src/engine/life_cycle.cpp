@@ -18,6 +18,7 @@ namespace {
 constexpr int kOldestVersion = 8;
 constexpr int kCompactRows = 5;
 constexpr int kNoticeLimit = 7;
+constexpr std::string_view kTipsOption = "Show Tips at Startup";
 constexpr std::string_view kPlaceNotSaved = "Philosopher ";
 
 /// Keypads in the order of their option bits.
@@ -62,7 +63,7 @@ void LifeCycle::Form_Load() {
     if (!read || !calc.form.open) {
         return;
     }
-    const bool tips = calc.platform.readOption("Show Tips at Startup", true);
+    const bool tips = calc.platform.readOption(kTipsOption, true);
     calc.form.mnuTip.checked = tips && calc.keypads().ShowTips();
     if (onTopAtStart_) {
         mnuAOT_Click();
@@ -97,8 +98,11 @@ bool LifeCycle::findSettings() {
     calc.AppDataDir = calc.platform.dataFolder();
     settings.setPath(calc.AppDataDir / SettingsFile::kName);
     std::error_code error;
-    const bool firstStart =
-        !std::filesystem::exists(calc.AppDataDir, error) || std::filesystem::is_empty(calc.AppDataDir, error);
+    // A folder that holds the user's programs or tapes alone is no sign of an earlier start.
+    const bool startedBefore = calc.platform.hasOption(kTipsOption) &&
+                               std::filesystem::exists(calc.AppDataDir, error) &&
+                               !std::filesystem::is_empty(calc.AppDataDir, error);
+    const bool firstStart = !startedBefore && !std::filesystem::exists(settings.path(), error);
     const auto missing = [&](const Failure& /*failure*/) {
         endWith("Error loading program!",
                 "There is a missing or corrupt file! Remove and reinstall the software, or see the help on support.");
@@ -107,6 +111,7 @@ bool LifeCycle::findSettings() {
         if (firstStart) {
             std::filesystem::create_directories(calc.AppDataDir, error);
             settings.create();
+            calc.platform.writeOption(kTipsOption, true);
         }
         for (int number = 1; number <= SettingsFile::kRecords; ++number) {
             static_cast<void>(settings.read(number));
@@ -166,8 +171,8 @@ void LifeCycle::readView() {
     const SettingsRecord record = settings.read(2);
     s.TallForm = record.option(option_bit::kTall);
     int digits = 0;
-    // A word without a digits bit would leave 13 digits; twelve is the most that can be shown.
-    while (digits < kMaxDisplayDigits && !record.option(option_bit::kDigits + digits)) {
+    // A word without a digits bit, which this program never writes, gives one digit more than the key takes.
+    while (digits <= kMaxDisplayDigits && !record.option(option_bit::kDigits + digits)) {
         ++digits;
     }
     s.DisplayDigits = digits;
@@ -266,7 +271,7 @@ std::int32_t LifeCycle::optionWord() const {
 void LifeCycle::mnuSave_Click() {
     EngineState& s = calc.s;
     s.CurrentProc = "mnuSave";
-    calc.LightModifiers(0);
+    calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     if (calc.question("SAVE!", "Would you like to save your settings?")) {
         const int shown = std::exchange(s.DisplayDigits, s.SavedDigits);

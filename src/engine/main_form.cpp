@@ -56,7 +56,7 @@ void MainForm::dressLists() {
     put(lblBank, "lblBank",
         {.kind = ControlKind::Label, .text = "Bank             Stack", .spoken = "Keypad", .font = kCaption});
     put(lblLists, "lblLists",
-        {.kind = ControlKind::Label, .text = "Bank   Stack", .spoken = "Stack heading", .font = kCaption});
+        {.kind = ControlKind::Label, .text = "Bank             Stack", .spoken = "Stack heading", .font = kCaption});
     put(lblCnvrt, "lblCnvrt", {.kind = ControlKind::Label, .spoken = "Conversion hint", .visible = false});
     put(lstDisplayReg, "lstDisplayReg",
         {.kind = ControlKind::List, .tip = " Running Tape Display ", .spoken = "Running tape", .font = kNumbers});

@@ -69,6 +69,10 @@ void MemoryRegisters::cmdSTO_Click() {
 
 void MemoryRegisters::byName() {
     EngineState& s = calc.s;
+    if (s.ModifierMask > kShift) {
+        // Only a recall and a store ask for a name.
+        return;
+    }
     const bool recalls = s.ModifierMask == 0;
     std::string answer = calc.platform.inputBox({.title = recalls ? "Recall Named Register" : "Save to Named Register",
                                                  .prompt = std::string(kNamePrompt),
@@ -98,7 +102,7 @@ int MemoryRegisters::registerNamed(std::string_view name) const {
 void MemoryRegisters::actOn(int number) {
     switch (calc.s.ModifierMask) {
         case 0:
-            recall(number);
+            recall(number, "rcl");
             break;
         case kShift:
         case kStoreByName:
@@ -121,12 +125,12 @@ void MemoryRegisters::actOn(int number) {
     }
 }
 
-void MemoryRegisters::recall(int number) {
+void MemoryRegisters::recall(int number, std::string_view label) {
     EngineState& s = calc.s;
     s.RegistersUsed = true;
     const ValueCell& held = s.Registers.at(static_cast<std::size_t>(number));
     s.Xreg = held.isEmpty() || held.isEmptyText() ? ValueCell{0.0} : held;
-    s.FnLabel = "rcl";
+    s.FnLabel = label;
     calc.form.setFocus(calc.form.cmdEnter);
     s.ValueInXreg = true;
     calc.setEntry(calc.text(s.Xreg));
@@ -177,9 +181,10 @@ void MemoryRegisters::RegisterKey(int index) {
             if (!calc.entryText().empty()) {
                 calc.commit.cmdEnter_Click();
             }
-            recall(number);
+            recall(number, "");
             break;
         default:
+            calc.commit.cmdEnter_Click();
             break;
     }
     calc.ClearOptKeys();
@@ -242,24 +247,23 @@ void MemoryRegisters::take(const std::array<RegisterLine, kBankKeys>& all) {
 }
 
 void MemoryRegisters::mnuSaveMem_Click() {
-    calc.LightModifiers(0);
+    calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     const auto path = askWhereToSave(calc, "Save Memory Registers", calc.s.MemoryFileName);
     if (!path) {
         return;
     }
-    if (askForDefaultName(calc, *path)) {
-        rememberFileName(calc, settings, DefaultName::Registers, *path);
-    }
     std::string text;
     for (const RegisterLine& line : lines()) {
         text += registerLine(line, calc.s.DecimalChar) + "\n";
     }
-    saveOrReport(calc, "mnuSaveMem_Click", *path, text);
+    if (saveOrReport(calc, "mnuSaveMem_Click", *path, text) && askForDefaultName(calc, *path)) {
+        rememberFileName(calc, settings, DefaultName::Registers, *path);
+    }
 }
 
 void MemoryRegisters::mnuRetMem_Click() {
-    calc.LightModifiers(0);
+    calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     const auto path = askWhatToRetrieve(calc, "Retrieve Memory Registers", calc.s.MemoryFileName);
     if (!path || !calc.question("Overwrite?", "This will overwrite your current memory registers, continue?")) {

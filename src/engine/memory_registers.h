@@ -40,7 +40,7 @@ public:
 private:
     void actOn(int number);
     void byName();
-    void recall(int number);
+    void recall(int number, std::string_view label);
     void nameRegister(int index);
     void storeFromEntryOrX(int number);
     void finish();

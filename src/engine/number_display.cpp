@@ -107,7 +107,32 @@ std::size_t mostCharacters(double number, const NumberLook& look) {
     return static_cast<std::size_t>(std::max(fixedForm, exponentForm));
 }
 
-std::string fixedNumber(double value, int digits, char decimal, bool minutesAndSeconds) {
+/// An h.mmss number as "h:mm ss.s". Rounded to tenths of a second, sixty seconds are a minute more,
+/// and sixty minutes an hour.
+std::string hoursText(double value, char decimal) {
+    constexpr int kDigits = 5;
+    constexpr int kTenthsOfMinute = 600;
+    constexpr int kMinutesOfHour = 60;
+    const std::string plain = fixedText(std::abs(value), kDigits);
+    const auto point = plain.find('.');
+    double whole = readNumber(plain.substr(0, point), '.');
+    const int places = std::stoi(plain.substr(point + 1));
+    int minutes = places / 1000;
+    int tenths = places % 1000;
+    if (tenths >= kTenthsOfMinute) {
+        tenths -= kTenthsOfMinute;
+        ++minutes;
+    }
+    if (minutes >= kMinutesOfHour) {
+        minutes -= kMinutesOfHour;
+        whole += 1.0;
+    }
+    const std::string sign{value < 0.0 ? "-" : ""};
+    return sign + groupWhole(fixedText(whole, 0), decimal) + ":" + formatPattern(minutes, "00", decimal) + " " +
+           formatPattern(tenths / 10.0, "00.0", decimal);
+}
+
+std::string fixedNumber(double value, int digits, char decimal) {
     const std::string plain = fixedText(value, digits);
     const std::string_view all{plain};
     const std::string sign{all.starts_with('-') ? "-" : ""};
@@ -115,10 +140,6 @@ std::string fixedNumber(double value, int digits, char decimal, bool minutesAndS
     const std::string_view whole = all.substr(sign.size(), point == all.npos ? all.npos : point - sign.size());
     const std::string_view fraction = point == all.npos ? std::string_view{} : all.substr(point + 1);
     const std::string head = sign + groupWhole(whole, decimal);
-    if (minutesAndSeconds) {
-        const double minutes = readNumber("0." + std::string(fraction) + "0", '.');
-        return head + ":" + formatPattern(minutes, "0.00 00.0", decimal).substr(2);
-    }
     return fraction.empty() ? head : head + decimal + groupFraction(fraction);
 }
 
@@ -192,7 +213,7 @@ std::string NumberDisplay::numDisplay(const ValueCell& value) {
     }
     const bool minutesAndSeconds = std::exchange(s.DmsDisplay, false);
     if (fixed && minutesAndSeconds) {
-        return fixedNumber(number, s.DisplayDigits, s.DecimalChar, true);
+        return hoursText(number, s.DecimalChar);
     }
     return shownNumber(number, {.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar}, s.FnLabel.size());
 }
@@ -201,7 +222,7 @@ std::string NumberDisplay::shownNumber(double number, const NumberLook& look, st
     const auto label = static_cast<int>(labelSize);
     const int trim = std::max(label - 6, 0);
     if (look.mode == DisplayMode::Fixed && !leavesFixed(number, look.digits)) {
-        return fixedNumber(number, look.digits, look.decimal, false);
+        return fixedNumber(number, look.digits, look.decimal);
     }
     int digits = look.digits;
     if (look.mode != DisplayMode::Engineering) {
@@ -361,7 +382,7 @@ void NumberDisplay::writeDigitsCaption() {
     Control& key = calc.form.cmdDigits;
     key.text =
         s.BaseMode ? "wrdsze(" + std::to_string(s.WordSize) + ")" : "Display(" + std::to_string(s.DisplayDigits) + ")";
-    key.tip = " Click: Change Display Digits | Rt. Click: Toggle Ht ";
+    key.tip = s.BaseMode ? " Change Word Size (4 - 64) " : " Click: Change Display Digits | Rt. Click: Toggle Ht ";
 }
 
 void NumberDisplay::optFix_Click(DisplayMode mode) {
@@ -377,7 +398,7 @@ void NumberDisplay::optFix_Click(DisplayMode mode) {
 void NumberDisplay::cmdDigits_Click() {
     EngineState& s = calc.s;
     if (s.ModifierMask != 0) {
-        s.ModifierMask = 0;
+        calc.ClearOptKeys();
         return;
     }
     s.CurrentProc = "cmdDigits_Click";
@@ -403,6 +424,7 @@ void NumberDisplay::cmdDigits_Click() {
     }
     // The number was used up as the key's operand.
     s.StackPtr -= 1;
+    s.LowestStackPtr = std::min(s.LowestStackPtr, s.StackPtr);
     if (s.depth() > 0) {
         s.Xreg = s.slot(s.StackPtr - 1);
         s.Yreg = s.slot(s.StackPtr - 2);

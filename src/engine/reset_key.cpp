@@ -17,12 +17,6 @@ void ResetKey::cmdReset_Click() {
         case 0:
             clear(TapeFileKind::StackAndTape);
             break;
-        case kShift:
-            // In Program mode Shift resets, too.
-            if (s.ProgramMode) {
-                clear(TapeFileKind::StackAndTape);
-            }
-            break;
         case kCtrl:
             clear(TapeFileKind::Registers);
             break;
@@ -34,6 +28,10 @@ void ResetKey::cmdReset_Click() {
             tapeKeys.mnuTape_Click();
             break;
         default:
+            // The other combinations reset in Program mode only.
+            if (s.ProgramMode) {
+                clear(TapeFileKind::StackAndTape);
+            }
             break;
     }
     calc.ClearOptKeys();

@@ -23,6 +23,9 @@ void StackKeys::takeTop() {
     if (s.depth() > 0) {
         s.Xreg = s.slot(s.StackPtr - 1);
         s.Yreg = s.slot(s.StackPtr - 2);
+        if (s.Yreg.isEmpty()) {
+            s.Yreg = ValueCell::zero();
+        }
     }
 }
 
@@ -36,6 +39,10 @@ void StackKeys::pushWithLabel(const char* label) {
 void StackKeys::cmdDown_Click() {
     EngineState& s = calc.s;
     if (modifierActive()) {
+        return;
+    }
+    // A number that is being typed is the one on top.
+    if (s.EntryOpen && !calc.commit.FetchX()) {
         return;
     }
     if (s.StackPtr < 2) {
@@ -54,8 +61,8 @@ void StackKeys::cmdXchgY_Click() {
     if (modifierActive()) {
         return;
     }
-    if (!calc.entryText().empty()) {
-        calc.commit.cmdEnter_Click();
+    if (s.EntryOpen && !calc.commit.FetchX()) {
+        return;
     }
     if (s.depth() == 0) {
         calc.focusEntry();
@@ -79,15 +86,21 @@ void StackKeys::cmdLastx_Click() {
         return;
     }
     const bool typing = !calc.entryText().empty();
+    const bool exponent = s.EexActive;
+    const bool tagDue = s.BaseTagDue;
+    const bool tagged = s.BaseNumberDone;
     s.KeepEntryText = true;
     s.Xreg = s.LastX;
     pushWithLabel("Lastx");
-    // What was typed is still an open entry, so that the next digit goes on with it.
-    s.EntryOpen = typing;
-    s.EexActive = typing && calc.entryText().find('e') != std::string::npos;
     if (!typing) {
         calc.setEntry({});
+        return;
     }
+    // What was typed is still an open entry, so that the next digit goes on with it.
+    s.EntryOpen = true;
+    s.EexActive = exponent;
+    s.BaseTagDue = tagDue;
+    s.BaseNumberDone = tagged;
 }
 
 void StackKeys::cmdChs_Click() {
@@ -146,19 +159,21 @@ void StackKeys::changeSignOfEntry() {
             changed = typed.starts_with('-') ? typed.substr(1) : "-" + typed;
         }
         calc.setEntry(changed);
+        // The text of a large or small number has an exponent, which is then the one being typed.
+        calc.s.EexActive = changed.find('E') != std::string::npos;
     }
     calc.focusEntry();
 }
 
 void StackKeys::changeSignOfExponent() {
     const std::string typed = calc.entryText();
-    const auto at = typed.find('e');
+    const auto at = typed.find_first_of("eE");
     if (at != std::string::npos) {
         const std::string mantissa = typed.substr(0, at);
         std::string exponent = typed.substr(at + 1);
-        if (exponent.starts_with('-')) {
-            exponent.erase(0, 1);
-        } else {
+        const bool negative = exponent.starts_with('-');
+        exponent.erase(0, negative || exponent.starts_with('+') ? 1 : 0);
+        if (!negative) {
             exponent.insert(0, 1, '-');
         }
         calc.setEntry(mantissa + "e" + exponent);

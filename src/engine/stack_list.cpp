@@ -49,7 +49,8 @@ std::string StackList::row(std::size_t index) const {
     std::string line = std::to_string(number);
     if (cell.isTagged()) {
         const std::string_view text = cell.textView();
-        const int blanks = std::max(baseColumn(number) - static_cast<int>(text.size()), 1);
+        const int room = baseColumn(number) - static_cast<int>(text.size());
+        const int blanks = room < 0 ? 1 : room;
         return line.append(static_cast<std::size_t>(blanks), ' ').append(text);
     }
     if (cell.tryNumber(calc.s.DecimalChar)) {

@@ -128,7 +128,8 @@ std::vector<std::string_view> splitLines(std::string_view text) {
     while (!text.empty()) {
         const auto end = text.find('\n');
         std::string_view line = text.substr(0, end);
-        if (line.ends_with('\r')) {
+        // A file that was turned into "\r\n" more than once has several of them.
+        while (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
         lines.push_back(line);

@@ -49,7 +49,7 @@ struct TapeFileContent {
 /// Raises 54 for a line that is shorter than a name, or has no comma where a value may end.
 [[nodiscard]] RegisterLine parseRegisterLine(std::string_view line, char decimal);
 
-/// Lines of a text, with or without a line end at the last; "\r\n" counts as one line end.
+/// Lines of a text, with or without a line end at the last; every '\r' before one counts to it.
 [[nodiscard]] std::vector<std::string_view> splitLines(std::string_view text);
 
 [[nodiscard]] std::string formatTapeFile(const TapeFileContent& content, char decimal);

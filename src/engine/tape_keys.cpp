@@ -104,7 +104,7 @@ void TapeKeys::mnuSaveTape_Click() {
     } else {
         s.UndoKind = TapeFileKind::SavedByUser;
         calc.keypads().RepaintKeypad();
-        calc.LightModifiers(0);
+        calc.ClearOptKeys();
         if (const auto path = askWhereToSave(calc, "Save Running Tape", s.TapeFileName)) {
             if (askForDefaultName(calc, *path)) {
                 rememberFileName(calc, settings, DefaultName::Tape, *path);
@@ -116,7 +116,7 @@ void TapeKeys::mnuSaveTape_Click() {
 }
 
 std::optional<std::filesystem::path> TapeKeys::askForTape() {
-    calc.LightModifiers(0);
+    calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     const auto path = askWhatToRetrieve(calc, "Retrieve Running Tape", calc.s.TapeFileName);
     const bool agreed =
@@ -159,9 +159,10 @@ void TapeKeys::retrieve(const std::filesystem::path& path) {
 
 void TapeKeys::take(const TapeFileContent& content) {
     EngineState& s = calc.s;
-    s.LastX = content.LastX;
-    s.Yreg = content.Yreg.isEmptyText() ? ValueCell::zero() : content.Yreg;
-    s.Xreg = content.Xreg;
+    const auto orZero = [](const ValueCell& value) { return value.isEmptyText() ? ValueCell::zero() : value; };
+    s.LastX = orZero(content.LastX);
+    s.Yreg = orZero(content.Yreg);
+    s.Xreg = orZero(content.Xreg);
     s.StackPtr = content.StackPtr;
     s.Stack.resize(static_cast<std::size_t>(s.StackPtr) + 2);
     std::copy(content.stack.begin(), content.stack.end(), s.Stack.begin() + 1);

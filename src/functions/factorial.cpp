@@ -116,7 +116,13 @@ double MathFunctions::gammaOf(double x) {
 }
 
 void factorialGamma(Engine& calc) {
-    const auto onFailure = [&](const Failure& failure) { showFailure(calc, failure); };
+    const auto onFailure = [&](const Failure& failure) {
+        if (failure.number() == FailureNumber::TypeMismatch && calc.s.Xreg.isTagged()) {
+            // A number of a base stays where it is, as with every other function.
+            throw failure;
+        }
+        showFailure(calc, failure);
+    };
     goOn(onFailure, [&] {
         switch (calc.s.ModifierMask) {
             case 0:

@@ -45,7 +45,7 @@ void taxAndTotal(Engine& calc) {
 void changeRate(Engine& calc) {
     constexpr double kTooMuch = 100.0;
     const double wanted = roundHalfEven(calc.xNumber(), kMoneyDigits);
-    if (wanted >= kTooMuch) {
+    if (calc.xNumber() >= kTooMuch) {
         calc.message(BoxKind::Stop, "Error!", "Tax Rate must be less than 100!");
         calc.s.FnLabel = "Error!";
         return;

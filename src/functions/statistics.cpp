@@ -25,7 +25,7 @@ void Statistics::key() {
     if ((s.FunctionResetMask & kResetBit) != 0) {
         s.FunctionResetMask &= ~kResetBit;
         clear();
-        level_ = 0;
+        pressed_ = false;
     }
     const Sums& sums = Stats;
     switch (s.ModifierMask) {
@@ -55,17 +55,18 @@ void Statistics::key() {
         default:
             return enter(1.0);
     }
-    level_ = s.StackPtr + 1;
+    pressed_ = true;
+    s.LowestStackPtr = s.StackPtr + 1;
 }
 
 // Before the first press nobody knows what stood on the stack already: a typed number under X is
 // then one of a pair, the result of a function is not.
 bool Statistics::yIsPartOfEntry() const {
     const EngineState& s = calc.s;
-    if (level_ == 0) {
+    if (!pressed_) {
         return s.depth() >= 2 && cellBelow(calc, 1).isText();
     }
-    return s.StackPtr - level_ >= 2;
+    return s.StackPtr - s.LowestStackPtr >= 2;
 }
 
 void Statistics::enter(double sign) {
@@ -87,9 +88,12 @@ void Statistics::enter(double sign) {
         s.StackPtr = entrySlot_;
     }
     entrySlot_ = s.StackPtr;
-    level_ = s.StackPtr + 1;
+    pressed_ = true;
+    s.LowestStackPtr = s.StackPtr + 1;
     std::string label{sign > 0.0 ? "ä+("_t : "ä-("_t};
-    label += formatPattern(Stats.StatCount, "#,##0", s.DecimalChar) + ")";
+    label += NumberDisplay::shownNumber(Stats.StatCount,
+                                        {.mode = DisplayMode::Fixed, .digits = 0, .decimal = s.DecimalChar}, 0) +
+             ")";
     pushOnX(calc, {s.Xreg, label});
 }
 

@@ -39,8 +39,8 @@ private:
 
     Engine& calc;
     Sums Stats;
-    int level_ = 0;      ///< StackPtr after the last press; 0 before the first
-    int entrySlot_ = 0;  ///< where the last entry left its X; 0 for none
+    bool pressed_ = false;  ///< since the last reset
+    int entrySlot_ = 0;     ///< where the last entry left its X; 0 for none
 };
 
 }  // namespace tallyforge

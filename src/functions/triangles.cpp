@@ -150,16 +150,14 @@ void Triangles::solveGeneral(std::uint8_t last) {
     std::vector<Finding> findings;
     const auto add = [&](const tallyforge::Triangle& t, std::string_view mark) {
         for (std::size_t i = 0; i < 6; ++i) {
-            if ((given >> i & 1) == 0) {
-                const double value = i < 3 ? t.sides.at(i) : angleShown(t.angles.at(i - 3));
-                findings.push_back({.value = value, .label = std::string(kGeneralInputs[i].label) + std::string(mark)});
-            }
+            const double value = i < 3 ? t.sides.at(i) : angleShown(t.angles.at(i - 3));
+            findings.push_back({.value = value, .label = std::string(kGeneralInputs[i].label) + std::string(mark)});
         }
         findings.push_back({.value = t.area, .label = "Area" + std::string(mark)});
     };
     add(solutions.first, "");
     if (solutions.second) {
-        calc.message(BoxKind::Info, "--- IMPORTANT MESSAGE ---",
+        calc.message(BoxKind::Notice, "--- IMPORTANT MESSAGE ---",
                      "There are two solutions, this is the first, the second is followed by asterisks.");
         add(*solutions.second, "*");
     }

@@ -55,11 +55,15 @@ void ArithmeticKeys::cmdMath_Click(int index) {
     s.FnLabel += kOperators.at(static_cast<std::size_t>(index));
     const std::optional<FailureNumber> failed = compute(index, operands);
     if (tagged && failed && *failed != FailureNumber::DivisionByZero) {
-        // Numbers of a base that cannot be computed with stay where they are.
+        // Numbers of a base that cannot be computed with stay where they are, X as last x.
+        const ValueCell operand = s.LastX;
+        const bool emptiesX = *failed == FailureNumber::SubtrahendGreater && !intoRegister;
         abandon();
-        if (*failed == FailureNumber::SubtrahendGreater) {
+        s.LastX = operand;
+        if (emptiesX) {
             s.Xreg = "";
         }
+        calc.commit.ShowSmallRegs();
         return;
     }
     if (intoRegister) {

@@ -132,6 +132,11 @@ void Dispatch::onFailure(const Failure& failure, int index) {
         return;
     }
     showMessage(failure.number(), index);
+    if (failure.number() == FailureNumber::BaseRange) {
+        // More bits than a word has: the number stays for another try.
+        s.KeepX = std::exchange(s.Xreg, kNothingDone);
+        return;
+    }
     s.Xreg = ValueCell::zero();
     s.FnLabel = "No Data!";
 }
@@ -166,6 +171,7 @@ void Dispatch::leaveNothing(int index) {
     }
     const ValueCell kept = std::exchange(s.KeepX, ValueCell{});
     s.Xreg = kept.isEmpty() ? ValueCell{""} : kept;
+    calc.commit.ShowSmallRegs();
     calc.focusEntry();
 }
 
@@ -188,7 +194,10 @@ void Dispatch::cmdFunctions_MouseDown(int index, MouseButton button, std::uint8_
         return;
     }
     const KeyRow& key = row(index);
-    if (shift == 0 || calc.s.ProgramMode || calc.s.MemoryArrayMode) {
+    if (calc.s.ProgramMode || calc.s.MemoryArrayMode) {
+        constexpr int kModesTopic = 650;
+        calc.platform.helpTopic(kModesTopic);
+    } else if (shift == 0) {
         calc.platform.helpTopic(key.helpTopic);
     } else if (shift == kCtrl && key.choose != nullptr) {
         calc.ClearOptKeys();

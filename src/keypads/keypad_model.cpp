@@ -82,6 +82,8 @@ void KeypadModel::lay(Keypad keypad) {
 
 void KeypadModel::paintPlain() {
     const Keypad keypad = calc.s.ActiveKeypad;
+    constexpr int kSmallestByteWord = 9;
+    calc.display.enableByteKeys(keypad != Keypad::Binary || calc.s.WordSize >= kSmallestByteWord);
     for (const KeyRow& row : keypadTable(keypad).rows) {
         Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
         look(key, row.caption, row.tip, row.colour);
@@ -95,11 +97,8 @@ void KeypadModel::paintPlain() {
 void KeypadModel::enterBinary() {
     EngineState& s = calc.s;
     s.BaseMode = true;
-    constexpr int kSmallestByteWord = 9;
     calc.display.SaveDisplay(0);
-    calc.display.enableByteKeys(s.WordSize >= kSmallestByteWord);
     calc.display.writeDigitsCaption();
-    calc.form.cmdDigits.tip = " Change Word Size (4 - 64) ";
     calc.form.cmdChs.text = "Mod";
     calc.form.cmdChs.tip = " Recall last Remainder ";
 }
@@ -148,6 +147,7 @@ void KeypadModel::paint(std::uint8_t mask) {
 }
 
 void KeypadModel::paintRegisterNames() {
+    calc.display.enableByteKeys(true);
     for (std::size_t i = 0; i < calc.form.cmdFunctions.size(); ++i) {
         const KeyCaption caption{calc.s.RegisterNames.at(i), Face::SmallFonts, 7.0F};
         look(calc.form.cmdFunctions.at(i), caption, " Click: recall | Shift+: save | Ctrl+: name ", KeyColour::Plain);

@@ -28,7 +28,7 @@ constexpr std::array<BaseDigits, 4> kBaseDigits{{
     {'b', "01", "'b' is binary number\nOnes (1) and Zeros (0) Only!"},
     {'d', "0123456789", "'d' is decimal number\n(0 to 9) Only!"},
     {'o', "01234567", "'o' is octal number\n0 to 7 Only!"},
-    {'h', "0123456789ABCDEF", ""},
+    {'h', "0123456789ABCDEF", "'h' is hexadecimal number\n(0 to 9, A to F) Only!"},
 }};
 
 }  // namespace

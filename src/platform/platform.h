@@ -86,6 +86,8 @@ public:
 
     /// One boolean of the desktop's settings store, "Options" section.
     [[nodiscard]] virtual bool readOption(std::string_view key, bool preset) const = 0;
+    /// Whether the option was ever written.
+    [[nodiscard]] virtual bool hasOption(std::string_view key) const = 0;
     virtual void writeOption(std::string_view key, bool value) = 0;
 
     [[nodiscard]] virtual std::string clipboardText() const = 0;

@@ -210,6 +210,13 @@ void ProgramRun::roundTrip() {
 }
 
 void ProgramRun::restoreFormat() {
+    EngineState& s = calc.s;
+    if (s.BaseMode) {
+        // The run has brought the Binary keypad back, under which the format lies aside.
+        s.SavedMode = formatBefore_.value_or(s.SavedMode);
+        s.SavedDigits = digitsBefore_.value_or(s.SavedDigits);
+        return;
+    }
     if (formatBefore_) {
         calc.display.optFix_Click(*formatBefore_);
     }

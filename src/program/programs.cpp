@@ -153,6 +153,10 @@ void Programs::runSection(int index, const std::string& label) {
     }
     if (run) {
         run->restoreFormat();
+        if (calc.s.depth() > 0) {
+            // The keys' own commits leave them alone while a program presses.
+            calc.commit.enableStackKeys();
+        }
         if (!run->killed()) {
             mode.RefreshProgramKeyTips();
         }

@@ -76,10 +76,14 @@ TEST(Properties, TheFourInvariantsHoldAfterEveryCommit) {
         CalculatorAtHand hand;
         const Engine& calc = hand.calc();
         bool wroteBelowTheStack = false;
+        // A last x that there never was is an empty cell, and is brought back as that.
+        bool pushedNothing = false;
         for (const int key : someKeys()) {
             const std::size_t lines = calc.tape.lines();
             const std::size_t boxes = hand.platform.boxes.size();
             const int depth = hand.s().depth();
+            pushedNothing |=
+                kHandKeys.at(static_cast<std::size_t>(key)).keyCode == kKeyInsert && hand.s().LastX.isEmpty();
             play(hand, key);
             const EngineState& s = hand.s();
             RC_ASSERT(s.depth() >= 0);
@@ -96,7 +100,7 @@ TEST(Properties, TheFourInvariantsHoldAfterEveryCommit) {
             RC_ASSERT(calc.form.txtXreg.text.empty() == !s.EntryOpen);
             RC_ASSERT(wroteBelowTheStack || s.slot(0).isEmpty());
             for (int element = 1; element < s.StackPtr; ++element) {
-                RC_ASSERT(!s.slot(element).isEmpty());
+                RC_ASSERT(pushedNothing || !s.slot(element).isEmpty());
             }
         }
     }));

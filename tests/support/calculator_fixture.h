@@ -73,7 +73,9 @@ public:
     }
     /// Everything that a save and a retrieval must bring back, as text.
     [[nodiscard]] std::vector<std::string> everything() const {
-        std::vector<std::string> all{x(), calc().text(s().LastX), std::to_string(s().StackPtr)};
+        // An X or last x that there is none of comes back as 0.
+        const auto orZero = [this](const ValueCell& cell) { return cell.isEmpty() ? "0" : calc().text(cell); };
+        std::vector<std::string> all{orZero(s().Xreg), orZero(s().LastX), std::to_string(s().StackPtr)};
         for (int element = 1; element < s().StackPtr; ++element) {
             all.push_back(calc().text(s().slot(element)));
         }

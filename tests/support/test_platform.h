@@ -90,6 +90,7 @@ public:
         const auto found = options.find(key);
         return found == options.end() ? preset : found->second;
     }
+    bool hasOption(std::string_view key) const override { return options.contains(key); }
     void writeOption(std::string_view key, bool value) override { options[std::string(key)] = value; }
     std::string clipboardText() const override { return clipboard; }
     void setClipboardText(std::string_view text) override { clipboard = text; }

@@ -77,7 +77,7 @@ Lines registerLines(const Engine& calc) {
         line = joined(line, cellText(calc, cell));
         const std::string& shown = calc.form.txtReg_m.at(static_cast<std::size_t>(number) - 1).text;
         if (!shown.empty()) {
-            line.append(" [").append(shown).append("]");
+            line.append(" [").append(toUnicode(shown, Face::Arial)).append("]");
         }
         lines.push_back(std::move(line));
     }

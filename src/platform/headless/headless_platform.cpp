@@ -116,13 +116,21 @@ bool HeadlessPlatform::readOption(std::string_view key, bool preset) const {
     if (!options_.tips && key == "Show Tips at Startup") {
         return false;
     }
+    return storedOption(key).value_or(preset);
+}
+
+bool HeadlessPlatform::hasOption(std::string_view key) const {
+    return storedOption(key).has_value();
+}
+
+std::optional<bool> HeadlessPlatform::storedOption(std::string_view key) const {
     std::ifstream file(optionFile());
     for (std::string line; std::getline(file, line);) {
         if (line.starts_with(std::string(key) + "=")) {
             return line.ends_with("1");
         }
     }
-    return preset;
+    return std::nullopt;
 }
 
 void HeadlessPlatform::writeOption(std::string_view key, bool value) {

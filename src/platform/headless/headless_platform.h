@@ -56,6 +56,7 @@ public:
     [[nodiscard]] std::filesystem::path dataFolder() const override;
     [[nodiscard]] std::filesystem::path installedFolder() const override { return options_.home; }
     [[nodiscard]] bool readOption(std::string_view key, bool preset) const override;
+    [[nodiscard]] bool hasOption(std::string_view key) const override;
     void writeOption(std::string_view key, bool value) override;
     [[nodiscard]] std::string clipboardText() const override { return clipboard_; }
     void setClipboardText(std::string_view text) override { clipboard_ = text; }
@@ -70,6 +71,7 @@ public:
 
 private:
     [[nodiscard]] std::filesystem::path optionFile() const;
+    [[nodiscard]] std::optional<bool> storedOption(std::string_view key) const;
 
     HeadlessOptions options_;
     Print printLine_;

@@ -150,6 +150,10 @@ bool QtPlatform::readOption(std::string_view key, bool preset) const {
     return settings().value(optionKey(key), preset).toBool();
 }
 
+bool QtPlatform::hasOption(std::string_view key) const {
+    return settings().contains(optionKey(key));
+}
+
 void QtPlatform::writeOption(std::string_view key, bool value) {
     settings().setValue(optionKey(key), value);
 }

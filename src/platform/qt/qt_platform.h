@@ -31,6 +31,7 @@ public:
     [[nodiscard]] std::filesystem::path dataFolder() const override;
     [[nodiscard]] std::filesystem::path installedFolder() const override;
     [[nodiscard]] bool readOption(std::string_view key, bool preset) const override;
+    [[nodiscard]] bool hasOption(std::string_view key) const override;
     void writeOption(std::string_view key, bool value) override;
     [[nodiscard]] std::string clipboardText() const override;
     void setClipboardText(std::string_view text) override;

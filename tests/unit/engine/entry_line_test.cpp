@@ -256,8 +256,9 @@ TEST_F(Entry, ShiftsABaseNumberThroughItsKeys) {
     commitText("#101b");
     type("<");
     type(">");
-    EXPECT_EQ(keypads.pressed, (Pressed{"fn 7 keypad 0 mask 0 base", "fn 10 keypad 0 mask 0 base"}));
-    EXPECT_TRUE(calc.s.BaseMode);
+    EXPECT_EQ(keypads.pressed, (Pressed{"fn 7 keypad 10 mask 0 base", "fn 10 keypad 10 mask 0 base"}));
+    EXPECT_FALSE(calc.s.BaseMode) << "lent for the one key";
+    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
 }
 
 TEST_F(Entry, TheBackslashChangesTheSign) {

@@ -183,6 +183,44 @@ TEST_F(Words, ResetOneRunsInitAndLeavesTheMode) {
     EXPECT_EQ(variable("aa"), 3.0);
 }
 
+TEST_F(Words, WhatAProgramLeavesOnTheStackCanBeDropped) {
+    runSection("pi\npi");
+    EXPECT_TRUE(form().cmdDown.enabled);
+    EXPECT_TRUE(form().cmdXchgY.enabled);
+    EXPECT_TRUE(form().cmdLastx.enabled);
+    choose(form().cmdDown);
+    EXPECT_EQ(s().depth(), 1);
+}
+
+TEST_F(Words, EveryOtherModifierOfResetResetsInTheMode) {
+    for (const std::uint8_t mask : std::initializer_list<std::uint8_t>{1, 3, 5, 6}) {
+        SCOPED_TRACE(int{mask});
+        startAnew();
+        loadProgram("# aa\nlbl init\naa = 3\nend\nlbl a\naa = 4\n5\n6\nend\n");
+        run();
+        clickWith(mask, form().cmdReset);
+        EXPECT_FALSE(s().ProgramMode);
+        EXPECT_EQ(variable("aa"), 3.0);
+    }
+}
+
+TEST_F(Words, AFormatComesBackWhenTheRunEndsOnTheBinaryKeypad) {
+    for (const std::string word : {"kill", "reset 1"}) {
+        SCOPED_TRACE(word);
+        startAnew();
+        type("8");
+        choose(form().cmdDigits);
+        choose(form().mnuEngBinary);
+        loadProgram("# aa\nlbl init\nend\nlbl a\ndsp 4\nsci\n5\n" + word + "\nend\n");
+        run();
+        EXPECT_EQ(s().WordSize, 64);
+        choose(form().mnuStd);
+        EXPECT_EQ(s().Mode, DisplayMode::Fixed);
+        EXPECT_EQ(s().DisplayDigits, 8);
+        EXPECT_TRUE(platform.boxes.empty());
+    }
+}
+
 TEST_F(Words, ResetInsideInitRunsOnce) {
     for (const std::string word : {"reset", "reset 1", "aset"}) {
         SCOPED_TRACE(word);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Tape files, register files, Reset and its undo, with a whole calculator.
+#include "engine/settings_file.h"
 #include "support/calculator_fixture.h"
 
 #include <gtest/gtest.h>
@@ -194,6 +195,80 @@ TEST_F(Files, LineEndsOfOtherSystemsAreTaken) {
     choose(form().cmdReset);
     retrieve("dos.txt");
     EXPECT_EQ(everything(), before);
+}
+
+TEST_F(Files, LineEndsThatWereTurnedTwiceAreTaken) {
+    work();
+    save("t.txt");
+    std::string twice;
+    for (const char character : file("t.txt")) {
+        twice += character == '\n' ? std::string("\r\r\n") : std::string(1, character);
+    }
+    writeFile("twice.txt", twice);
+    const auto before = everything();
+    choose(form().cmdReset);
+    retrieve("twice.txt");
+    EXPECT_EQ(everything(), before);
+}
+
+TEST_F(Files, AnEmptyLineOfTheStateIsAZero) {
+    choose(form().cmdReset);
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(calc().text(s().LastX), "0");
+    EXPECT_EQ(form().txtLastx.text, "0.000e+00");
+}
+
+TEST_F(Files, TheNameOfTheSettingsIsRefusedAndAskedForAgain) {
+    enter("1");
+    const std::string settings = file(SettingsFile::kName);
+    platform.texts = {std::string(SettingsFile::kName), "t.txt"};
+    choose(form().mnuSaveTape);
+    EXPECT_EQ(platform.boxes.front().text, "The settings are kept under this name, please choose another one.");
+    EXPECT_EQ(file(SettingsFile::kName), settings);
+    EXPECT_FALSE(file("t.txt").empty());
+}
+
+TEST_F(Files, ARegisterFileThatIsNotWrittenIsNoDefault) {
+    std::filesystem::create_directories(platform.folder / "taken" / "inside");
+    platform.texts = {"taken"};
+    platform.answers = {Answer::Yes, Answer::Yes};
+    choose(form().mnuSaveMem);
+    EXPECT_EQ(platform.boxes.back().text.substr(0, 6), "Error ");
+    EXPECT_NE(s().MemoryFileName, "taken");
+}
+
+TEST_F(Files, RegisterKeysUnderOtherModifiersCommit) {
+    press(kKeyF12, 0);
+    for (const std::uint8_t mask : std::initializer_list<std::uint8_t>{3, 4, 5, 6, 7}) {
+        const int depth = s().depth();
+        type("6");
+        clickWith(mask, form().cmdFunctions[0]);
+        EXPECT_EQ(s().depth(), depth + 1) << int{mask};
+        EXPECT_EQ(x(), "6");
+    }
+    EXPECT_EQ(reg(23), "");
+}
+
+TEST_F(Files, ARegisterKeyRecallsWithoutALabelAndTheRegisterKeyWithOne) {
+    press(kKeyF12, 0);
+    type("12");
+    clickWith(kShift, form().cmdFunctions[15]);
+    choose(form().cmdFunctions[15]);
+    EXPECT_EQ(tape().back(), "12.00");
+    type("1");
+    choose(form().cmdSTO);
+    EXPECT_EQ(tape().back(), "rcl               12.00");
+}
+
+TEST_F(Files, OnlyAStoreAndARecallAskForAName) {
+    enter("5");
+    for (const std::uint8_t mask : std::initializer_list<std::uint8_t>{2, 3, 4, 5, 6, 7}) {
+        type("0");
+        clickWith(mask, form().cmdSTO);
+        EXPECT_TRUE(platform.inputs.empty()) << int{mask};
+        EXPECT_EQ(form().txtXreg.text, "");
+    }
 }
 
 TEST_F(Files, ADecimalCommaComesBack) {

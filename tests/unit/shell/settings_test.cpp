@@ -199,11 +199,45 @@ TEST_F(Settings, AMissingShortOrNoisyFileIsToldAndHarmsNothing) {
     start();
     EXPECT_EQ(platform.boxes.at(0).title, "Version Conflict!");
     std::filesystem::remove(platform.folder / SettingsFile::kName);
+    ASSERT_TRUE(platform.hasOption("Show Tips at Startup")) << "a sign of the first start";
     writeFile("tape.txt", "a tape of the user's");
     platform.boxes.clear();
     start();
     EXPECT_EQ(platform.boxes.at(0).title, "Error loading program!");
     EXPECT_EQ(file("tape.txt"), "a tape of the user's");
+}
+
+TEST_F(Settings, AFolderOfTheUsersOwnFilesIsNoDamage) {
+    std::filesystem::remove(platform.folder / SettingsFile::kName);
+    platform.options.clear();
+    std::filesystem::create_directories(platform.folder / "programs");
+    writeFile("tape.txt", "a tape of the user's");
+    start();
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_TRUE(form().open);
+    EXPECT_EQ(bytes().size(), 3750U);
+    EXPECT_EQ(file("tape.txt"), "a tape of the user's");
+}
+
+TEST_F(Settings, AFolderThatWasEmptiedIsAFirstStart) {
+    std::filesystem::remove_all(platform.folder);
+    start();
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(bytes().size(), 3750U);
+}
+
+TEST_F(Settings, AnOptionWordWithoutDigitsGivesThirteen) {
+    std::string word = bytes();
+    for (std::size_t bit = 3; bit < 16; ++bit) {
+        char& byte = word.at(kRecord2 + kLongB + bit / 8);
+        byte = static_cast<char>(static_cast<unsigned char>(byte) & ~(1U << bit % 8));
+    }
+    writeFile(SettingsFile::kName, word);
+    start();
+    EXPECT_EQ(s().DisplayDigits, 13);
+    EXPECT_EQ(form().cmdDigits.text, "Display(13)");
+    enter("0.5");
+    EXPECT_EQ(tape().back(), "0.500 000 000 000 0");
 }
 
 TEST_F(Settings, AnOldDataVersionIsRefused) {

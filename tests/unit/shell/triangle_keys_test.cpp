@@ -125,13 +125,14 @@ TEST_F(TriangleKeys, ThreeSidesGiveTheAngles) {
     input("14", kS2);
     input("15", kS3);
     const auto lines = tape();
-    ASSERT_EQ(lines.size(), 7U);
-    EXPECT_EQ(lines[2], "S3                15.00");
-    EXPECT_EQ(lines[3], "A1                67.38");
-    EXPECT_EQ(lines[4], "A2                53.13");
-    EXPECT_EQ(lines[5], "A3                59.49");
-    EXPECT_EQ(lines[6], "Area              84.00");
-    EXPECT_EQ(s().depth(), 4);
+    const char* const expected[] = {"S3                15.00", "S1                13.00", "S2                14.00",
+                                    "S3                15.00", "A1                67.38", "A2                53.13",
+                                    "A3                59.49", "Area              84.00"};
+    ASSERT_EQ(lines.size(), 10U);
+    for (std::size_t i = 0; i < 8; ++i) {
+        EXPECT_EQ(lines[i + 2], expected[i]);
+    }
+    EXPECT_EQ(s().depth(), 7);
     EXPECT_TRUE(platform.boxes.empty());
 }
 
@@ -139,7 +140,7 @@ TEST_F(TriangleKeys, TheAngleBehindASideLiesBetweenItAndTheNext) {
     input("3", kS1);
     input("4", kS2);
     input("90", kS1, kShift);
-    EXPECT_EQ(line(3), "S3                 5.00");
+    EXPECT_EQ(line(4), "S3                 5.00");
     EXPECT_EQ(label(2), "A2");
     EXPECT_EQ(label(1), "A3");
     EXPECT_EQ(line(), "Area               6.00");
@@ -152,11 +153,13 @@ TEST_F(TriangleKeys, TheSecondSolutionIsMarkedWithAsterisks) {
     EXPECT_EQ(lastTitle(), "--- IMPORTANT MESSAGE ---");
     EXPECT_EQ(lastBox(), "There are two solutions, this is the first, the second is followed by asterisks.");
     const auto lines = tape();
-    ASSERT_EQ(lines.size(), 11U);
-    const char* const expected[] = {"A1                30.00", "S2                 9.93", "A2                53.13",
-                                    "A3                96.87", "Area              19.86", "S2*                3.93",
+    ASSERT_EQ(lines.size(), 17U);
+    const char* const expected[] = {"A1                30.00", "S1                 8.00", "S2                 9.93",
+                                    "S3                 5.00", "A1                30.00", "A2                53.13",
+                                    "A3                96.87", "Area              19.86", "S1*                8.00",
+                                    "S2*                3.93", "S3*                5.00", "A1*               30.00",
                                     "A2*              126.87", "A3*               23.13", "Area*              7.86"};
-    for (std::size_t i = 0; i < 9; ++i) {
+    for (std::size_t i = 0; i < 15; ++i) {
         EXPECT_EQ(lines[i + 2], expected[i]);
     }
 }
@@ -166,8 +169,8 @@ TEST_F(TriangleKeys, TwoAnglesAndASide) {
     input("1.0471975511966", kS1, kShift);
     input("1.0471975511966", kS2, kShift);
     input("2", kS2);
-    EXPECT_EQ(line(3), "S1                 2.00");
-    EXPECT_EQ(line(2), "S3                 2.00");
+    EXPECT_EQ(line(6), "S1                 2.00");
+    EXPECT_EQ(line(4), "S3                 2.00");
     EXPECT_EQ(line(1), "A3                 1.05");
     EXPECT_EQ(line(), "Area               1.73");
 }
