@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/calculator.h"
 
+#include "shell/help_topics.h"
+
 #include <utility>
 
 namespace tallyforge {
@@ -24,6 +26,7 @@ Calculator::Calculator(Platform& platform)
                  .resetKey = resetKey_,
                  .settings = settings_}) {
     hangEntry();
+    hangHelpTopics(engine_);
     hangKeys();
     hangOptions();
     hangMenus();
@@ -38,18 +41,6 @@ void Calculator::hangEntry() {
     entry.keyUp = [this](KeyEvent event) { entryLine_.txtXreg_KeyUp(event); };
     engine_.form.lstDisplayReg.doubleClick = [this] { tapeKeys_.lstDisplayReg_DblClick(); };
     engine_.form.lstStack.click = [this] { tapeKeys_.lstStack_Click(); };
-    constexpr int kFieldTopic = 510;
-    const auto help = [this](MouseButton button, std::uint8_t /*shift*/) {
-        if (button == MouseButton::Right) {
-            engine_.platform.helpTopic(kFieldTopic);
-        }
-    };
-    for (Control* field : {&entry, &engine_.form.txtLastx, &engine_.form.txty_Reg}) {
-        field->mouseDown = help;
-    }
-    for (Control& field : engine_.form.txtReg_m) {
-        field.mouseDown = help;
-    }
 }
 
 void Calculator::hangKeys() {
@@ -76,13 +67,6 @@ void Calculator::hangKeys() {
             engine_.ClearOptKeys();
         } else {
             engine_.display.cmdDigits_Click();
-        }
-    };
-    form.cmdDigits.mouseDown = [this](MouseButton button, std::uint8_t shift) {
-        constexpr int kDigitsTopic = 890;
-        constexpr int kWordSizeTopic = 1330;
-        if (button == MouseButton::Right && shift == 0) {
-            engine_.platform.helpTopic(engine_.s.BaseMode ? kWordSizeTopic : kDigitsTopic);
         }
     };
     keypads_.dispatch.typeCharacter = [this](char character) { entryLine_.typeBaseCharacter(character); };
