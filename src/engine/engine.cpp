@@ -82,19 +82,4 @@ void Engine::focusEntry() {
     form.txtXreg.caret = form.txtXreg.text.size();
 }
 
-void Engine::setEntry(std::string_view text) {
-    if (text.empty()) {
-        // What was begun in the line ends with it.
-        s.EexActive = false;
-        s.BaseTagDue = false;
-        s.BaseNumberDone = false;
-        if (form.txtXreg.text.empty()) {
-            form.txtXreg.caret = 0;
-            return;
-        }
-    }
-    form.txtXreg.text = text;
-    form.txtXreg.caret = text.size();
-}
-
 }  // namespace tallyforge

@@ -75,7 +75,18 @@ public:
     /// Gives the entry line the keyboard, caret behind its last character.
     void focusEntry();
     [[nodiscard]] std::string& entryText() { return form.txtXreg.text; }
-    void setEntry(std::string_view text);
+    /// Puts `text` into the entry line. What was begun in a line that is emptied ends with it.
+    void setEntry(std::string_view text) {
+        if (text.empty()) {
+            s.EexActive = false;
+            s.BaseTagDue = false;
+            s.BaseNumberDone = false;
+        }
+        form.txtXreg.caret = text.size();
+        if (!text.empty() || !form.txtXreg.text.empty()) {
+            form.txtXreg.text = text;
+        }
+    }
     /// The empty-line rule: with nothing typed a function works on the X that is on the stack.
     void closeEmptyEntry() {
         if (form.txtXreg.text.empty()) {

@@ -257,7 +257,7 @@ double fifteenDigits(double value) {
     constexpr double kLeastFifteen = 1e14;
     constexpr double kLeastSixteen = 1e15;
     const double size = std::abs(value);
-    if (size < kLeastSixteen && size == std::trunc(size)) {
+    if (size < kLeastSixteen && size == static_cast<double>(static_cast<std::int64_t>(size))) {
         return value;
     }
     constexpr double kLeast = 1e-7;

@@ -201,6 +201,10 @@ void ProgramRun::pressFunction(const FunctionWord& word, int registerNumber) {
 // X carries the fifteen digits of its text; the element on the stack keeps them all.
 void ProgramRun::roundTrip() {
     ValueCell& x = calc.s.Xreg;
+    if (const double* const held = x.asDouble()) {
+        x = fifteenDigits(*held);
+        return;
+    }
     if (x.isEmptyText()) {
         return;
     }
