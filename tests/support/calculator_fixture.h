@@ -7,6 +7,7 @@
 #include "platform/key_codes.h"
 #include "shell/calculator.h"
 #include "support/test_platform.h"
+#include "support/typing.h"
 
 #include <fstream>
 #include <iterator>
@@ -31,15 +32,9 @@ public:
     [[nodiscard]] MainForm& form() const { return calc().form; }
 
     void press(int keyCode, int character = 0, std::uint8_t shift = 0) const {
-        const KeyStroke stroke{.keyCode = keyCode, .shift = shift, .character = character};
-        pressKey(form(), stroke);
-        releaseKey(form(), stroke);
+        strike(form(), keyCode, character, shift);
     }
-    void type(std::string_view text) const {
-        for (const char character : text) {
-            press(keyCodeOf(static_cast<unsigned char>(character)), static_cast<unsigned char>(character));
-        }
-    }
+    void type(std::string_view text) const { strikeAll(form(), text); }
     void enter(std::string_view text) const {
         type(text);
         press(kKeyEnter, 13);
@@ -74,7 +69,10 @@ public:
     /// Everything that a save and a retrieval must bring back, as text.
     [[nodiscard]] std::vector<std::string> everything() const {
         // An X or last x that there is none of comes back as 0.
-        const auto orZero = [this](const ValueCell& cell) { return cell.isEmpty() ? "0" : calc().text(cell); };
+        const auto orZero = [this](const ValueCell& cell) {
+            const std::string text = calc().text(cell);
+            return text.empty() ? "0" : text;
+        };
         std::vector<std::string> all{orZero(s().Xreg), orZero(s().LastX), std::to_string(s().StackPtr)};
         for (int element = 1; element < s().StackPtr; ++element) {
             all.push_back(calc().text(s().slot(element)));

@@ -11,6 +11,7 @@
 #include "platform/form_input.h"
 #include "platform/key_codes.h"
 #include "support/test_platform.h"
+#include "support/typing.h"
 
 #include <gtest/gtest.h>
 
@@ -64,23 +65,12 @@ class EngineTest : public ::testing::Test {
 protected:
     EngineTest() {
         calc.connect(keypads);
-        calc.form.txtXreg.keyDown = [this](KeyEvent event) { entry.txtXreg_KeyDown(event); };
-        calc.form.txtXreg.keyPress = [this](int& key) { entry.txtXreg_KeyPress(key); };
-        calc.form.txtXreg.keyUp = [this](KeyEvent event) { entry.txtXreg_KeyUp(event); };
-        calc.form.cmdEnter.click = [this] { calc.commit.cmdEnter_Click(); };
+        hangKeyboard(calc, entry);
         calc.focusEntry();
     }
 
-    void press(int keyCode, int character = 0, std::uint8_t shift = 0) {
-        const KeyStroke stroke{.keyCode = keyCode, .shift = shift, .character = character};
-        pressKey(calc.form, stroke);
-        releaseKey(calc.form, stroke);
-    }
-    void type(std::string_view text) {
-        for (const char character : text) {
-            press(keyCodeOf(static_cast<unsigned char>(character)), static_cast<unsigned char>(character));
-        }
-    }
+    void press(int keyCode, int character = 0, std::uint8_t shift = 0) { strike(calc.form, keyCode, character, shift); }
+    void type(std::string_view text) { strikeAll(calc.form, text); }
     void enter() { press(kKeyEnter, 13); }
     void commitText(std::string_view text) {
         calc.commit.BeginEntry();
