@@ -3,8 +3,8 @@
 // The Engineering keypad, a row a key.
 // Tips and captions that name units stand here with the first unit of each choice.
 #include "functions/constants.h"
-#include "functions/reciprocal_square.h"
 #include "functions/trigonometry.h"
+#include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
 
@@ -14,24 +14,9 @@ const KeypadTable kEngineeringKeypad{
     .id = Keypad::Engineering,
     .name = "Engineering",
     .rows = {{
-        {.key = 0,
-         .caption = "1/x",
-         .tip = " X key ",
-         .common = true,
-         .helpTopic = 1100,
-         .does = [](Keys& keys) { reciprocal(keys.calc); }},
-        {.key = 1,
-         .caption = {"x²"_t},
-         .tip = " Shift+Ctrl+X ",
-         .common = true,
-         .helpTopic = 1101,
-         .does = [](Keys& keys) { square(keys.calc); }},
-        {.key = 2,
-         .caption = {"Ö´"_t, Face::Symbol},
-         .tip = " Ctrl+X ",
-         .common = true,
-         .helpTopic = 1102,
-         .does = [](Keys& keys) { squareRoot(keys.calc); }},
+        reciprocalRow(1100),
+        squareRow(1101),
+        squareRootRow(1102),
         {.key = 3,
          .caption = {"p", Face::Symbol},
          .tip =

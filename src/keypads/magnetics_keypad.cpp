@@ -3,7 +3,7 @@
 // The Magnetics keypad, a row a key.
 // Tips and captions that name units stand here with the first unit of each choice.
 #include "functions/constants.h"
-#include "functions/reciprocal_square.h"
+#include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
 
@@ -13,24 +13,9 @@ const KeypadTable kMagneticsKeypad{
     .id = Keypad::Magnetics,
     .name = "Magnetics",
     .rows = {{
-        {.key = 0,
-         .caption = "1/x",
-         .tip = " X key ",
-         .common = true,
-         .helpTopic = 1800,
-         .does = [](Keys& keys) { reciprocal(keys.calc); }},
-        {.key = 1,
-         .caption = {"x²"_t},
-         .tip = " Shift+Ctrl+X ",
-         .common = true,
-         .helpTopic = 1801,
-         .does = [](Keys& keys) { square(keys.calc); }},
-        {.key = 2,
-         .caption = {"Ö´"_t, Face::Symbol},
-         .tip = " Ctrl+X ",
-         .common = true,
-         .helpTopic = 1802,
-         .does = [](Keys& keys) { squareRoot(keys.calc); }},
+        reciprocalRow(1800),
+        squareRow(1801),
+        squareRootRow(1802),
         {.key = 3,
          .caption = {"p", Face::Symbol},
          .tip =

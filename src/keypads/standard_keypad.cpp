@@ -5,9 +5,9 @@
 #include "functions/factorial.h"
 #include "functions/logarithms.h"
 #include "functions/percent_tax.h"
-#include "functions/reciprocal_square.h"
 #include "functions/rounding.h"
 #include "functions/trigonometry.h"
+#include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
 
@@ -17,24 +17,9 @@ const KeypadTable kStandardKeypad{
     .id = Keypad::Standard,
     .name = "Standard",
     .rows = {{
-        {.key = 0,
-         .caption = "1/x",
-         .tip = " X key ",
-         .common = true,
-         .helpTopic = 1000,
-         .does = [](Keys& keys) { reciprocal(keys.calc); }},
-        {.key = 1,
-         .caption = {"x²"_t},
-         .tip = " Shift+Ctrl+X ",
-         .common = true,
-         .helpTopic = 1001,
-         .does = [](Keys& keys) { square(keys.calc); }},
-        {.key = 2,
-         .caption = {"Ö´"_t, Face::Symbol},
-         .tip = " Ctrl+X ",
-         .common = true,
-         .helpTopic = 1002,
-         .does = [](Keys& keys) { squareRoot(keys.calc); }},
+        reciprocalRow(1000),
+        squareRow(1001),
+        squareRootRow(1002),
         {.key = 3,
          .caption = {"p", Face::Symbol},
          .tip =

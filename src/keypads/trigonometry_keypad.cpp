@@ -3,9 +3,9 @@
 // The Trigonometry keypad, a row a key.
 #include "functions/constants.h"
 #include "functions/hours.h"
-#include "functions/reciprocal_square.h"
 #include "functions/solids.h"
 #include "functions/trigonometry.h"
+#include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
 
@@ -15,24 +15,9 @@ const KeypadTable kTrigonometryKeypad{
     .id = Keypad::Trigonometry,
     .name = "Trigonometry",
     .rows = {{
-        {.key = 0,
-         .caption = "1/x",
-         .tip = " X key ",
-         .common = true,
-         .helpTopic = 1200,
-         .does = [](Keys& keys) { reciprocal(keys.calc); }},
-        {.key = 1,
-         .caption = {"x²"_t},
-         .tip = " Shift+Ctrl+X ",
-         .common = true,
-         .helpTopic = 1201,
-         .does = [](Keys& keys) { square(keys.calc); }},
-        {.key = 2,
-         .caption = {"Ö´"_t, Face::Symbol},
-         .tip = " Ctrl+X ",
-         .common = true,
-         .helpTopic = 1202,
-         .does = [](Keys& keys) { squareRoot(keys.calc); }},
+        reciprocalRow(1200),
+        squareRow(1201),
+        squareRootRow(1202),
         {.key = 3,
          .caption = {"p", Face::Symbol},
          .tip =
