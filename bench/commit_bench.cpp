@@ -64,18 +64,28 @@ double heapInUse() {
 }
 
 /// Bytes of heap that a tape line takes with the value behind it, at 1,000,000 lines.
-void MemoryPerTapeLine(benchmark::State& state) {
+template <typename Add>
+void memoryPerLine(benchmark::State& state, Add add) {
     constexpr int kLines = 1000000;
     for (auto _ : state) {
         const double before = heapInUse();
         Tape tape;
         for (int line = 0; line < kLines; ++line) {
-            tape.add("+                  5.00", ValueCell{5.0});
+            add(tape);
         }
         benchmark::DoNotOptimize(tape.count());
         state.counters["bytes"] = (heapInUse() - before) / kLines;
     }
 }
-BENCHMARK(MemoryPerTapeLine);
+
+void MemoryPerTypedLine(benchmark::State& state) {
+    memoryPerLine(state, [](Tape& tape) { tape.add("12.50", ValueCell{"12.5"}); });
+}
+BENCHMARK(MemoryPerTypedLine);
+
+void MemoryPerNumberLine(benchmark::State& state) {
+    memoryPerLine(state, [](Tape& tape) { tape.addNumber({}, "+", 5.0); });
+}
+BENCHMARK(MemoryPerNumberLine);
 
 }  // namespace

@@ -16,8 +16,7 @@ case "${1:-run}" in
         ;;
     test)
         wanted+=(ccache python3 libgtest-dev librapidcheck-dev libbenchmark-dev
-                 clang libclang-rt-14-dev clang-format clang-tidy
-                 xvfb xauth xdotool openbox)
+                 clang libclang-rt-14-dev clang-format clang-tidy)
         ;;
     measure)
         wanted+=(libbenchmark-dev libxcb1-dev libxcb-damage0-dev libxcb-xtest0-dev

@@ -4,6 +4,7 @@
 #include "engine/engine.h"
 #include "engine/file_failure.h"
 #include "engine/settings_file.h"
+#include "platform/file_name.h"
 
 namespace tallyforge {
 
@@ -15,11 +16,8 @@ constexpr std::size_t kRegisterNameAt = 28;
 
 /// A file of the data folder by the name that was entered, without any folder in it.
 std::optional<std::filesystem::path> inDataFolder(const Engine& calc, const std::string& entered) {
-    const std::filesystem::path name = std::filesystem::path(entered.substr(0, kNameLength)).filename();
-    if (name.empty() || name == "." || name == "..") {
-        return std::nullopt;
-    }
-    return calc.AppDataDir / name;
+    const std::string name = bareName(entered.substr(0, kNameLength));
+    return name.empty() ? std::nullopt : std::optional{calc.AppDataDir / pathOf(name)};
 }
 
 }  // namespace
@@ -32,13 +30,14 @@ std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_vi
                        "file is saved in the Oakhollow Application Data Folder. ",
              .preset = preset});
         auto path = inDataFolder(calc, entered);
-        if (path && path->filename() == SettingsFile::kName) {
-            calc.message(BoxKind::Stop, title, "The settings are kept under this name, please choose another one.");
+        if (path && nameOf(*path).starts_with('.')) {
+            calc.message(BoxKind::Stop, title,
+                         "Names that begin with a point are the calculator's own, please choose another one.");
             continue;
         }
         std::error_code ignored;
         if (!path || !std::filesystem::exists(*path, ignored) ||
-            calc.question("File Exists!", path->filename().string() + " exists, do you want to overwrite it?")) {
+            calc.question("File Exists!", nameOf(*path) + " exists, do you want to overwrite it?")) {
             return path;
         }
     }
@@ -53,12 +52,11 @@ std::optional<std::filesystem::path> askWhatToRetrieve(Engine& calc, std::string
 }
 
 bool askForDefaultName(Engine& calc, const std::filesystem::path& path) {
-    return calc.question("Save File Name?",
-                         "Do you want to save " + path.filename().string() + " as the default file name?");
+    return calc.question("Save File Name?", "Do you want to save " + nameOf(path) + " as the default file name?");
 }
 
 void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, const std::filesystem::path& path) {
-    const std::string name = path.filename().string();
+    const std::string name = nameOf(path);
     const bool tape = which == DefaultName::Tape;
     (tape ? calc.s.TapeFileName : calc.s.MemoryFileName) = name;
     const std::string_view procedure = tape ? "mnuSaveTape_Click" : "mnuSaveMem_Click";

@@ -40,13 +40,18 @@ inline constexpr int kTextDigits = 15;
 [[nodiscard]] std::string fixedText(double value, int places);
 
 /// `value` by a number pattern. "0" is a digit that always stands, "#" one that stands where the
-/// number has it, the first "." the decimal character (printed even without digits behind it), "," between the digits
-/// of the whole part groups by three with ",", an "e+00" tail makes it scientific with at least two exponent digits,
-/// every other character (a blank, a second ".") stands for itself; digits that have no place go in front of the first
-/// digit place; a blank group mark in the whole part is left out where no digit stands left of it, but blanks in front
-/// of the first digit place always stand. A minus stands directly before the first digit. Examples: "0.000e+00" 12345
-/// -> "1.234e+04" (half to even), "#,##0" 1234567 -> "1,234,567", "### ### ### ##0" 1234567 -> "1 234 567", "
-/// 0.00e+00", "00000" 42 -> "00042", "0.00 00.0" 0.3045 -> "0.30 45.0".
+/// number has it, the first "." the decimal character (there even without digits behind it). ","
+/// between the digits of the whole part groups by three. An "e+00" tail makes it scientific with at
+/// least two exponent digits. Every other character (a blank, a second ".") stands for itself.
+/// Digits that have no place go in front of the first digit place. A blank group mark in the whole
+/// part is left out where no digit stands left of it; blanks in front of the first digit place
+/// always stand. A minus stands directly before the first digit.
+///   "0.000e+00"        12345    "1.234e+04" (half to even)
+///   "#,##0"            1234567  "1,234,567"
+///   "### ### ### ##0"  1234567  "1 234 567"
+///   "   0.00e+00"      5        "   5.00e+00"
+///   "00000"            42       "00042"
+///   "0.00 00.0"        0.3045   "0.30 45.0"
 [[nodiscard]] std::string formatPattern(double value, std::string_view pattern, char decimal);
 
 /// formatPattern with "0." + `digits` zeros + "e+00".

@@ -2,7 +2,8 @@
 //
 // The running tape: the lines as shown and the exact value behind each. Lines live in blocks, so
 // that appending the millionth costs what the first did. A plain number takes 10 bytes and is
-// formatted when it is looked at; any other line is fixed-width text, kept inline, below 96 bytes.
+// formatted when it is looked at; any other line is fixed-width text of 79 bytes, and 31 more where the
+// value behind it is a text of over fifteen characters.
 #pragma once
 
 #include "engine/engine_state.h"

@@ -54,8 +54,9 @@ void ArithmeticKeys::cmdMath_Click(int index) {
     s.FnLabel = s.ModifierMask == kAlt ? "m" : "";
     s.FnLabel += kOperators.at(static_cast<std::size_t>(index));
     const std::optional<FailureNumber> failed = compute(index, operands);
-    if (tagged && failed && *failed != FailureNumber::DivisionByZero) {
-        // Numbers of a base that cannot be computed with stay where they are, X as last x.
+    const bool noNumber = failed == FailureNumber::TypeMismatch;
+    if (noNumber || (tagged && failed && *failed != FailureNumber::DivisionByZero)) {
+        // What cannot be computed with stays where it is, X as last x.
         const ValueCell operand = s.LastX;
         const bool emptiesX = *failed == FailureNumber::SubtrahendGreater && !intoRegister;
         abandon();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/program_folders.h"
 
+#include "platform/file_name.h"
 #include "program/program_text.h"
 
 namespace tallyforge {
@@ -13,7 +14,7 @@ constexpr const char* kPrograms = "programs";
 std::optional<std::filesystem::path> sameLetters(const std::filesystem::path& folder, const std::string& name) {
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
-        if (smallLetters(entry.path().filename().string()) == smallLetters(name) && entry.is_regular_file(error)) {
+        if (smallLetters(nameOf(entry.path())) == smallLetters(name) && entry.is_regular_file(error)) {
             return entry.path();
         }
     }
@@ -39,8 +40,8 @@ std::optional<std::filesystem::path> findProgram(const Engine& calc, const std::
                                              beside.parent_path() / "share" / "tallyforge" / kPrograms};
     for (const std::filesystem::path& folder : folders) {
         std::error_code error;
-        if (std::filesystem::is_regular_file(folder / name, error)) {
-            return folder / name;
+        if (std::filesystem::is_regular_file(folder / pathOf(name), error)) {
+            return folder / pathOf(name);
         }
     }
     for (const std::filesystem::path& folder : folders) {

@@ -5,6 +5,7 @@
 #include "engine/file_failure.h"
 #include "engine/memory_registers.h"
 #include "engine/settings_file.h"
+#include "platform/file_name.h"
 #include "program/program_folders.h"
 #include "program/programs.h"
 
@@ -61,13 +62,13 @@ void Programs::mnuProgram_Click() {
             return calc.focusEntry();
         }
         // Programs lie in their folders only, whatever was entered.
-        name = withExtension(std::filesystem::path(answer).filename().string());
+        name = withExtension(bareName(answer));
     }
     const auto file = findProgram(calc, name);
     if (!file) {
         fail("File not found!");
     }
-    name = file ? file->filename().string() : "";
+    name = file ? nameOf(*file) : "";
     if (!name.ends_with(kExtension)) {
         fail("Please rename your program with the \".rec\" extension.", "Illegal File Extension!");
         return calc.focusEntry();
@@ -110,7 +111,7 @@ void Programs::loadBuiltIn(const std::string& name) {
         return;
     }
     if (const auto file = findProgram(calc, name)) {
-        load(file->parent_path(), file->filename().string());
+        load(file->parent_path(), nameOf(*file));
     } else {
         fail("File not found!");
     }

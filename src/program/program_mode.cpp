@@ -2,6 +2,7 @@
 #include "program/program_mode.h"
 
 #include "engine/engine.h"
+#include "platform/file_name.h"
 #include "program/program_folders.h"
 #include "program/program_text.h"
 
@@ -231,8 +232,8 @@ void ProgramMode::askForTraceName() {
     const std::string answer =
         calc.platform.inputBox({.title = "New Trace File", .prompt = "Enter name.ext", .preset = kDefaultTrace});
     // A trace lies in its own folder, whatever was entered.
-    const std::string name = std::filesystem::path(answer).filename().string();
-    state.TraceFileName = name.empty() || name == "." || name == ".." ? kDefaultTrace : name;
+    const std::string name = bareName(answer);
+    state.TraceFileName = name.empty() ? kDefaultTrace : name;
     state.TraceRenamed = true;
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "engine/engine_state.h"
+#include "platform/file_name.h"
 #include "program/variables.h"
 
 #include <array>
@@ -44,7 +45,7 @@ struct ProgramState {
     std::string TraceFileName = kDefaultTrace;
     bool TraceRenamed = false;
 
-    [[nodiscard]] std::filesystem::path programPath() const { return ProgramFolder / ProgramFile; }
+    [[nodiscard]] std::filesystem::path programPath() const { return ProgramFolder / pathOf(ProgramFile); }
 };
 
 }  // namespace tallyforge

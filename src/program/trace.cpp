@@ -36,7 +36,7 @@ void Trace::open() {
     if (!state.TraceRenamed) {
         state.TraceFileName = kDefaultTrace;
     }
-    file_.open(folder / state.TraceFileName, std::ios::app | std::ios::binary);
+    file_.open(folder / pathOf(state.TraceFileName), std::ios::app | std::ios::binary);
 }
 
 void Trace::write(int line, std::string_view word) {

@@ -109,7 +109,7 @@ std::filesystem::path HeadlessPlatform::dataFolder() const {
 }
 
 std::filesystem::path HeadlessPlatform::optionFile() const {
-    return options_.data / "options.txt";
+    return options_.data / ".options.txt";
 }
 
 bool HeadlessPlatform::readOption(std::string_view key, bool preset) const {

@@ -213,7 +213,8 @@ TEST_F(Files, TheNameOfTheSettingsIsRefusedAndAskedForAgain) {
     const std::string settings = file(SettingsFile::kName);
     platform.texts = {std::string(SettingsFile::kName), "t.txt"};
     choose(form().mnuSaveTape);
-    EXPECT_EQ(platform.boxes.front().text, "The settings are kept under this name, please choose another one.");
+    EXPECT_EQ(platform.boxes.front().text,
+              "Names that begin with a point are the calculator's own, please choose another one.");
     EXPECT_EQ(file(SettingsFile::kName), settings);
     EXPECT_FALSE(file("t.txt").empty());
 }
