@@ -2,6 +2,7 @@
 #include "platform/file_store.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -65,22 +66,58 @@ void flushFolder(const std::filesystem::path& folder) {
     }
 }
 
+/// Where `path` leads to in the end: a file is replaced, the links that name it stay.
+std::filesystem::path behindLinks(std::filesystem::path path) {
+    constexpr int kMostLinks = 40;
+    std::error_code error;
+    for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
+        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+        if (error || links == kMostLinks) {
+            throw FileError{FileProblem::NoAccess};
+        }
+        path = path.parent_path() / target;
+    }
+    return path;
+}
+
+/// Permissions of the file to be replaced, or those of a new one. What is no plain file, a folder
+/// or a device, is not replaced.
+mode_t permissionsFor(const std::filesystem::path& path) {
+    constexpr mode_t kPermissions = 0777;
+    constexpr mode_t kNewFile = 0666;
+    struct stat old {};
+    if (::stat(path.c_str(), &old) == 0) {
+        if (!S_ISREG(old.st_mode)) {
+            throw FileError{FileProblem::NoAccess};
+        }
+        return old.st_mode & kPermissions;
+    }
+    // The mask can only be read by setting it.
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return kNewFile & ~mask;
+}
+
 }  // namespace
 
 void writeWhole(const std::filesystem::path& path, std::string_view bytes) {
-    std::string temporary = path.string() + ".XXXXXX";
+    const std::filesystem::path target = behindLinks(path);
+    const mode_t permissions = permissionsFor(target);
+    std::string temporary = target.string() + ".XXXXXX";
     Descriptor file{::mkostemp(temporary.data(), O_CLOEXEC)};
     if (!file.ok()) {
         throw FileError{problemOf(errno)};
     }
+    // A file system without permissions refuses, and the bytes count for more.
+    static_cast<void>(::fchmod(file.number(), permissions));
     const bool written = writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 && file.close() &&
-                         std::rename(temporary.c_str(), path.c_str()) == 0;
+                         std::rename(temporary.c_str(), target.c_str()) == 0;
     if (!written) {
         const FileProblem problem = problemOf(errno);
         ::unlink(temporary.c_str());
         throw FileError{problem};
     }
-    flushFolder(path.has_parent_path() ? path.parent_path() : std::filesystem::path("."));
+    flushFolder(target.has_parent_path() ? target.parent_path() : std::filesystem::path("."));
 }
 
 std::string readWhole(const std::filesystem::path& path, std::size_t limit) {

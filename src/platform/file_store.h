@@ -28,7 +28,8 @@ private:
 inline constexpr std::size_t kLargestFile = std::size_t{512} * 1024 * 1024;
 
 /// Writes `bytes` to a temporary beside `path`, flushes it and renames it over `path`; the folder
-/// is flushed, too. On failure the old file is whole and the temporary gone. Raises FileError.
+/// is flushed, too. The file keeps the permissions of the old one, and a link to it stays. On
+/// failure the old file is whole and the temporary gone. Raises FileError.
 void writeWhole(const std::filesystem::path& path, std::string_view bytes);
 
 /// All bytes of the file. Raises FileError: NotFound, NoAccess, or TooLarge beyond `limit`.
