@@ -13,11 +13,12 @@ struct Description {
     int number;
     std::string_view text;
 };
-constexpr std::array<Description, 4> kDescriptions{{
+constexpr std::array<Description, 5> kDescriptions{{
     {7, "Out of memory"},
     {28, "Out of stack space"},
     {52, "Bad file name or number"},
     {62, "Input past end of file"},
+    {76, "Path not found"},
 }};
 
 }  // namespace
