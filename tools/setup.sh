@@ -3,6 +3,7 @@
 # Installs what is missing from Debian's own archive; does nothing where all of it is there.
 #   tools/setup.sh run     what building and running needs
 #   tools/setup.sh test    the same, and what the tests and checks need
+#   tools/setup.sh bench   what tools/bench needs
 #   tools/setup.sh measure what tools/measure_window needs
 set -euo pipefail
 
@@ -18,12 +19,15 @@ case "${1:-run}" in
         wanted+=(ccache python3 libgtest-dev librapidcheck-dev libbenchmark-dev
                  clang libclang-rt-14-dev clang-format clang-tidy)
         ;;
+    bench)
+        wanted+=(libbenchmark-dev)
+        ;;
     measure)
         wanted+=(libbenchmark-dev libxcb1-dev libxcb-damage0-dev libxcb-xtest0-dev
                  xvfb xauth)
         ;;
     *)
-        echo "usage: tools/setup.sh [run|test|measure]" >&2
+        echo "usage: tools/setup.sh [run|test|bench|measure]" >&2
         exit 2
         ;;
 esac

@@ -6,6 +6,7 @@
 
 #include <charconv>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -219,6 +220,8 @@ int runScript(Call& call) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A limit on the size of files is a failure of the write, told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     std::ios::sync_with_stdio(false);
     auto call = readCall({argv + 1, argv + argc});
     if (!call) {

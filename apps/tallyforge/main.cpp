@@ -14,6 +14,7 @@
 #include <QPalette>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <csignal>
 
 #include <fstream>
 #include <iostream>
@@ -43,6 +44,10 @@ int render(const QString& picture, const QString& script, double scale) {
     KeyScript keys(
         options, [](std::string_view) {}, [&](std::string_view line) { complaints << line << '\n'; });
     std::ifstream file(script.toStdString());
+    if (!script.isEmpty() && !file) {
+        std::cerr << "tallyforge: cannot read " << script.toStdString() << '\n';
+        return 2;
+    }
     std::istringstream nothing;
     std::istream& input = script.isEmpty() ? static_cast<std::istream&>(nothing) : file;
     if (keys.run(input) == ScriptEnd::WrongScript) {
@@ -81,6 +86,8 @@ int showWindow() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A limit on the size of files is a failure of the write, told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     QApplication application(argc, argv);
     QApplication::setApplicationName("Tallyforge");
     QApplication::setDesktopFileName("tallyforge");
@@ -90,15 +97,16 @@ int main(int argc, char** argv) {
         QApplication::setPalette(darkPalette());
     }
     double scale = 1.0;
-    if (const qsizetype at = words.indexOf("--scale"); at >= 0 && at + 1 < words.size()) {
+    const bool renders = words.size() >= 2 && words.contains("--render");
+    if (const qsizetype at = words.indexOf("--scale"); renders && at >= 0 && at + 1 < words.size()) {
         scale = words.at(at + 1).toDouble();
         words.remove(at, 2);
     }
-    if (words.size() >= 2 && words.front() == "--render" && scale > 0.0) {
+    if (renders && words.size() >= 2 && words.front() == "--render" && scale > 0.0) {
         return render(words.at(1), words.value(2), scale);
     }
     if (!words.isEmpty()) {
-        std::cerr << "usage: tallyforge [--render FILE.png [SCRIPT]] [--scale N] [--dark]\n";
+        std::cerr << "usage: tallyforge [--render FILE.png [SCRIPT] [--scale N]] [--dark]\n";
         return 2;
     }
     return showWindow();

@@ -172,6 +172,14 @@ void Commit::onFailure(const Failure& failure) {
     calc.LightModifiers(0);
 }
 
+void Commit::pushRecalled() {
+    calc.s.StackPtr -= 1;
+    calc.form.setFocus(calc.form.cmdEnter);
+    calc.s.EntryOpen = true;
+    calc.s.ValueInXreg = false;
+    cmdEnter_Click();
+}
+
 void Commit::PushResult() {
     EngineState& s = calc.s;
     const int digits = s.DisplayDigits;

@@ -31,6 +31,10 @@ public:
     /// without the text. `number` must be one that fifteen digits show in full.
     void enterStored(double number);
 
+    /// Pushes an X that was brought back from a list or the clipboard: the entry line is empty, so
+    /// the commit takes X as it stands and goes up by one.
+    void pushRecalled();
+
     /// Delivers X as a new stack element where there is no entry to consider. Chooses digits with
     /// AutoDigits unless KeepDigits is set; the user's format is as before afterwards.
     void PushResult();

@@ -250,22 +250,29 @@ void LifeCycle::Form_Unload() {
     calc.form.open = false;
 }
 
-std::int32_t LifeCycle::optionWord() const {
+// What is saved of the format are the user's choices, also while the Binary keypad lays them aside.
+// Bits that have no meaning here, and the one that a menu tick writes, stay as they are.
+void LifeCycle::writeOptions(SettingsRecord& record) const {
     const EngineState& s = calc.s;
-    SettingsRecord word;
-    word.setOption(option_bit::kDigits + std::clamp(s.DisplayDigits, 0, kMaxDisplayDigits), true);
-    word.setOption(option_bit::kMode + static_cast<int>(s.Mode), true);
-    word.setOption(option_bit::kDegrees, s.Angle == AngleMode::Degrees);
-    word.setOption(option_bit::kGrads, s.Angle == AngleMode::Grads);
-    word.setOption(option_bit::kViewPlain, !s.ViewExtended);
+    const auto chooseOne = [&](int first, int count, int chosen) {
+        for (int i = 0; i < count; ++i) {
+            record.setOption(first + i, i == chosen);
+        }
+    };
+    constexpr int kModes = 3;
+    const DisplayMode mode = s.DisplaySaved ? s.SavedMode : s.Mode;
+    chooseOne(option_bit::kMode, kModes, static_cast<int>(mode));
+    chooseOne(option_bit::kDigits, kMaxDisplayDigits + 1, std::clamp(s.SavedDigits, 0, kMaxDisplayDigits));
+    record.setOption(option_bit::kDegrees, s.Angle == AngleMode::Degrees);
+    record.setOption(option_bit::kGrads, s.Angle == AngleMode::Grads);
+    record.setOption(option_bit::kViewPlain, !s.ViewExtended);
     const auto* const bit = std::find(kKeypadBits.begin(), kKeypadBits.end(), s.ActiveKeypad);
     // A keypad without a bit of its own starts as the Standard keypad.
     const auto place = bit == kKeypadBits.end() ? 0 : static_cast<int>(bit - kKeypadBits.begin());
-    word.setOption(option_bit::kKeypad + place, true);
-    word.setOption(option_bit::kTall, s.TallForm);
-    word.setOption(option_bit::kYField, s.ShowYField);
-    word.setOption(option_bit::kLastxField, s.ShowLastxField);
-    return word.RecLongB();
+    chooseOne(option_bit::kKeypad, static_cast<int>(kKeypadBits.size()), place);
+    record.setOption(option_bit::kTall, s.TallForm);
+    record.setOption(option_bit::kYField, s.ShowYField);
+    record.setOption(option_bit::kLastxField, s.ShowLastxField);
 }
 
 void LifeCycle::mnuSave_Click() {
@@ -274,15 +281,10 @@ void LifeCycle::mnuSave_Click() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     if (calc.question("SAVE!", "Would you like to save your settings?")) {
-        const int shown = std::exchange(s.DisplayDigits, s.SavedDigits);
-        const bool noKeyPaint = s.NoKeyPaint;
-        const std::int32_t word = optionWord();
-        // On the Binary keypad the digits in force are its own; what is saved are the user's.
-        s.DisplayDigits = s.BaseMode ? shown : s.SavedDigits;
-        changeRecord(2, [&](SettingsRecord& record) {
-            record.setRecLongB(word);
-            record.setOption(option_bit::kNoKeyPaint, noKeyPaint);
-        });
+        if (!s.BaseMode) {
+            s.DisplayDigits = s.SavedDigits;
+        }
+        changeRecord(2, [&](SettingsRecord& record) { writeOptions(record); });
         changeRecord(3, [&](SettingsRecord& record) { record.setTextA(42, 2, zeroPadded(s.WordSize, 2)); });
     }
     calc.focusEntry();

@@ -30,7 +30,7 @@ public:
 
     /// Reads the settings and brings the form into the state that they ask for. Closes the form
     /// after a message where the record file is missing, damaged or too old. On the first start,
-    /// when there is no data folder yet, the file is made with its defaults.
+    /// with no file and no trace of an earlier one, the file is made with its defaults.
     void Form_Load();
     void Form_Activate();
     void Form_Deactivate();
@@ -58,7 +58,7 @@ private:
     void readView();
     void setAngle(AngleMode mode);
     void endWith(std::string_view title, std::string_view text);
-    [[nodiscard]] std::int32_t optionWord() const;
+    void writeOptions(SettingsRecord& record) const;
     template <typename Change>
     void changeRecord(int number, Change change);
 

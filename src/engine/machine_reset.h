@@ -14,7 +14,7 @@ public:
 
     /// Registers to 0, their names to their numbers.
     void clearRegisters();
-    /// Stack, tape, X, Y, last x, entry line and all flags of an entry under way.
+    /// Stack, tape, X, Y, last x, entry line and what was begun in it.
     void clearStackAndTape();
 
 private:

@@ -218,6 +218,21 @@ void MainForm::dressRegisters() {
     }
 }
 
+std::array<KeypadEntry, 6> MainForm::keypadMenu() {
+    return {{{mnuStd, Keypad::Standard},
+             {mnuEngNormal, Keypad::Engineering},
+             {mnuEngBinary, Keypad::Binary},
+             {mnuMag, Keypad::Magnetics},
+             {mnuTrig, Keypad::Trigonometry},
+             {mnuConvert, Keypad::Convert}}};
+}
+
+void MainForm::enableKeypadMenu(bool enabled) {
+    for (const KeypadEntry& entry : keypadMenu()) {
+        entry.control.enabled = enabled;
+    }
+}
+
 void MainForm::dressMenus() {
     struct Entry {
         Control& control;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The main form's controls, as data. Captions, tips and places stand in the tables of
-// main_form.cpp; handlers are hung on by the classes that own the behaviour.
+// The main form's controls, as data. Captions and tips stand in the tables of
+// main_form.cpp, places in main_form_layout.cpp; handlers are hung on by the classes that own the behaviour.
 #pragma once
 
 #include "engine/engine_state.h"
@@ -11,6 +11,12 @@
 #include <string_view>
 
 namespace tallyforge {
+
+/// A menu entry that lays a keypad over the bank.
+struct KeypadEntry {
+    Control& control;
+    Keypad keypad;
+};
 
 class MainForm : public Form {
 public:
@@ -66,6 +72,10 @@ public:
     /// Places every control for `extraHeight` twips that the view adds to the lists, with the
     /// register column or without, and with the small registers that are visible.
     void arrange(bool extended = false, int extraHeight = 0);
+
+    /// The six entries of the keypad menu.
+    [[nodiscard]] std::array<KeypadEntry, 6> keypadMenu();
+    void enableKeypadMenu(bool enabled);
     [[nodiscard]] int contentHeight() const override { return contentHeight_; }
 
 private:

@@ -193,10 +193,7 @@ void MemoryRegisters::RegisterKey(int index) {
 void MemoryRegisters::MemoryArray() {
     EngineState& s = calc.s;
     s.ProgramMode = false;
-    for (Control* entry : {&calc.form.mnuStd, &calc.form.mnuEngNormal, &calc.form.mnuEngBinary, &calc.form.mnuMag,
-                           &calc.form.mnuTrig, &calc.form.mnuConvert}) {
-        entry->enabled = s.MemoryArrayMode;
-    }
+    calc.form.enableKeypadMenu(s.MemoryArrayMode);
     s.MemoryArrayMode = !s.MemoryArrayMode;
     calc.form.cmdF11.enabled = !s.MemoryArrayMode;
     if (s.MemoryArrayMode) {

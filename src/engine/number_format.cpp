@@ -46,6 +46,23 @@ bool isExponent(std::string_view text) {
     return !text.empty() && digitRun(text) == text.size();
 }
 
+/// Of a number beyond the range of a double, with a decimal point: whether it is too large, and not
+/// too small. The exponent of its first digit that is not 0 tells.
+bool isTooLarge(std::string_view text) {
+    text.remove_prefix(text.starts_with('-') || text.starts_with('+') ? 1 : 0);
+    const auto mark = std::min(text.find_first_of("eE"), text.size());
+    const std::string_view mantissa = text.substr(0, mark);
+    std::string_view power = text.substr(std::min(mark + 1, text.size()));
+    power.remove_prefix(power.starts_with('+') ? 1 : 0);
+    long long exponent = 0;
+    if (std::from_chars(power.data(), power.data() + power.size(), exponent).ec == std::errc::result_out_of_range) {
+        return !power.starts_with('-');
+    }
+    const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
+    const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
+    return exponent + point - first > 0;
+}
+
 Reading scan(std::string_view text, char decimal, double& value) {
     text = withoutBlanks(text);
     if (text.starts_with('+')) {
@@ -75,12 +92,11 @@ Reading scan(std::string_view text, char decimal, double& value) {
     }
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        // Too large and too small look alike here; a number too small reads as 0.
-        const double rough = std::strtod(std::string(text).c_str(), nullptr);
-        if (std::abs(rough) > 1.0) {
+        if (isTooLarge(text)) {
             return Reading::TooLarge;
         }
-        value = rough;
+        // A number too small reads as 0.
+        value = text.starts_with('-') ? -0.0 : 0.0;
     }
     return Reading::Number;
 }

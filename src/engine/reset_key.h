@@ -18,7 +18,7 @@ public:
         : calc(calculator), reset(machine), tapeKeys(tape) {}
 
     /// Plain: stack and tape. Ctrl: registers. Alt: both. Shift+Ctrl+Alt: undo. All other masks
-    /// do nothing.
+    /// do nothing, but in Program mode they reset as the plain key does.
     void cmdReset_Click();
 
 private:

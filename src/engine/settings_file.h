@@ -93,7 +93,7 @@ public:
     void setPath(std::filesystem::path path) { path_ = std::move(path); }
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
-    /// Writes a fresh file with the defaults. Raises 61, 75.
+    /// Writes a fresh file with the defaults. Raises 53 where its folder is missing, 61, 75.
     void create() const;
     /// Record 1 to 3. Raises 53 for a missing file, 54 for one that is not three records, 75.
     [[nodiscard]] SettingsRecord read(int number) const;

@@ -9,6 +9,19 @@
 
 namespace tallyforge {
 
+namespace {
+
+/// "-0.5" and "-.5" as the same text.
+std::string withoutLeadingZero(std::string text, std::string_view point) {
+    const std::size_t at = text.starts_with('-') ? 1 : 0;
+    if (text.compare(at, 1, "0") == 0 && text.compare(at + 1, 1, point) == 0) {
+        text.erase(at, 1);
+    }
+    return text;
+}
+
+}  // namespace
+
 bool StackKeys::modifierActive() {
     if (calc.s.ModifierMask == 0) {
         return false;
@@ -70,8 +83,9 @@ void StackKeys::cmdXchgY_Click() {
     }
     takeTop();
     if (s.depth() == 1) {
-        // The missing element is a 0 that becomes the top, so that no number goes below the stack.
-        s.Xreg = ValueCell::zero();
+        // What is missing (a 0, or a result that stood below the stack) becomes the top, so that no
+        // number goes below the stack.
+        s.Xreg = s.Yreg;
     } else {
         s.StackPtr -= 1;
         s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = s.Xreg;
@@ -151,29 +165,27 @@ void StackKeys::changeSignOfX() {
 void StackKeys::changeSignOfEntry() {
     const char decimal = calc.s.DecimalChar;
     const std::string typed = calc.entryText();
-    const auto value = tryReadNumber(typed, decimal);
-    if (value) {
-        std::string changed = plainText(0.0 - *value, decimal);
-        if (tryReadNumber(changed, decimal) != 0.0 - *value) {
-            // More digits were typed than a number's text has: none of them may be lost.
-            changed = typed.starts_with('-') ? typed.substr(1) : "-" + typed;
-        }
-        calc.setEntry(changed);
-        // The text of a large or small number has an exponent, which is then the one being typed.
-        calc.s.EexActive = changed.find('E') != std::string::npos;
+    if (const auto value = tryReadNumber(typed, decimal)) {
+        const std::string turned = typed.starts_with('-') ? typed.substr(1) : "-" + typed;
+        const std::string changed = plainText(0.0 - *value, decimal);
+        // Digits may follow, so the text of the number is no good where it drops a point, zeros or
+        // digits that were typed, or gets an exponent.
+        const std::string_view point{&decimal, 1};
+        const bool goesOn = withoutLeadingZero(changed, point) == withoutLeadingZero(turned, point);
+        calc.setEntry(goesOn ? changed : turned);
     }
     calc.focusEntry();
 }
 
 void StackKeys::changeSignOfExponent() {
     const std::string typed = calc.entryText();
-    const auto at = typed.find_first_of("eE");
+    const auto at = typed.find('e');
     if (at != std::string::npos) {
         const std::string mantissa = typed.substr(0, at);
         std::string exponent = typed.substr(at + 1);
-        const bool negative = exponent.starts_with('-');
-        exponent.erase(0, negative || exponent.starts_with('+') ? 1 : 0);
-        if (!negative) {
+        if (exponent.starts_with('-')) {
+            exponent.erase(0, 1);
+        } else {
             exponent.insert(0, 1, '-');
         }
         calc.setEntry(mantissa + "e" + exponent);

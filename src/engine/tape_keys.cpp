@@ -25,15 +25,6 @@ bool endsInBaseLetter(std::string_view text) {
 
 }  // namespace
 
-// The commit finds the empty entry line and pushes X.
-void TapeKeys::pushRecalled() {
-    calc.s.StackPtr -= 1;
-    calc.form.setFocus(calc.form.cmdEnter);
-    calc.s.EntryOpen = true;
-    calc.s.ValueInXreg = false;
-    calc.commit.cmdEnter_Click();
-}
-
 void TapeKeys::lstDisplayReg_DblClick() {
     EngineState& s = calc.s;
     const std::size_t row = calc.tape.selected();
@@ -53,7 +44,7 @@ void TapeKeys::lstDisplayReg_DblClick() {
     const auto blanks = text.rfind("  ");
     s.Xreg = std::move(value);
     s.FnLabel = blanks == std::string::npos ? "Rtrv" : text.substr(blanks);
-    pushRecalled();
+    calc.commit.pushRecalled();
 }
 
 void TapeKeys::lstStack_Click() {
@@ -68,7 +59,7 @@ void TapeKeys::lstStack_Click() {
     }
     s.Xreg = value;
     s.FnLabel = "Rtrv";
-    pushRecalled();
+    calc.commit.pushRecalled();
 }
 
 TapeFileContent TapeKeys::present(TapeFileKind kind) const {

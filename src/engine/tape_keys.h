@@ -38,7 +38,6 @@ private:
     [[nodiscard]] TapeFileContent present(TapeFileKind kind) const;
     void take(const TapeFileContent& content);
     [[nodiscard]] std::optional<std::filesystem::path> askForTape();
-    void pushRecalled();
 
     Engine& calc;
     SettingsFile& settings;

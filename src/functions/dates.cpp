@@ -140,6 +140,7 @@ void Dates::Calander(DateOperation operation) {
         calc.s.FunctionResetMask &= ~kResetBit;
         Date1.reset();
     }
+    reading_ = "Date1";
     goOn([&](const Failure& failure) { reportIn("Calander", failure); }, [&] { perform(operation); });
 }
 

@@ -57,12 +57,12 @@ void changeRate(Engine& calc) {
     if (text.size() > kRateWidth) {
         throw Failure{FailureNumber::InvalidArgument};
     }
-    calc.s.TaxRate = static_cast<float>(wanted);
     SettingsFile settings;
     settings.setPath(calc.AppDataDir / SettingsFile::kName);
     SettingsRecord record = settings.read(kOptionsRecord);
     record.setTextB(kRateColumn, kRateWidth, text);
     settings.write(kOptionsRecord, record);
+    calc.s.TaxRate = static_cast<float>(wanted);
     calc.s.FnLabel = kRateLabel;
 }
 

@@ -44,10 +44,12 @@ double bothNumbers(int left, int right) {
 
 std::vector<Control*> disturbing(MainForm& form) {
     std::vector<Control*> controls{
-        &form.cmdF11,     &form.cmdF12,       &form.cmdDown,   &form.cmdXchgY,      &form.cmdLastx, &form.cmdChs,
-        &form.cmdSTO,     &form.cmdDigits,    &form.cmdEex,    &form.cmdNumPad[10], &form.mnuSave,  &form.mnuSaveTape,
-        &form.mnuSaveMem, &form.mnuTape,      &form.mnuRetMem, &form.mnuProgram,    &form.mnuPaste, &form.mnuSkins,
-        &form.mnuStd,     &form.mnuEngNormal, &form.mnuTrig,   &form.mnuConvert,    &form.mnuMag,   &form.mnuEngBinary};
+        &form.cmdF11,     &form.cmdF12,    &form.cmdDown,   &form.cmdXchgY,      &form.cmdLastx, &form.cmdChs,
+        &form.cmdSTO,     &form.cmdDigits, &form.cmdEex,    &form.cmdNumPad[10], &form.mnuSave,  &form.mnuSaveTape,
+        &form.mnuSaveMem, &form.mnuTape,   &form.mnuRetMem, &form.mnuProgram,    &form.mnuPaste, &form.mnuSkins};
+    for (const KeypadEntry& entry : form.keypadMenu()) {
+        controls.push_back(&entry.control);
+    }
     for (Control& key : form.cmdMath) {
         controls.push_back(&key);
     }
@@ -219,6 +221,9 @@ void Quiz::stop() {
     if (problemStood) {
         pushOnX(calc, {static_cast<double>(QuizRight), "Correct!"});
     } else {
+        // A maximum that was typed counts no more; X is the stack's again.
+        calc.s.Xreg = cellBelow(calc, 0);
+        calc.s.Yreg = cellBelow(calc, 1);
         ignore();
     }
 }

@@ -18,7 +18,8 @@ void setX(Engine& calc, const Result& result) {
 }  // namespace
 
 ValueCell cellBelow(const Engine& calc, int below) {
-    return calc.s.depth() > below ? calc.s.slot(calc.s.StackPtr - 1 - below) : ValueCell{};
+    // A result that was left below an empty stack is still the Y that is shown.
+    return calc.s.depth() >= below ? calc.s.slot(calc.s.StackPtr - 1 - below) : ValueCell{};
 }
 
 double operandBelow(const Engine& calc, int below) {

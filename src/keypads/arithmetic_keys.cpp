@@ -4,6 +4,7 @@
 #include "bases/binary_keys.h"
 #include "engine/checked_math.h"
 #include "engine/engine.h"
+#include "keypads/failure_messages.h"
 
 #include <array>
 #include <string>
@@ -113,6 +114,8 @@ std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& 
             calc.errorBox(BoxKind::Stop, "Subtrahend is greater than the minuend!");
         } else if (failure.number() == FailureNumber::Overflow) {
             calc.errorBox(BoxKind::Stop, "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
+        } else if (failure.number() == FailureNumber::BaseRange) {
+            calc.errorBox(BoxKind::Stop, failureMessage(failure.number(), index, s));
         }
     };
     const bool tagged = operands.left->isTagged() || operands.right->isTagged();

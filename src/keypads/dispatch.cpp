@@ -171,6 +171,7 @@ void Dispatch::leaveNothing(int index) {
     }
     const ValueCell kept = std::exchange(s.KeepX, ValueCell{});
     s.Xreg = kept.isEmpty() ? ValueCell{""} : kept;
+    calc.stackList.refresh();
     calc.commit.ShowSmallRegs();
     calc.focusEntry();
 }

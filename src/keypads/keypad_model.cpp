@@ -209,17 +209,7 @@ void KeypadModel::historyForward() {
 }
 
 void KeypadModel::tickMenu(Keypad keypad) {
-    struct Entry {
-        Control& control;
-        Keypad keypad;
-    };
-    const std::array<Entry, 6> entries{{{calc.form.mnuStd, Keypad::Standard},
-                                        {calc.form.mnuEngNormal, Keypad::Engineering},
-                                        {calc.form.mnuEngBinary, Keypad::Binary},
-                                        {calc.form.mnuMag, Keypad::Magnetics},
-                                        {calc.form.mnuTrig, Keypad::Trigonometry},
-                                        {calc.form.mnuConvert, Keypad::Convert}}};
-    for (const Entry& entry : entries) {
+    for (const KeypadEntry& entry : calc.form.keypadMenu()) {
         entry.control.checked = entry.keypad == keypad;
     }
 }

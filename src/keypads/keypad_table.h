@@ -2,7 +2,7 @@
 //
 // A key is a row. Caption, font, colour, tool tip, captions under the seven masks, help topic and
 // what the key does stand in one row of its keypad's table. Painters, tool tips, dispatch, help,
-// program words and tests all read these rows; nothing about a key is written anywhere else.
+// program words and tests all read these rows.
 #pragma once
 
 #include "engine/engine_state.h"

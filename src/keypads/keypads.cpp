@@ -55,13 +55,8 @@ void Keypads::hangOnForm() {
     for (int i = 0; i < static_cast<int>(form.optKey.size()); ++i) {
         form.optKey.at(static_cast<std::size_t>(i)).click = [this, i] { optKey_Click(i); };
     }
-    const std::pair<Control*, Keypad> menu[] = {
-        {&form.mnuStd, Keypad::Standard},      {&form.mnuEngNormal, Keypad::Engineering},
-        {&form.mnuTrig, Keypad::Trigonometry}, {&form.mnuConvert, Keypad::Convert},
-        {&form.mnuMag, Keypad::Magnetics},     {&form.mnuEngBinary, Keypad::Binary},
-    };
-    for (const auto& [entry, keypad] : menu) {
-        entry->click = [this, shown = keypad] {
+    for (const KeypadEntry& entry : form.keypadMenu()) {
+        entry.control.click = [this, shown = entry.keypad] {
             model.show(shown);
             calc.focusEntry();
         };

@@ -78,8 +78,7 @@ public:
     /// The locale's decimal character, '.' or ','.
     [[nodiscard]] virtual char decimalCharacter() const = 0;
 
-    /// The user's folder for this application's data, made if missing. Raises nothing; where it
-    /// cannot be made, writing to it fails later with a message.
+    /// The user's folder for this application's data; it need not be there yet. Raises nothing.
     [[nodiscard]] virtual std::filesystem::path dataFolder() const = 0;
     /// The folder that holds what was installed with the program (programs, tips, help).
     [[nodiscard]] virtual std::filesystem::path installedFolder() const = 0;

@@ -51,10 +51,7 @@ void ProgramMode::ToggleProgramMode() {
         return;
     }
     s.ModifierLatched = false;
-    for (Control* entry : {&calc.form.mnuStd, &calc.form.mnuEngNormal, &calc.form.mnuEngBinary, &calc.form.mnuMag,
-                           &calc.form.mnuTrig, &calc.form.mnuConvert}) {
-        entry->enabled = s.ProgramMode;
-    }
+    calc.form.enableKeypadMenu(s.ProgramMode);
     if (s.ProgramMode) {
         leave();
     } else {

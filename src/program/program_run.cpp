@@ -221,12 +221,8 @@ void ProgramRun::restoreFormat() {
         s.SavedDigits = digitsBefore_.value_or(s.SavedDigits);
         return;
     }
-    if (formatBefore_) {
-        calc.display.optFix_Click(*formatBefore_);
-    }
-    if (digitsBefore_) {
-        calc.setEntry(std::to_string(*digitsBefore_));
-        calc.display.cmdDigits_Click();
+    if (formatBefore_ || digitsBefore_) {
+        calc.display.useFormat(formatBefore_.value_or(s.Mode), digitsBefore_.value_or(s.DisplayDigits));
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyforge {
 
@@ -38,7 +39,7 @@ void Clipboard::mnuPaste_Click() {
         calc.commit.cmdEnter_Click();
     }
     const std::string clipped = calc.platform.clipboardText();
-    s.Xreg = withoutMargins(clipped);
+    const ValueCell before = std::exchange(s.Xreg, withoutMargins(clipped));
     const auto report = [&](const Failure& failure) {
         if (failure.number() != FailureNumber::TypeMismatch) {
             calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
@@ -46,14 +47,12 @@ void Clipboard::mnuPaste_Click() {
     };
     const bool isNumber = goOn(report, [&] { s.Xnum = calc.xNumber(); });
     if (!isNumber && !isBaseNumber(s.Xreg.textView())) {
+        s.Xreg = before;
         s.EntryOpen = false;
         return;
     }
     s.FnLabel = "Paste";
-    s.StackPtr -= 1;
-    calc.form.setFocus(calc.form.cmdEnter);
-    s.EntryOpen = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.pushRecalled();
 }
 
 }  // namespace tallyforge

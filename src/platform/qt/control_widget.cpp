@@ -276,8 +276,11 @@ void ControlWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ControlWidget::wheelEvent(QWheelEvent* event) {
     if (scrollBar_ != nullptr) {
+        // A touchpad sends many small turns, which add up.
         constexpr int kStep = 40;
-        scrollBar_->setValue(scrollBar_->value() - event->angleDelta().y() / kStep);
+        wheelTurn_ += event->angleDelta().y();
+        scrollBar_->setValue(scrollBar_->value() - wheelTurn_ / kStep);
+        wheelTurn_ %= kStep;
         event->accept();
     }
 }

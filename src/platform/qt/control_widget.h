@@ -55,6 +55,7 @@ private:
     FormView& view_;
     Control& control_;
     QScrollBar* scrollBar_ = nullptr;
+    int wheelTurn_ = 0;  ///< turned, and not yet a row
     FittedCaption caption_;
     double pixelsPerTwip_ = 0.0;
     bool held_ = false;     ///< the mouse button went down on it

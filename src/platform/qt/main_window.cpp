@@ -125,8 +125,9 @@ void MainWindow::syncWindow() {
 
 void MainWindow::moveEvent(QMoveEvent* event) {
     if (presented_ && !isMinimized()) {
-        form_.place.left = static_cast<int>(std::lround(event->pos().x() * kTwipsPerPixel));
-        form_.place.top = static_cast<int>(std::lround(event->pos().y() * kTwipsPerPixel));
+        // The place of the frame, which move() takes, too; the event has that of the contents.
+        form_.place.left = static_cast<int>(std::lround(pos().x() * kTwipsPerPixel));
+        form_.place.top = static_cast<int>(std::lround(pos().y() * kTwipsPerPixel));
     }
     QMainWindow::moveEvent(event);
 }

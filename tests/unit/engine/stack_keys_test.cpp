@@ -117,12 +117,12 @@ TEST_F(StackKeys_, ChangeSignOfATypedNumberChangesTheTextOnly) {
     commitText("6");
     type("1.50");
     stackKeys.cmdChs_Click();
-    EXPECT_EQ(calc.entryText(), "-1.5");
+    EXPECT_EQ(calc.entryText(), "-1.50");
     EXPECT_EQ(lastx(), "4");
     EXPECT_EQ(calc.s.depth(), 2);
-    EXPECT_EQ(calc.form.txtXreg.caret, 4U);
+    EXPECT_EQ(calc.form.txtXreg.caret, 5U);
     enter();
-    EXPECT_EQ(x(), "-1.5");
+    EXPECT_EQ(x(), "-1.50");
     EXPECT_EQ(lastx(), "6");
 }
 
