@@ -2,16 +2,13 @@
 #include "bases/base_number.h"
 
 #include "bases/binary_keys.h"
-#include "digit_text.h"
-#include "engine/engine.h"
-#include "support/test_platform.h"
+#include "engine/failure.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <functional>
 #include <limits>
-#include <random>
 #include <string>
 
 namespace tallyforge {
@@ -78,142 +75,6 @@ TEST(BaseNumber, AWordKeepsItsRightmostBitsInItsOwnBase) {
     EXPECT_EQ(cutToWord("FFFFFFFFFFFFFFFF", 'h', 64), "FFFFFFFFFFFFFFFF");
     EXPECT_EQ(cutToWord("0007", 'o', 64), "7");
     EXPECT_EQ(cutToWord("1F", 'b', 8), "1F") << "digits that do not fit stand as they are";
-}
-
-/// Operands of every length, the largest number and its neighbours among them.
-class Operands {
-public:
-    std::uint64_t next() {
-        constexpr std::uint64_t kEdges[] = {
-            0, 1, 2, kLargest, kLargest - 1, kLargest - 2, 1ULL << 63, (1ULL << 63) - 1};
-        const std::uint64_t drawn = random_();
-        return drawn % 16 == 0 ? kEdges[drawn / 16 % std::size(kEdges)] : drawn >> (random_() % 64);
-    }
-
-private:
-    std::mt19937_64 random_{20261121};
-};
-
-TEST(BaseNumber, ConversionsAgreeWithTheDigitByDigitMethod) {
-    Operands operands;
-    for (int i = 0; i < 60000; ++i) {
-        const std::uint64_t value = operands.next();
-        const std::string bits = digit_text::decimalToBits(std::to_string(value));
-        ASSERT_EQ(writeDigits(value, 'b'), bits);
-        ASSERT_EQ(writeDigits(value, 'h'), digit_text::bitsToHex(bits));
-        ASSERT_EQ(writeDigits(value, 'o'), digit_text::bitsToOctal(bits));
-        ASSERT_EQ(readDigits(bits, 'b'), value);
-    }
-}
-
-class BaseOperations : public ::testing::Test {
-protected:
-    /// What the calculator answers: digits of a tagged result in bits, or the number of a failure.
-    std::string answer(int key, const std::string& left, const std::string& right) {
-        calc.s.BaseRemainder.clear();
-        try {
-            const ValueCell result = keys.compute(key, "#" + left + "b", "#" + right + "b");
-            const std::string text{result.textView()};
-            return text.substr(1, text.size() - 2);
-        } catch (const Failure& failure) {
-            return "failure " + std::to_string(failure.code());
-        }
-    }
-    TestPlatform platform;
-    Engine calc{platform};
-    BinaryKeys keys{calc};
-};
-
-TEST_F(BaseOperations, AgreeWithTheDigitByDigitMethod) {
-    Operands operands;
-    int compared = 0;
-    for (int i = 0; i < 200000; ++i) {
-        const std::string left = writeDigits(operands.next(), 'b');
-        const std::string right = writeDigits(operands.next(), 'b');
-        const auto bounded = [](const std::string& bits) { return bits.size() > 64 ? std::string("failure 6") : bits; };
-        ASSERT_EQ(answer(3, left, right), bounded(digit_text::add(left, right)));
-        ASSERT_EQ(answer(2, left, right),
-                  digit_text::compare(left, right) < 0 ? "failure 4" : digit_text::subtract(left, right));
-        ASSERT_EQ(answer(1, left, right), bounded(digit_text::multiply(left, right)));
-        if (right != "0") {
-            std::string rest;
-            const std::string quotient = digit_text::divide(left, right, rest);
-            ASSERT_EQ(answer(0, left, right), quotient);
-            ASSERT_EQ(calc.s.BaseRemainder, rest == "0" ? "" : "#" + rest + "b");
-        } else {
-            ASSERT_EQ(answer(0, left, right), "failure 11");
-        }
-        compared += 5;
-    }
-    EXPECT_EQ(compared, 1000000);
-}
-
-TEST_F(BaseOperations, LogicAgreesWithTheDigitByDigitMethodAtEveryWordSize) {
-    Operands operands;
-    for (int i = 0; i < 120000; ++i) {
-        calc.s.WordSize = 4 + i % 61;
-        const std::string left = writeDigits(operands.next(), 'h');
-        const std::string right = writeDigits(operands.next(), 'h');
-        const auto logic = [&](const char* name) {
-            calc.s.Xreg = "#" + left + "h";
-            calc.s.Yreg = "#" + right + "h";
-            keys.LogicOp(name);
-            return std::string{calc.s.Xreg.textView()};
-        };
-        const auto tag = [](const std::string& digits) { return "#" + digits + "h"; };
-        ASSERT_EQ(logic("AND"), tag(digit_text::logic(left, right, [](auto a, auto b) { return a & b; })));
-        ASSERT_EQ(logic("OR"), tag(digit_text::logic(left, right, [](auto a, auto b) { return a | b; })));
-        ASSERT_EQ(logic("XOR"), tag(digit_text::logic(left, right, [](auto a, auto b) { return a ^ b; })));
-        const auto digits = static_cast<std::size_t>(calc.s.WordSize / 4);
-        const std::string zeros(std::max(digits, left.size()), '0');
-        ASSERT_EQ(logic("NOT"), tag(digit_text::logic(left, zeros, [](auto a, auto) { return 15 - a; })));
-    }
-}
-
-TEST_F(BaseOperations, EveryTurnAgreesWithItsBitTextAtEveryWordSize) {
-    Operands operands;
-    for (int i = 0; i < 20000; ++i) {
-        const int word = 4 + i % 61;
-        calc.s.WordSize = word;
-        const std::uint64_t value = operands.next();
-        for (const char* code : {"rL", "rR", "rLB", "rRB", "sL", "sR", "sLB", "sRB", "AsR"}) {
-            calc.s.Xreg = tagged(value, 'd');
-            keys.RotateShift(code);
-            if (std::string_view(code).ends_with('B') && word < 9) {
-                ASSERT_EQ(calc.s.Xreg.textView(), kNothingDone);
-                continue;
-            }
-            std::string bits = writeDigits(value, 'b');
-            bits.insert(0,
-                        bits.size() < static_cast<std::size_t>(word) ? static_cast<std::size_t>(word) - bits.size() : 0,
-                        '0');
-            const std::size_t step = std::string_view(code).ends_with('B') ? 8 : 1;
-            std::string turned = bits;
-            switch (code[0] == 'A'   ? 'A'
-                    : code[0] == 'r' ? (code[1] == 'L' ? 'l' : 'r')
-                                     : (code[1] == 'L' ? 'L' : 'R')) {
-                case 'l':
-                    turned = bits.substr(step) + bits.substr(0, step);
-                    break;
-                case 'r':
-                    turned = bits.substr(bits.size() - step) + bits.substr(0, bits.size() - step);
-                    break;
-                case 'L':
-                    turned = bits.substr(step) + std::string(step, '0');
-                    break;
-                case 'R':
-                    turned = bits.substr(0, bits.size() - step);
-                    break;
-                default:
-                    turned = bits.substr(0, 1) + bits.substr(0, bits.size() - 1);
-                    break;
-            }
-            if (turned.size() > static_cast<std::size_t>(word)) {
-                turned = turned.substr(turned.size() - static_cast<std::size_t>(word));
-            }
-            ASSERT_EQ(calc.s.Xreg.textView(), tagged(readDigits(turned, 'b'), 'd')) << code << " word " << word;
-        }
-    }
 }
 
 struct Turned {

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Conversions and addition digit by digit on texts, as on paper. What the calculator counts in
-// machine integers must give the same digits.
+// Numbers of a base digit by digit on texts, as on paper: conversions, the four operations, logic
+// and shifts. What the calculator counts in machine integers must give the same digits.
 #pragma once
 
 #include <algorithm>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace tallyforge::digit_text {
+
+inline std::string trimmed(std::string digits) {
+    digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size()));
+    return digits.empty() ? "0" : digits;
+}
 
 /// Halves a decimal text; returns the remainder.
 inline int halve(std::string& decimal) {
@@ -17,59 +24,112 @@ inline int halve(std::string& decimal) {
         digit = static_cast<char>('0' + value / 2);
         rest = value % 2;
     }
-    const auto first = decimal.find_first_not_of('0');
-    decimal.erase(0, std::min(first, decimal.size()));
+    decimal.erase(0, std::min(decimal.find_first_not_of('0'), decimal.size()));
     return rest;
 }
 
 inline std::string decimalToBits(std::string decimal) {
-    std::string bits;
-    decimal.erase(0, std::min(decimal.find_first_not_of('0'), decimal.size()));
+    std::string reversed;
     while (!decimal.empty()) {
-        bits.insert(bits.begin(), static_cast<char>('0' + halve(decimal)));
+        reversed += static_cast<char>('0' + halve(decimal));
     }
-    return bits.empty() ? "0" : bits;
+    return trimmed({reversed.rbegin(), reversed.rend()});
 }
 
+/// Doubles the decimal text, bit after bit.
+inline std::string bitsToDecimal(const std::string& bits) {
+    std::string reversed = "0";
+    for (const char bit : bits) {
+        int carry = bit - '0';
+        for (char& digit : reversed) {
+            const int value = (digit - '0') * 2 + carry;
+            digit = static_cast<char>('0' + value % 10);
+            carry = value / 10;
+        }
+        if (carry != 0) {
+            reversed += '1';
+        }
+    }
+    return trimmed({reversed.rbegin(), reversed.rend()});
+}
+
+inline constexpr std::string_view kDigits = "0123456789ABCDEF";
+
+/// Each `group` bits from the right as one digit.
 inline std::string bitsInGroups(std::string bits, std::size_t group) {
     bits.insert(0, (group - bits.size() % group) % group, '0');
     std::string digits;
     for (std::size_t at = 0; at < bits.size(); at += group) {
-        int value = 0;
+        std::size_t value = 0;
         for (std::size_t bit = 0; bit < group; ++bit) {
-            value = value * 2 + (bits[at + bit] - '0');
+            value = value * 2 + static_cast<std::size_t>(bits[at + bit] - '0');
         }
-        digits += "0123456789ABCDEF"[value];
+        digits += kDigits[value];
     }
-    const auto first = digits.find_first_not_of('0');
-    return first == std::string::npos ? "0" : digits.substr(first);
+    return trimmed(digits);
 }
 
-inline std::string bitsToHex(const std::string& bits) {
-    return bitsInGroups(bits, 4);
+/// Each digit as `group` bits.
+inline std::string groupsInBits(std::string_view digits, std::size_t group) {
+    std::string bits;
+    for (const char digit : digits) {
+        for (std::size_t bit = group; bit-- > 0;) {
+            bits += (kDigits.find(digit) >> bit & 1U) != 0 ? '1' : '0';
+        }
+    }
+    return trimmed(bits);
 }
-inline std::string bitsToOctal(const std::string& bits) {
-    return bitsInGroups(bits, 3);
+
+/// The digits of `bits` in the base of `letter`.
+inline std::string fromBits(const std::string& bits, char letter) {
+    switch (letter) {
+        case 'h':
+            return bitsInGroups(bits, 4);
+        case 'o':
+            return bitsInGroups(bits, 3);
+        case 'd':
+            return bitsToDecimal(bits);
+        default:
+            return trimmed(bits);
+    }
+}
+
+/// The bits of `digits` in the base of `letter`.
+inline std::string toBits(const std::string& digits, char letter) {
+    switch (letter) {
+        case 'h':
+            return groupsInBits(digits, 4);
+        case 'o':
+            return groupsInBits(digits, 3);
+        case 'd':
+            return decimalToBits(digits);
+        default:
+            return trimmed(digits);
+    }
+}
+
+/// `bits` with leading zeros up to `width`.
+inline std::string padded(std::string bits, std::size_t width) {
+    bits.insert(0, bits.size() < width ? width - bits.size() : 0, '0');
+    return bits;
+}
+
+/// The right end of `bits`.
+inline std::string rightmost(const std::string& bits, std::size_t width) {
+    return bits.size() > width ? bits.substr(bits.size() - width) : bits;
 }
 
 inline std::string add(const std::string& left, const std::string& right) {
-    std::string sum;
+    const std::size_t width = std::max(left.size(), right.size()) + 1;
+    std::string sum = padded(left, width);
+    const std::string addend = padded(right, width);
     int carry = 0;
-    for (std::size_t place = 0; place < std::max(left.size(), right.size()) || carry != 0; ++place) {
-        const auto bit = [place](const std::string& bits) {
-            return place < bits.size() ? bits[bits.size() - 1 - place] - '0' : 0;
-        };
-        const int total = bit(left) + bit(right) + carry;
-        sum.insert(sum.begin(), static_cast<char>('0' + total % 2));
+    for (std::size_t place = width; place-- > 0;) {
+        const int total = (sum[place] - '0') + (addend[place] - '0') + carry;
+        sum[place] = static_cast<char>('0' + total % 2);
         carry = total / 2;
     }
-    const auto first = sum.find_first_not_of('0');
-    return first == std::string::npos ? "0" : sum.substr(first);
-}
-
-inline std::string trimmed(const std::string& bits) {
-    const auto first = bits.find_first_not_of('0');
-    return first == std::string::npos ? "0" : bits.substr(first);
+    return trimmed(sum);
 }
 
 /// -1, 0 or 1 as left is smaller, equal or greater; neither has leading zeros.
@@ -96,15 +156,22 @@ inline std::string subtract(const std::string& left, const std::string& right) {
     return trimmed(sum);
 }
 
+/// Each pair of bits into the sum of its column, then the carries from column to column.
 inline std::string multiply(const std::string& left, const std::string& right) {
-    std::string product = "0";
-    for (const char bit : right) {
-        product = trimmed(product + '0');
-        if (bit == '1') {
-            product = add(product, left);
+    std::vector<int> columns(left.size() + right.size(), 0);
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        for (std::size_t j = 0; j < right.size(); ++j) {
+            columns[i + j + 1] += (left[i] - '0') * (right[j] - '0');
         }
     }
-    return product;
+    std::string product(columns.size(), '0');
+    int carry = 0;
+    for (std::size_t column = columns.size(); column-- > 0;) {
+        const int total = columns[column] + carry;
+        product[column] = static_cast<char>('0' + total % 2);
+        carry = total / 2;
+    }
+    return trimmed(product);
 }
 
 /// Quotient; `rest` becomes the remainder. The divisor is not 0.
@@ -124,14 +191,13 @@ inline std::string divide(const std::string& dividend, const std::string& diviso
 
 /// Digit by digit on hexadecimal texts; `combine` takes and gives a digit's value.
 template <typename Combine>
-std::string logic(std::string left, std::string right, Combine combine) {
-    const std::string digits = "0123456789ABCDEF";
+std::string logic(const std::string& left, const std::string& right, Combine combine) {
     const std::size_t width = std::max(left.size(), right.size());
-    left.insert(0, width - left.size(), '0');
-    right.insert(0, width - right.size(), '0');
+    const std::string one = padded(left, width);
+    const std::string other = padded(right, width);
     std::string result;
     for (std::size_t i = 0; i < width; ++i) {
-        result += digits[combine(digits.find(left[i]), digits.find(right[i]))];
+        result += kDigits[combine(kDigits.find(one[i]), kDigits.find(other[i]))];
     }
     return trimmed(result);
 }
