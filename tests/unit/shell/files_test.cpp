@@ -498,5 +498,100 @@ TEST_F(Files, StoringChangesNeitherXNorTheStack) {
     EXPECT_EQ(form().lblName.text, "");
 }
 
+TEST_F(Files, ARegisterOfZeroComesBackEmpty) {
+    const auto fill = [this] {
+        for (const auto& [number, value] : {std::pair{"5", "0"}, std::pair{"6", "0.00"}, std::pair{"7", "#0h"}}) {
+            platform.clipboard = value;
+            choose(form().mnuPaste);
+            type(number);
+            clickWith(kShift, form().cmdSTO);
+        }
+    };
+    const auto cameBack = [this] {
+        for (const std::size_t number : {5U, 6U}) {
+            EXPECT_EQ(reg(number), "");
+            EXPECT_EQ(form().txtReg_m.at(number - 1).text, "");
+        }
+        EXPECT_EQ(reg(7), "#0h") << "a number of a base keeps its zero";
+        type("5");
+        choose(form().cmdSTO);
+        EXPECT_EQ(x(), "0") << "and the empty one recalls as it did";
+    };
+    fill();
+    save("t.txt");
+    clickWith(kAlt, form().cmdReset);
+    retrieve("t.txt");
+    cameBack();
+    fill();
+    platform.texts = {"regs.txt"};
+    choose(form().mnuSaveMem);
+    clickWith(kCtrl, form().cmdReset);
+    retrieveRegisters("regs.txt");
+    cameBack();
+}
+
+TEST_F(Files, ANameOfARegisterSurvivesAPlainResetAlone) {
+    std::string& name = s().RegisterNames[static_cast<std::size_t>(keyOfRegister(3))];
+    const auto giveName = [&] {
+        platform.texts = {"volt"};
+        type("3");
+        clickWith(kCtrl, form().cmdSTO);
+    };
+    giveName();
+    choose(form().cmdReset);
+    EXPECT_EQ(name, "volt");
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    EXPECT_EQ(name, "volt") << "the undo of a plain reset leaves it alone, too";
+    clickWith(kAlt, form().cmdReset);
+    EXPECT_EQ(name, "3   ");
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    EXPECT_EQ(name, "volt");
+}
+
+TEST_F(Files, LabelsWithCommasComeBack) {
+    for (const std::string_view label : {"a,b", ",", "1,5,", "23  ,Register 23"}) {
+        s().FnLabel = label;
+        s().Xreg = 1234.5;
+        calc().commit.PushResult();
+        EXPECT_TRUE(tape().back().starts_with(label)) << tape().back();
+    }
+    const auto before = everything();
+    save("t.txt");
+    clickWith(kAlt, form().cmdReset);
+    retrieve("t.txt");
+    EXPECT_EQ(everything(), before);
+    doubleClickRow(form(), form().lstDisplayReg, calc().tape.count() - 1);
+    EXPECT_EQ(x(), "1234.5");
+}
+
+TEST_F(Files, ANameOfTwentyFiveCharactersIsTakenWholeAndALongerOneCut) {
+    const std::string whole = "tape-of-25-characters.txt";
+    ASSERT_EQ(whole.size(), 25U);
+    enter("1");
+    platform.texts = {whole};
+    platform.answers = {Answer::Yes};
+    choose(form().mnuSaveTape);
+    EXPECT_FALSE(file(whole).empty());
+    start();
+    EXPECT_EQ(s().TapeFileName, whole) << "the default of the next start";
+    EXPECT_EQ(s().MemoryFileName, "registers.txt") << "its neighbour in the settings stays";
+    enter("2");
+    platform.boxes.clear();
+    platform.texts = {whole + "-and-more"};
+    platform.answers = {Answer::Yes, Answer::No};
+    choose(form().mnuSaveTape);
+    EXPECT_EQ(platform.boxes.at(0).text, whole + " exists, do you want to overwrite it?");
+    EXPECT_FALSE(std::filesystem::exists(platform.folder / (whole + "-and-more")));
+    clickWith(kAlt, form().cmdReset);
+    retrieve(whole + "?");
+    EXPECT_EQ(x(), "2") << "a longer name finds what it was saved under";
+    platform.texts = {"registers-25-letters.text-and-more"};
+    platform.answers = {Answer::Yes};
+    choose(form().mnuSaveMem);
+    start();
+    EXPECT_EQ(s().MemoryFileName, "registers-25-letters.text");
+    EXPECT_EQ(s().TapeFileName, whole);
+}
+
 }  // namespace
 }  // namespace tallyforge

@@ -179,6 +179,20 @@ TEST_F(Settings, ReservedBytesStayAsTheyStand) {
     }
 }
 
+TEST_F(Settings, AFileBehindALinkStaysThereWithItsPermissions) {
+    using std::filesystem::perms;
+    const std::filesystem::path real = platform.folder / "real.rec";
+    const std::filesystem::path link = platform.folder / SettingsFile::kName;
+    std::filesystem::rename(link, real);
+    std::filesystem::permissions(real, perms::owner_read | perms::owner_write);
+    std::filesystem::create_symlink("real.rec", link);
+    choose(form().mnuAOT);
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(std::filesystem::status(real).permissions(), perms::owner_read | perms::owner_write);
+    start();
+    EXPECT_TRUE(form().mnuAOT.checked);
+}
+
 TEST_F(Settings, AMissingShortOrNoisyFileIsToldAndHarmsNothing) {
     const std::string whole = bytes();
     std::string noise(3750, 'x');

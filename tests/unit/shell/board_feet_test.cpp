@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Board feet take their three inputs in any order, the length in feet or in inches.
+#include "support/bank_fixture.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace tallyforge {
+namespace {
+
+class BoardFeet : public BankAtHand {
+protected:
+    static constexpr std::size_t kKey = 19;
+};
+
+struct Input {
+    const char* number;
+    std::uint8_t mask;
+    const char* label;
+};
+
+TEST_F(BoardFeet, ComeInAllSixOrders) {
+    constexpr Input kThick{"1", kShift, "thk\""};
+    constexpr Input kWide{"6", kCtrl, "Width\""};
+    for (const Input& length : {Input{"8", kAlt, "L(ft)"}, Input{"96", kShift | kAlt, "L(in)"}}) {
+        const std::array<Input, 3> inputs{kThick, kWide, length};
+        std::array<std::size_t, 3> order{0, 1, 2};
+        do {
+            SCOPED_TRACE(std::string(length.label) + " " + std::to_string(order[0]) + std::to_string(order[1]) +
+                         std::to_string(order[2]));
+            choose(form().cmdReset);
+            for (const std::size_t next : order) {
+                type(inputs.at(next).number);
+                bank(kKey, inputs.at(next).mask);
+            }
+            EXPECT_EQ(x(), "4");
+            EXPECT_EQ(label(), "bf");
+            EXPECT_EQ(s().depth(), 1);
+            ASSERT_EQ(tape().size(), 4U);
+            for (std::size_t i = 0; i < order.size(); ++i) {
+                EXPECT_EQ(label(order.size() - i), inputs.at(order.at(i)).label) << "input " << i;
+            }
+        } while (std::next_permutation(order.begin(), order.end()));
+    }
+}
+
+}  // namespace
+}  // namespace tallyforge
