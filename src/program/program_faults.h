@@ -11,7 +11,7 @@
 
 namespace tallyforge {
 
-/// Numbers of faults that no calculator key raises.
+/// Numbers of the faults that a program raises by itself, beside those of the keys it presses.
 enum class ProgramFaultNumber : int {
     ShortButtonName = 4,
     Overflow = 6,
