@@ -22,6 +22,7 @@ protected:
         choose(form().mnuPaste);
     }
     std::string lastBox() { return platform.boxes.empty() ? "" : platform.boxes.back().text; }
+    std::string lastTitle() { return platform.boxes.empty() ? "" : platform.boxes.back().title; }
     std::string line() { return tape().back(); }
 };
 
@@ -88,6 +89,7 @@ TEST_F(BinaryKeypad, ThePasteOfANumberTooLongIsHeldButNotCountedWith) {
     EXPECT_EQ(s().depth(), 1);
     bank(12);
     EXPECT_EQ(lastBox(), "Number outside of range (#0b to #1111.... (64 TOTAL) ....1111b)");
+    EXPECT_EQ(lastTitle(), "cmdFunctions Error!");
     put("18446744073709551616");
     bank(6);
     EXPECT_EQ(lastBox(), "Exceeded maximum number (1.845e19)!");
@@ -96,6 +98,86 @@ TEST_F(BinaryKeypad, ThePasteOfANumberTooLongIsHeldButNotCountedWith) {
     EXPECT_EQ(x(), "#FFFFFFFFFFFFFFFFh");
     bank(6, kShift);
     EXPECT_EQ(lastBox(), "Real number required!");
+}
+
+TEST_F(BinaryKeypad, SixtyFiveBitsAreRefusedByEveryKeyThatReadsThem) {
+    const std::string tooLong = "#1" + std::string(64, '0') + "b";
+    for (const std::size_t key : {4U, 6U, 7U, 12U, 13U, 14U, 15U, 18U, 22U}) {
+        SCOPED_TRACE(key);
+        choose(form().cmdReset);
+        platform.boxes.clear();
+        put(tooLong);
+        EXPECT_TRUE(platform.boxes.empty()) << "the paste itself says nothing";
+        bank(key);
+        ASSERT_EQ(platform.boxes.size(), 1U);
+        EXPECT_EQ(lastBox(), "Number outside of range (#0b to #1111.... (64 TOTAL) ....1111b)");
+        EXPECT_EQ(lastTitle(), "cmdFunctions Error!");
+        EXPECT_EQ(calc().text(s().slot(1)), tooLong) << "it stays where it is";
+    }
+}
+
+TEST_F(BinaryKeypad, OneMoreThanTheLargestIsRefusedHoweverItComes) {
+    const auto refused = [&] {
+        bank(6);
+        EXPECT_EQ(lastBox(), "Exceeded maximum number (1.845e19)!");
+        EXPECT_EQ(lastTitle(), "cmdFunctions Error!");
+        platform.boxes.clear();
+    };
+    put("18446744073709551616");
+    refused();
+    choose(form().cmdReset);
+    enter("18446744073709551616");
+    refused();
+    choose(form().cmdReset);
+    enter("1e20");
+    refused();
+    choose(form().cmdReset);
+    type("18446744073709551615");
+    bank(6, kAlt);
+    EXPECT_EQ(x(), "#18446744073709551615d");
+    EXPECT_TRUE(platform.boxes.empty());
+    type("#1h");
+    press(kKeyEnter, 13);
+    type("+");
+    EXPECT_EQ(lastBox(), eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
+    EXPECT_EQ(lastTitle(), "cmdMath Error!");
+    EXPECT_EQ(calc().text(s().slot(1)), "#18446744073709551615d") << "the operands stay";
+    EXPECT_EQ(s().depth(), 2);
+}
+
+TEST_F(BinaryKeypad, APasteLooksAtTheLastLetterAlone) {
+    for (const std::string text : {"#1Fb", "#129o", "#1Gh"}) {
+        SCOPED_TRACE(text);
+        put(text);
+        EXPECT_EQ(x(), text);
+        EXPECT_EQ(s().depth(), 1);
+        EXPECT_TRUE(platform.boxes.empty());
+        choose(form().cmdReset);
+    }
+    for (const char* text : {"#12", "#", "12h", "#1H", "1e9999999"}) {
+        SCOPED_TRACE(text);
+        put(text);
+        EXPECT_EQ(s().depth(), 0);
+    }
+}
+
+TEST_F(BinaryKeypad, ResultsAreCutByTheCommitOnly) {
+    word("8");
+    type("#FFh");
+    press(kKeyEnter, 13);
+    type("#1h+");
+    EXPECT_EQ(x(), "#0h");
+    EXPECT_EQ(calc().text(s().slot(1)), "#0h");
+    EXPECT_TRUE(platform.boxes.empty());
+    put("#10h");
+    type("#11h*");
+    EXPECT_EQ(x(), "#10h");
+    put("#FFh");
+    type("1");
+    clickWith(kShift, form().cmdSTO);
+    put("#2h");
+    clickWith(kCtrl, form().cmdMath[3]);
+    EXPECT_EQ(reg(1), "#101h") << "what goes into a register is not committed";
 }
 
 TEST_F(BinaryKeypad, AWordOfEightCutsOnCommit) {
@@ -185,21 +267,62 @@ TEST_F(BinaryKeypad, TheEdgesOfArithmetic) {
     put("#10b");
     type("-");
     EXPECT_EQ(lastBox(), "Subtrahend is greater than the minuend!");
+    EXPECT_EQ(lastTitle(), "cmdMath Error!");
     EXPECT_EQ(x(), "");
 }
 
+struct Mixed {
+    const char* y;
+    const char* x;
+    char operation;
+    const char* result;     ///< X afterwards
+    const char* remainder;  ///< what Mod gives behind it
+    const char* box = "";
+};
+
+constexpr const char* kGreater = "Subtrahend is greater than the minuend!";
+
+// A plain number counts by its whole value, half to even, one below zero as 0; the result has the
+// base of the one that has one. A division by zero is quiet and leaves the divisor.
+constexpr Mixed kMixed[] = {
+    {"#10h", "3", '+', "#13h", "0"},      {"#10h", "3", '-', "#Dh", "0"},      {"#10h", "3", '*', "#30h", "0"},
+    {"#10h", "3", '/', "#5h", "#1h"},     {"19", "#11b", '+', "#10110b", "0"}, {"19", "#11b", '-', "#10000b", "0"},
+    {"19", "#11b", '*', "#111001b", "0"}, {"19", "#11b", '/', "#110b", "#1b"}, {"#10h", "2.5", '+', "#12h", "0"},
+    {"#10h", "2.5", '-', "#Eh", "0"},     {"#10h", "2.5", '*', "#20h", "0"},   {"#10h", "2.5", '/', "#8h", "0"},
+    {"3.5", "#3o", '+', "#7o", "0"},      {"3.5", "#3o", '-', "#1o", "0"},     {"3.5", "#3o", '*', "#14o", "0"},
+    {"3.5", "#3o", '/', "#1o", "#1o"},    {"#10h", "0.4", '+', "#10h", "0"},   {"#10h", "0.4", '/', "0.4", "0"},
+    {"#10h", "-1", '+', "#10h", "0"},     {"#10h", "-1", '-', "#10h", "0"},    {"#10h", "-1", '*', "#0h", "0"},
+    {"#10h", "-1", '/', "-1", "0"},       {"-1", "#10h", '+', "#10h", "0"},    {"-1", "#10h", '-', "", "0", kGreater},
+    {"-1", "#10h", '*', "#0h", "0"},      {"-1", "#10h", '/', "#0h", "0"},     {"-2.5", "#0d", '-', "#0d", "0"},
+};
+
 TEST_F(BinaryKeypad, PlainNumbersBesideTaggedOnes) {
+    for (const Mixed& mixed : kMixed) {
+        SCOPED_TRACE(std::string(mixed.y) + " " + mixed.operation + " " + mixed.x);
+        choose(form().cmdReset);
+        platform.boxes.clear();
+        put(mixed.y);
+        put(mixed.x);
+        type(std::string(1, mixed.operation));
+        EXPECT_EQ(x(), mixed.result);
+        EXPECT_EQ(lastBox(), mixed.box);
+        EXPECT_EQ(s().depth(), *mixed.box == '\0' ? 1 : 2) << "operands that cannot be subtracted stay";
+        choose(form().cmdChs);
+        EXPECT_EQ(x(), mixed.remainder);
+    }
+}
+
+TEST_F(BinaryKeypad, ATaggedNumberCountsOnEveryKeypad) {
     put("#10h");
-    enter("2.5");
-    type("+");
-    EXPECT_EQ(x(), "#12h");
-    put("#3b");
-    enter("-1");
     choose(form().mnuStd);
-    put("#10h");
     enter("1");
     type("+");
-    EXPECT_EQ(x(), "#11h") << "a tagged number counts on every keypad";
+    EXPECT_EQ(x(), "#11h");
+    type("1");
+    choose(form().cmdChs);
+    press(kKeyEnter, 13);
+    type("+");
+    EXPECT_EQ(x(), "#11h") << "a negative number counts as 0";
 }
 
 TEST_F(BinaryKeypad, RegistersWithTaggedContents) {
@@ -269,6 +392,7 @@ TEST_F(BinaryKeypad, APlainNumberIsNotShifted) {
     const std::size_t lines = calc().tape.lines();
     bank(7);
     EXPECT_EQ(lastBox(), eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
+    EXPECT_EQ(lastTitle(), "cmdFunctions Error!");
     EXPECT_EQ(x(), "5");
     EXPECT_EQ(s().depth(), 1);
     EXPECT_EQ(calc().tape.lines(), lines);
