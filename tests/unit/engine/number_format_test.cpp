@@ -14,6 +14,23 @@
 namespace tallyforge {
 namespace {
 
+TEST(NumbersBeyondTheRange, AreTooLargeOrReadAsZero) {
+    const std::string zeros(400, '0');
+    for (const std::string& large :
+         {std::string("1.5e400"), std::string("-0.5e400"), "1" + zeros, "1" + zeros + "e-50", "0." + zeros + "1e800",
+          std::string("1e99999999999999999999"), std::string("00012.5E+310"), std::string("179769313486231581e291")}) {
+        EXPECT_THROW(static_cast<void>(readNumber(large, '.')), Failure) << large;
+    }
+    for (const std::string& small :
+         {std::string("1.5e-400"), "0." + zeros + "1", "." + zeros + "25e50", "1" + zeros + "e-800",
+          std::string("1e-99999999999999999999"), std::string("2e-324")}) {
+        EXPECT_EQ(readNumber(small, '.'), 0.0) << small;
+    }
+    EXPECT_TRUE(std::signbit(readNumber("-1e-400", '.')));
+    EXPECT_EQ(readNumber("5e-324", '.'), 5e-324) << "the least of all";
+    EXPECT_EQ(readNumber("1,5e-310", ','), 1.5e-310);
+}
+
 TEST(PlainText, HasUpToFifteenDigits) {
     EXPECT_EQ(plainText(1.5, '.'), "1.5");
     EXPECT_EQ(plainText(-3.0, '.'), "-3");
