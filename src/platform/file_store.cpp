@@ -121,9 +121,14 @@ void writeWhole(const std::filesystem::path& path, std::string_view bytes) {
 }
 
 std::string readWhole(const std::filesystem::path& path, std::size_t limit) {
-    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+    // Without waiting: a pipe in the place of a file would keep the calculator for ever.
+    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
     if (!file.ok()) {
         throw FileError{problemOf(errno)};
+    }
+    struct stat opened {};
+    if (::fstat(file.number(), &opened) != 0 || !S_ISREG(opened.st_mode)) {
+        throw FileError{FileProblem::NoAccess};
     }
     constexpr std::size_t kBlock = 65536;
     std::string bytes;

@@ -104,6 +104,18 @@ TEST_F(FileStore, AFolderThatIsMissingOrAFileIsNotFound) {
     EXPECT_EQ(problemOfWriting("t.txt/t.txt", "new"), FileProblem::NotFound);
 }
 
+TEST_F(FileStore, WhatIsNoPlainFileIsNotRead) {
+    ASSERT_EQ(::mkfifo((disk.path / "pipe").c_str(), 0600), 0);
+    for (const std::filesystem::path& path : {disk.path / "pipe", disk.path, std::filesystem::path("/dev/zero")}) {
+        try {
+            static_cast<void>(readWhole(path, 1000));
+            ADD_FAILURE() << path;
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.problem(), FileProblem::NoAccess) << path;
+        }
+    }
+}
+
 TEST_F(FileStore, WhatIsNoPlainFileIsNotReplaced) {
     std::filesystem::create_directory(disk.path / "folder");
     ASSERT_EQ(::mkfifo((disk.path / "pipe").c_str(), 0600), 0);
