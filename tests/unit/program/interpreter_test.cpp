@@ -79,6 +79,20 @@ TEST_F(Interpreter, AnIfRunsItsBlockOnlyWhereItHolds) {
     EXPECT_EQ(said(), Said{});
 }
 
+TEST_F(Interpreter, KeepsLessOrEqualAsLess) {
+    const auto holds = [&](const std::string& test) {
+        runSection("aa = 0\nif " + test + " then\naa = 1\nendif");
+        EXPECT_EQ(said(), Said{});
+        return variable("aa") == 1.0;
+    };
+    EXPECT_TRUE(holds("2 <= 3"));
+    EXPECT_FALSE(holds("3 <= 3"));
+    EXPECT_FALSE(holds("4 <= 3"));
+    EXPECT_TRUE(holds("3 >= 2"));
+    EXPECT_FALSE(holds("3 >= 3"));
+    EXPECT_FALSE(holds("2 >= 3"));
+}
+
 TEST_F(Interpreter, BothSidesOfAnIfAreTakenOffTheStack) {
     runSection("7\nif 1 2 + = 3 then\nendif");
     EXPECT_EQ(x(), "7");
@@ -332,6 +346,57 @@ TEST_F(Interpreter, AFileThatVanishesIsMissedAtTheNextKey) {
     run();
     EXPECT_EQ(said(), Said{"Program Error!: Error 76 - No program found!"});
     EXPECT_EQ(s().depth(), 1);
+}
+
+/// A desktop on which the program's file goes while a box is up.
+class Vanishing : public TestPlatform {
+public:
+    Vanishing() {
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file) << "# aa\nlbl init\nend\nlbl a\naa = 1\numsg\n\\gone\ngsb sub\naa = aa 10 *\nend\n"
+                               "lbl sub\naa = aa 2 +\nif aa < 9\nglb sub\nendif\nend\n";
+        texts.push_back("test");
+    }
+    Answer messageBox(const MessageBox& box) override {
+        if (box.title == moment) {
+            std::filesystem::remove(file);
+        }
+        return TestPlatform::messageBox(box);
+    }
+    const std::filesystem::path file = folder / "programs/test.rec";
+    std::string moment;
+};
+
+TEST(VanishingProgram, RunsToItsEndAndIsMissedAtTheNextKey) {
+    Vanishing desktop;
+    Calculator calculator(desktop);
+    calculator.start();
+    MainForm& form = calculator.engine().form;
+    const auto aa = [&] { return calculator.programs().state.variables.GetProgramVariable("aa"); };
+    click(form, form.mnuProgram);
+    desktop.boxes.clear();
+    desktop.moment = "Attention!";
+    click(form, form.cmdFunctions.at(15));
+    ASSERT_EQ(desktop.boxes.size(), 1U);
+    EXPECT_EQ(desktop.boxes.front().text, "gone");
+    EXPECT_FALSE(std::filesystem::exists(desktop.file));
+    EXPECT_EQ(aa(), 90.0) << "calls, jumps and returns";
+    click(form, form.cmdFunctions.at(15));
+    ASSERT_EQ(desktop.boxes.size(), 2U);
+    EXPECT_EQ(desktop.boxes.back().text, "Error 76 - No program found!");
+    EXPECT_EQ(aa(), 90.0);
+}
+
+TEST(VanishingProgram, IsNotLoadedWhereItGoesWhileTheUserIsAsked) {
+    Vanishing desktop;
+    Calculator calculator(desktop);
+    calculator.start();
+    desktop.moment = "Replace file?";
+    click(calculator.engine().form, calculator.engine().form.mnuProgram);
+    ASSERT_EQ(desktop.boxes.size(), 2U);
+    EXPECT_EQ(desktop.boxes.back().title, "Program Error!");
+    EXPECT_EQ(desktop.boxes.back().text, "Error 76 (Path not found)");
+    EXPECT_FALSE(calculator.engine().s.ProgramMode);
 }
 
 TEST_F(Interpreter, AFileThatWasChangedCountsAtTheNextKey) {

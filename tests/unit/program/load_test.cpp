@@ -219,6 +219,16 @@ TEST_F(Load, ASecondLoadForgetsTheNamesOfKeys) {
     EXPECT_EQ(caption(kKeyA), "A");
 }
 
+TEST_F(Load, ASecondLoadLeavesTheValuesUntilItsDeclaration) {
+    loadProgram("# aa bb\nlbl init\nend\nlbl a\naa = 5\nbb = 6\nend\n");
+    run();
+    loadProgram("no declaration\nlbl init\nend\n");
+    EXPECT_EQ(programState().variables.ProgramVarValues, (std::vector<double>{0.0, 5.0, 6.0}));
+    EXPECT_EQ(variable("aa"), 0.0) << "the names are forgotten";
+    loadProgram("# cc\nlbl init\nend\n");
+    EXPECT_EQ(programState().variables.ProgramVarValues, (std::vector<double>{0.0, 0.0}));
+}
+
 TEST_F(Load, InitClearsFlagsVariablesAndMarks) {
     loadProgram("# aa\nlbl init\nend\nlbl a\naa = 5\nsf-3\nend\n");
     run();

@@ -148,6 +148,20 @@ TEST_F(ProgramModeKeys, ATraceHasALineForEachWord) {
     EXPECT_EQ(trace().find("11/20", 5), std::string::npos) << "the heading is written once a load";
 }
 
+TEST_F(ProgramModeKeys, ATraceThatCannotBeWrittenEndsTheRun) {
+    runSection("5\n6");
+    std::filesystem::create_directories(platform.folder / "Traces/Traced.txt");
+    run(0);
+    run();
+    EXPECT_EQ(said(), Said{"Program Error!: Error 75 (Path or file access error) in program near line 5"});
+    EXPECT_EQ(s().depth(), 2) << "nothing but the run before the trace";
+    std::filesystem::remove(platform.folder / "Traces/Traced.txt");
+    forget();
+    run();
+    EXPECT_EQ(said(), Said{});
+    EXPECT_NE(trace(), "");
+}
+
 TEST_F(ProgramModeKeys, KeepsAnotherYellowForATraceThatAProgramSwitchedOn) {
     class Watching : public TestPlatform {
     public:

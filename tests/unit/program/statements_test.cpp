@@ -116,6 +116,16 @@ TEST_F(ProgramStatements, ANameOfOneSmallLetterIsRefused) {
     EXPECT_EQ(caption(kKeyB), "7");
 }
 
+TEST_F(ProgramStatements, ANameWithoutACaptionIsRefused) {
+    for (const std::string line : {"name b", "name"}) {
+        SCOPED_TRACE(line);
+        runSection("5\n" + line + "\n6");
+        EXPECT_EQ(said(), Said{"Program Error!: Error 5 (Invalid argument) in program near line 6"});
+        EXPECT_EQ(caption(kKeyB), "B");
+        EXPECT_EQ(x(), "5") << "the run is over";
+    }
+}
+
 TEST_F(ProgramStatements, BoldMarksAreSetAndCleared) {
     loadProgram(
         "#\nlbl init\nname b second\nend\nlbl a\nbold second\ncbld a\nend\nlbl c\nbold b\ncbld second\nbold d\n"
@@ -153,6 +163,7 @@ TEST(FaultTexts, AreWhatTheBoxSays) {
     EXPECT_EQ(faultText(29, "", 12), "Error 29; Numeric expression requires an '=' as the second object in the line!");
     EXPECT_EQ(faultText(32, "; Label A not assigned!", 12), "Error 32; Label A not assigned!");
     EXPECT_EQ(faultText(76, "", 12), "Error 76 - No program found!");
+    EXPECT_EQ(loadFaultText(76), "Error 76 (Path not found)");
     EXPECT_EQ(faultText(13, "", 12), "Error 13 (Type mismatch) in program near line 12");
     EXPECT_EQ(loadFaultText(15),
               "Error 15: It appears there is an illegal statement near\n the start of the program, check for "

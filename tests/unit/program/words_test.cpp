@@ -158,6 +158,12 @@ TEST_F(Words, FormatAndDigitsComeBackAtTheEndOfTheRun) {
     EXPECT_EQ(said(), Said{"Out of Range!: 0 to 12 only for this function"});
 }
 
+TEST_F(Words, EachFormatShowsItsNumbersOnTheTape) {
+    runSection("fix\n12345.678\n0.00012\nsci\n12345.678\n0.00012\neng\n12345.678\n0.00012\ndsp 1\n12345.678");
+    EXPECT_EQ(tape(), (std::vector<std::string>{"12,345.68", "1.20e-04", "1.23e+04", "1.20e-04", "12.35e+03",
+                                                "120.00e-06", "12.3e+03"}));
+}
+
 TEST_F(Words, KillLeavesProgramMode) {
     runSection("5\nkill");
     EXPECT_FALSE(s().ProgramMode);
