@@ -55,6 +55,7 @@ int render(const QString& picture, const QString& script, double scale) {
         return 2;
     }
     qt::MainWindow window(keys.calculator().engine().form, '.');
+    window.fitsScreen = false;
     window.present();
     const QSize usual = window.size();
     window.resize(usual * scale);

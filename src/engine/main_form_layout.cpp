@@ -27,8 +27,8 @@ constexpr int kEntryHeight = 450;
 constexpr int kBankTop = 2280;
 constexpr int kBankHeight = 2800;
 constexpr int kPadLeft = 2130;
-constexpr int kPadPitch = 516;
-constexpr int kPadKey = 452;
+constexpr int kPadPitch = 520;
+constexpr int kPadKey = 460;
 
 /// Columns and rows of the bank's keys, by key index.
 struct Cell {
@@ -135,9 +135,10 @@ void MainForm::placePad(int top) {
 
     // Format and angle fill the two key places above Enter.
     constexpr int kOptionHeight = 280;
-    constexpr int kFormatWidth = kPadPitch - 20;  // the angles' words are longer than the formats'
-    constexpr int kAngleWidth = kPadKey + 150;
-    const int left = kPadLeft + 4 * kPadPitch;
+    constexpr int kFormatWidth = 510;
+    constexpr int kAngleWidth = 610;  // the angles' words are longer than the formats'
+    constexpr int kIntoTheGap = 30;
+    const int left = kPadLeft + 4 * kPadPitch - kIntoTheGap;
     const int optionTop = top + 2 * kPitch;
     const auto option = [&](Control& control, int column, int row) {
         control.place = {.left = left + column * kFormatWidth,
@@ -153,34 +154,40 @@ void MainForm::placePad(int top) {
 }
 
 void MainForm::placeOptions(int top) {
-    fraKeyboard.place = {.left = kMargin, .top = top, .width = 4280, .height = kOptionStrip - 30};
+    constexpr int kBelowBank = 30;
+    fraKeyboard.place = {
+        .left = kMargin, .top = top + kBelowBank, .width = 4280, .height = kOptionStrip - 2 * kBelowBank};
     constexpr int kRowHeight = 190;
     struct Spot {
         int left;
         int row;
         int width;
     };
-    constexpr std::array<Spot, 8> kSpots{{{300, 0, 520},
-                                          {1000, 0, 480},
-                                          {300, 1, 900},
-                                          {1620, 0, 440},
-                                          {1280, 1, 860},
+    // Three columns with Shift, Ctrl and Alt at their heads.
+    constexpr std::array<Spot, 8> kSpots{{{220, 0, 520},
+                                          {1240, 0, 480},
+                                          {220, 1, 900},
+                                          {2200, 0, 440},
+                                          {1240, 1, 860},
                                           {2200, 1, 800},
-                                          {3000, 1, 1360},
+                                          {3010, 1, 1360},
                                           {0, 0, 0}}};
     for (std::size_t i = 0; i < kSpots.size(); ++i) {
         const Spot& spot = kSpots.at(i);
-        optKey.at(i).place = {
-            .left = spot.left, .top = top + 180 + spot.row * kRowHeight, .width = spot.width, .height = kRowHeight};
+        optKey.at(i).place = {.left = spot.left,
+                              .top = top + kBelowBank + 160 + spot.row * kRowHeight,
+                              .width = spot.width,
+                              .height = kRowHeight};
     }
     Control* const lamps[] = {&shaShift, &shaCtrl, &shaAlt};
     constexpr std::array<int, 3> kLampOf{0, 1, 3};
     for (std::size_t i = 0; i < kLampOf.size(); ++i) {
         const Place& option = optKey.at(static_cast<std::size_t>(kLampOf.at(i))).place;
         lamps[i]->place = {
-            .left = option.left + option.width + 10, .top = option.top + 40, .width = 100, .height = 100};
+            .left = option.left + option.width + 50, .top = option.top + 45, .width = 100, .height = 100};
     }
-    cmdReset.place = {.left = kPadLeft + 4 * kPadPitch + 240, .top = top + 120, .width = 756, .height = kKey};
+    constexpr int kResetLeft = 4480;
+    cmdReset.place = {.left = kResetLeft, .top = top + 130, .width = kRight - kResetLeft, .height = kKey};
 }
 
 void MainForm::placeRegisters() {

@@ -129,6 +129,8 @@ bool clicksByKey(Form& form, Control* target, KeyStroke stroke) {
     }
     if ((stroke.shift & kAlt) != 0 && (stroke.shift & kCtrl) == 0) {
         if (Control* reached = accessTarget(form, stroke.keyCode); reached != nullptr) {
+            // The Alt that reaches a key by its letter is no modifier of the key.
+            releaseModifiers(form);
             click(form, *reached);
         }
         return true;

@@ -33,6 +33,8 @@ class WindowTest : public testing::Test {
 protected:
     WindowTest() : calculator((platform.decimal = '.', platform)) {
         calculator.start();
+        // The screen of a test is small.
+        window.fitsScreen = false;
         window.present();
         window.show();
         window.activateWindow();

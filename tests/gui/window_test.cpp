@@ -2,6 +2,7 @@
 #include "gui/window_fixture.h"
 
 #include <QMenu>
+#include <QScreen>
 
 namespace tallyforge {
 namespace {
@@ -86,6 +87,26 @@ TEST_F(Window, KeepsItsEnlargementWhenTheViewChanges) {
     clickOn(form().cmdView);
     QApplication::processEvents();
     EXPECT_NEAR(view().scale(), scale, 0.002);
+}
+
+TEST_F(Window, GrowsNoLargerThanTheScreen) {
+    window.fitsScreen = true;
+    enlarge(1.4);
+    clickOn(form().cmdView);
+    QApplication::processEvents();
+    const QSize screen = window.screen()->availableSize();
+    EXPECT_LE(window.frameGeometry().width(), screen.width());
+    EXPECT_LE(window.frameGeometry().height(), screen.height());
+    EXPECT_LE(view().toPixels(form().txtReg_m.at(11).place).bottom(), view().height());
+}
+
+TEST_F(Window, StandsInTheMiddleOfAWindowOfAnotherShape) {
+    window.resize(window.width() + 200, window.height());
+    QApplication::processEvents();
+    const QRect tape = view().toPixels(form().lstDisplayReg.place);
+    const QRect stack = view().toPixels(form().lstStack.place);
+    EXPECT_NEAR(tape.left(), view().width() - stack.right(), 3);
+    EXPECT_GT(tape.left(), 100);
 }
 
 TEST_F(Window, StaysOnTopWhenItIsAskedTo) {

@@ -123,11 +123,14 @@ void paintKey(QPainter& painter, const QRectF& area, const Control& control, con
 
 void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
     box(painter, area, theme.field, state.focused ? theme.text : theme.fieldEdge, 3.0);
-    const QFont font =
-        faceFont(control.font, std::min(fontPixels(control.font, state.pixelsPerTwip), area.height() * 0.72));
-    const QFontMetricsF metrics(font);
     const QString text = shownText(control);
     const double margin = 60.0 * state.pixelsPerTwip;
+    QFont font = faceFont(control.font, std::min(fontPixels(control.font, state.pixelsPerTwip), area.height() * 0.72));
+    const double room = area.width() - 2.0 * margin;
+    if (const double needed = QFontMetricsF(font).horizontalAdvance(text); needed > room) {
+        font.setPixelSize(static_cast<int>(font.pixelSize() * room / needed));
+    }
+    const QFontMetricsF metrics(font);
     const double width = metrics.horizontalAdvance(text);
     const double left = control.rightAligned ? area.right() - margin - width : area.left() + margin;
     const double baseline = area.center().y() - metrics.height() / 2.0 + metrics.ascent();

@@ -52,7 +52,8 @@ QRect FormView::toPixels(const Place& place) const {
     const auto pixels = [this](int twips) { return static_cast<int>(std::lround(twips * scale_)); };
     const int left = pixels(place.left);
     const int top = pixels(place.top);
-    return {left, top, pixels(place.left + place.width) - left, pixels(place.top + place.height) - top};
+    return {origin_.x() + left, origin_.y() + top, pixels(place.left + place.width) - left,
+            pixels(place.top + place.height) - top};
 }
 
 ControlWidget* FormView::widgetOf(const Control& control) const {
@@ -66,9 +67,16 @@ void FormView::sync() {
 }
 
 void FormView::resizeEvent(QResizeEvent* /*event*/) {
+    refit();
+}
+
+void FormView::refit() {
     const double wide = static_cast<double>(width()) / std::max(form_.place.width, 1);
     const double high = static_cast<double>(height()) / std::max(form_.contentHeight(), 1);
     scale_ = std::min(wide, high);
+    // What a window of another shape has to spare stands on both sides.
+    const QSize contents = sizeAt(scale_);
+    origin_ = {std::max(width() - contents.width(), 0) / 2, std::max(height() - contents.height(), 0) / 2};
     sync();
 }
 

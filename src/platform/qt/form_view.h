@@ -8,6 +8,7 @@
 #include "platform/form_input.h"
 
 #include <QHash>
+#include <QPoint>
 #include <QWidget>
 
 #include <cstdint>
@@ -28,6 +29,8 @@ public:
 
     /// Shows what changed in the form since the last time.
     void sync();
+    /// Draws the form as large as the view allows, after either has changed its size.
+    void refit();
     [[nodiscard]] Form& form() const { return form_; }
     [[nodiscard]] QRect toPixels(const Place& place) const;
     [[nodiscard]] double scale() const { return scale_; }
@@ -70,6 +73,7 @@ private:
     Form& form_;
     char decimal_;
     double scale_ = kUsualScale;
+    QPoint origin_;  ///< where the form's left upper corner stands
     std::uint8_t held_ = 0;
     std::vector<ControlWidget*> widgets_;
     QHash<const Control*, ControlWidget*> byControl_;

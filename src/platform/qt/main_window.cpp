@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/main_window.h"
 
+#include "platform/qt/app_icon.h"
+
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMoveEvent>
+#include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -32,6 +37,7 @@ QString caption(const Control& control) {
 
 MainWindow::MainWindow(Form& form, char decimal) : form_(form), view_(new FormView(form, decimal, this)) {
     setWindowTitle(QString::fromStdString(toUnicode(form.title, Face::Arial)));
+    setWindowIcon(appIcon());
     setCentralWidget(view_);
     buildMenus();
     view_->formChanged = [this] { syncWindow(); };
@@ -54,6 +60,7 @@ void MainWindow::buildMenus() {
                                                 : holder->second->addMenu(caption(*control));
             menus.emplace(control->name, menu);
             connect(menu, &QMenu::aboutToShow, this, [this] { syncMenus(); });
+            connect(menu, &QMenu::aboutToHide, this, [this] { leaveMenus(); });
         } else if (control->kind == ControlKind::Separator) {
             menus.at(control->menu)->addSeparator();
         } else if (control->kind == ControlKind::MenuEntry) {
@@ -66,6 +73,16 @@ void MainWindow::buildMenus() {
         }
     }
     menuBar()->setFocusPolicy(Qt::NoFocus);
+}
+
+// Esc closes a menu and leaves the menu bar in force; here it gives the keyboard back at once.
+void MainWindow::leaveMenus() {
+    QTimer::singleShot(0, this, [this] {
+        if (QApplication::activePopupWidget() == nullptr && menuBar()->activeAction() != nullptr) {
+            menuBar()->setActiveAction(nullptr);
+            view_->setFocus();
+        }
+    });
 }
 
 void MainWindow::choose(Control& entry) {
@@ -104,11 +121,7 @@ void MainWindow::syncWindow() {
         const double scale = shownWidth_ == 0 ? FormView::kUsualScale : view_->scale();
         shownWidth_ = form_.place.width;
         shownHeight_ = form_.contentHeight();
-        view_->setMinimumSize(view_->sizeAt(FormView::kUsualScale * 0.6));
-        const QSize contents = view_->sizeAt(scale);
-        const int menuHeight = menuBar()->sizeHint().height();
-        resize(contents.width(), contents.height() + menuHeight);
-        view_->sync();
+        takeSize(scale);
     }
     if (std::exchange(onTop_, form_.alwaysOnTop) != form_.alwaysOnTop && canPlaceWindows()) {
         // The window is made anew by this; it comes back where it was.
@@ -121,6 +134,26 @@ void MainWindow::syncWindow() {
             view_->setFocus();
         }
     }
+}
+
+// The largest scale at which the whole form stands on the screen.
+double MainWindow::largestScale() const {
+    const QSize border = frameGeometry().size() - size();
+    const QSize room = screen()->availableSize() - border - QSize(0, menuBar()->sizeHint().height());
+    // A pixel less each way: sizes are rounded up.
+    return std::min(static_cast<double>(room.width() - 1) / form_.place.width,
+                    static_cast<double>(room.height() - 1) / form_.contentHeight());
+}
+
+void MainWindow::takeSize(double scale) {
+    const double limit = fitsScreen ? largestScale() : scale;
+    constexpr double kLegible = FormView::kUsualScale * 0.6;
+    view_->setMinimumSize(view_->sizeAt(std::min(kLegible, limit)));
+    if ((windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) == 0) {
+        const QSize contents = view_->sizeAt(std::min(scale, limit));
+        resize(contents.width(), contents.height() + menuBar()->sizeHint().height());
+    }
+    view_->refit();
 }
 
 void MainWindow::moveEvent(QMoveEvent* event) {

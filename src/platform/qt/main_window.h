@@ -24,6 +24,9 @@ public:
     /// Shows the form's size, place and menu as they are now. To be called once it is loaded.
     void present();
 
+    /// Whether the window grows no larger than the screen; a picture of it may.
+    bool fitsScreen = true;
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -33,6 +36,10 @@ private:
     void buildMenus();
     void syncMenus();
     void syncWindow();
+    /// Makes the window as large as its form at `scale`, but for a window that fills the screen.
+    void takeSize(double scale);
+    [[nodiscard]] double largestScale() const;
+    void leaveMenus();
     void choose(Control& entry);
 
     struct MenuAction {

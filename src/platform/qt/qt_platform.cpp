@@ -10,8 +10,10 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDialog>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPainter>
@@ -19,6 +21,7 @@
 #include <QPrinter>
 #include <QScreen>
 #include <QSettings>
+#include <QSpacerItem>
 #include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
@@ -58,6 +61,15 @@ QString optionKey(std::string_view key) {
     return "Options/" + QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
 }
 
+/// A box is as wide as its text; its title shall be read, too.
+void widenForTitle(QMessageBox& box) {
+    constexpr int kButtonsBeside = 120;
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kButtonsBeside;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
 }  // namespace
 
 QtPlatform::QtPlatform() : generator_(std::random_device{}()) {}
@@ -72,6 +84,7 @@ Answer QtPlatform::messageBox(const MessageBox& box) {
     refresh();
     QMessageBox message(iconOf(box.kind), unicode(box.title), unicode(box.text), QMessageBox::NoButton, window_);
     message.setTextFormat(Qt::PlainText);
+    widenForTitle(message);
     switch (box.buttons) {
         case BoxButtons::Ok:
             message.setStandardButtons(QMessageBox::Ok);
@@ -98,10 +111,17 @@ Answer QtPlatform::messageBox(const MessageBox& box) {
 
 std::string QtPlatform::inputBox(const InputBox& box) {
     refresh();
-    bool accepted = false;
-    const QString text = QInputDialog::getText(window_, unicode(box.title), unicode(box.prompt), QLineEdit::Normal,
-                                               unicode(box.preset), &accepted);
-    return accepted ? fromUnicode(text.toStdString()) : std::string{};
+    QInputDialog input(window_);
+    input.setWindowTitle(unicode(box.title));
+    input.setLabelText(unicode(box.prompt));
+    input.setTextValue(unicode(box.preset));
+    if (auto* prompt = input.findChild<QLabel*>()) {
+        constexpr int kReadableWidth = 420;
+        prompt->setWordWrap(true);
+        prompt->setMinimumWidth(kReadableWidth);
+    }
+    const bool accepted = input.exec() == QDialog::Accepted;
+    return accepted ? fromUnicode(input.textValue().toStdString()) : std::string{};
 }
 
 void QtPlatform::showDialog(Form& dialog) {
