@@ -14,8 +14,9 @@ namespace {
 
 constexpr std::string_view kMarker = "ZAK";
 constexpr std::size_t kNameWidth = 4;
-/// Last position, counted from 1, at which the comma behind a register's value may stand.
-constexpr std::size_t kLastComma = 69;
+/// Most characters of a register's value: 66 are a word in binary digits, and a number from the clipboard may have
+/// more.
+constexpr std::size_t kLongestValue = 255;
 
 [[noreturn]] void damaged() {
     throw Failure{FailureNumber::DamagedFile};
@@ -161,10 +162,7 @@ std::string registerLine(const RegisterLine& line, char decimal) {
     name.resize(kNameWidth, ' ');
     const auto number = line.value.tryNumber(decimal);
     const bool zero = !line.value.isTagged() && number && *number == 0.0;
-    std::string value = zero ? std::string{} : printedValue(line.value, decimal);
-    if (number) {
-        value = withDecimal(std::move(value), decimal, '.');
-    }
+    const std::string value = zero ? std::string{} : withDecimal(printedValue(line.value, decimal), decimal, '.');
     return name + value + "," + line.tip;
 }
 
@@ -173,7 +171,7 @@ RegisterLine parseRegisterLine(std::string_view line, char decimal) {
         damaged();
     }
     const auto comma = line.find(',', kNameWidth);
-    if (comma == line.npos || comma >= kLastComma) {
+    if (comma == line.npos || comma > kNameWidth + kLongestValue) {
         damaged();
     }
     const std::string_view value = line.substr(kNameWidth, comma - kNameWidth);
@@ -181,8 +179,7 @@ RegisterLine parseRegisterLine(std::string_view line, char decimal) {
                         .value = ValueCell{""},
                         .tip = std::string(line.substr(comma + 1))};
     if (value != " 0") {
-        const bool number = tryReadNumber(value, '.').has_value();
-        parsed.value = readValue(number ? withDecimal(std::string(value), '.', decimal) : std::string(value), decimal);
+        parsed.value = readValue(withDecimal(std::string(value), '.', decimal), decimal);
     }
     return parsed;
 }

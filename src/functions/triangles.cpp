@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "functions/triangles.h"
 
+#include "engine/checked_math.h"
 #include "engine/engine.h"
 #include "functions/math_functions.h"
 #include "functions/results.h"
@@ -95,8 +96,10 @@ void Triangles::solveRight(std::uint8_t last) {
     tallyforge::RightTriangle t;
     const InputValues& v = right.values();
     t = {.hypotenuse = v[4], .x = v[2], .y = v[3], .oppositeX = v[0], .oppositeY = v[1]};
+    double area = 0.0;
     try {
         t = solveRightTriangle(given, t);
+        area = checked(t.x / 2.0 * t.y);
     } catch (const Failure&) {
         right.takeBack(last);
         calc.s.RightTriangleHasAngle = (right.received() & kRightAngles) != 0;
@@ -112,7 +115,7 @@ void Triangles::solveRight(std::uint8_t last) {
                                    {kAngleOppositeX, angleShown(t.oppositeX), "í"_t},
                                    {kOrdinate, t.y, "Y"},
                                    {kAngleOppositeY, angleShown(t.oppositeY), "é"_t},
-                                   {0, t.x * t.y / 2.0, "Area"}};
+                                   {0, area, "Area"}};
     std::vector<Finding> findings;
     for (const Quantity& quantity : quantities) {
         if ((given & quantity.bit) == 0) {
