@@ -66,26 +66,43 @@ public:
     void writeFile(const std::string& name, std::string_view bytes) const {
         std::ofstream(platform.folder / name, std::ios::binary) << bytes;
     }
-    /// Everything that a save and a retrieval must bring back, as text.
-    [[nodiscard]] std::vector<std::string> everything() const {
-        // An X or last x that there is none of comes back as 0.
+    /// Stack, small registers and tape, as text; a save and a retrieval must bring them back.
+    [[nodiscard]] std::vector<std::string> stackAndTape() const {
+        // An X, Y or last x that there is none of comes back as 0.
         const auto orZero = [this](const ValueCell& cell) {
             const std::string text = calc().text(cell);
             return text.empty() ? "0" : text;
         };
-        std::vector<std::string> all{orZero(s().Xreg), orZero(s().LastX), std::to_string(s().StackPtr)};
+        std::vector<std::string> all{orZero(s().Xreg), orZero(s().Yreg), orZero(s().LastX),
+                                     std::to_string(s().StackPtr)};
         for (int element = 1; element < s().StackPtr; ++element) {
             all.push_back(calc().text(s().slot(element)));
         }
         for (std::size_t row = 0; row < calc().tape.count(); ++row) {
             all.push_back(calc().tape.row(row) + "=" + calc().text(calc().tape.value(row)));
         }
+        return all;
+    }
+    /// The memory registers and their names, as text.
+    [[nodiscard]] std::vector<std::string> registers() const {
+        std::vector<std::string> all;
         for (int number = 1; number <= kRegisters; ++number) {
             // A register that reads as 0 comes back empty.
             const ValueCell& cell = s().Registers.at(static_cast<std::size_t>(number));
             all.push_back(cell.tryNumber(s().DecimalChar) == 0.0 ? "" : calc().text(cell));
         }
-        all.insert(all.end(), s().RegisterNames.begin(), s().RegisterNames.end());
+        for (std::string name : s().RegisterNames) {
+            // In a file a name is filled up with blanks.
+            name.erase(name.find_last_not_of(' ') + 1);
+            all.push_back(name);
+        }
+        return all;
+    }
+    /// Everything that a save and a retrieval must bring back, as text.
+    [[nodiscard]] std::vector<std::string> everything() const {
+        auto all = stackAndTape();
+        const auto others = registers();
+        all.insert(all.end(), others.begin(), others.end());
         return all;
     }
 
