@@ -47,7 +47,10 @@ void Clipboard::mnuPaste_Click() {
     };
     const bool isNumber = goOn(report, [&] { s.Xnum = calc.xNumber(); });
     if (!isNumber && !isBaseNumber(s.Xreg.textView())) {
-        s.Xreg = before;
+        // X keeps the text, but for one that a function could have left as a sign.
+        if (s.Xreg.textView() == kNoMeaning || s.Xreg.textView() == kNothingDone) {
+            s.Xreg = before;
+        }
         s.EntryOpen = false;
         return;
     }
