@@ -32,6 +32,12 @@ QPalette darkPalette() {
     palette.setColor(QPalette::Text, QColor(0xEC, 0xEE, 0xF1));
     palette.setColor(QPalette::Button, QColor(0x39, 0x3E, 0x45));
     palette.setColor(QPalette::ButtonText, QColor(0xEC, 0xEE, 0xF1));
+    palette.setColor(QPalette::ToolTipBase, QColor(0x15, 0x18, 0x1C));
+    palette.setColor(QPalette::ToolTipText, QColor(0xEC, 0xEE, 0xF1));
+    palette.setColor(QPalette::Light, QColor(0x39, 0x3E, 0x45));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, QColor(0x7D, 0x84, 0x8E));
+    }
     return palette;
 }
 

@@ -61,6 +61,17 @@ TEST(KeyTranslation, DigitsKeepTheirCodesUnderCtrl) {
               (KeyStroke{kKeyDigit5, kCtrl + kShift, 0}));
 }
 
+TEST(KeyTranslation, CtrlMeansThePlaceWhereTheLayoutHasAnotherCharacter) {
+    constexpr quint32 kPlaceOfFive = 14;
+    constexpr quint32 kPlaceOfC = 54;
+    constexpr int kCyrillicEs = 0x421;
+    EXPECT_EQ(stroke(Qt::Key_ParenLeft, Qt::ControlModifier, "(", '.', kPlaceOfFive), (KeyStroke{kKeyDigit5, kCtrl, 0}))
+        << "a French layout";
+    EXPECT_EQ(stroke(kCyrillicEs, Qt::ControlModifier, "\x03", '.', kPlaceOfC), (KeyStroke{'C', kCtrl, 3}));
+    EXPECT_EQ(stroke(Qt::Key_J, Qt::ControlModifier, "\x0a", '.', kPlaceOfC), (KeyStroke{'J', kCtrl, 10}))
+        << "another Latin layout";
+}
+
 TEST(KeyTranslation, NamedKeysKeepTheirModifiers) {
     EXPECT_EQ(stroke(Qt::Key_Return, Qt::NoModifier, "\r"), (KeyStroke{kKeyEnter, 0, 13}));
     EXPECT_EQ(stroke(Qt::Key_Enter, Qt::KeypadModifier, "\r"), (KeyStroke{kKeyEnter, 0, 13}));

@@ -20,6 +20,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyforge {
 
@@ -66,9 +67,18 @@ protected:
     void strike(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, text, modifiers);
     }
+    /// A click under modifiers, which come up after it.
     void clickOn(const Control& control, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::mouseClick(&widget(control), Qt::LeftButton, modifiers);
+        for (const auto& [modifier, key] : kModifierKeys) {
+            if ((modifiers & modifier) != 0 && QApplication::focusWidget() != nullptr) {
+                modifiers &= ~Qt::KeyboardModifiers(modifier);
+                release(key, {}, modifiers);
+            }
+        }
     }
+    static constexpr std::pair<Qt::KeyboardModifier, Qt::Key> kModifierKeys[] = {
+        {Qt::ShiftModifier, Qt::Key_Shift}, {Qt::ControlModifier, Qt::Key_Control}, {Qt::AltModifier, Qt::Key_Alt}};
     /// Double-clicks a row that the list shows, 0 for its topmost.
     void doubleClickRow(const Control& list, int shownRow) {
         qt::ControlWidget& target = widget(list);

@@ -89,6 +89,16 @@ TEST_F(Window, KeepsItsEnlargementWhenTheViewChanges) {
     EXPECT_NEAR(view().scale(), scale, 0.002);
 }
 
+TEST_F(Window, AModifierThatStaysDownCountsForTheNextClickToo) {
+    press(Qt::Key_Shift, {}, Qt::ShiftModifier);
+    QTest::mouseClick(&widget(form().cmdFunctions.at(14)), Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(form().cmdFunctions.at(14).text, "e^x");
+    EXPECT_TRUE(form().shaShift.visible);
+    release(Qt::Key_Shift);
+    EXPECT_EQ(form().cmdFunctions.at(14).text, "ln");
+    EXPECT_FALSE(form().shaShift.visible);
+}
+
 TEST_F(Window, GrowsNoLargerThanTheScreen) {
     window.fitsScreen = true;
     enlarge(1.4);

@@ -16,7 +16,7 @@ constexpr double kListFontShare = 0.86;
 constexpr double kStackRowTwips = 175.0;
 /// From one size of a caption to the next smaller: two of them lead from the ten points of the bank
 /// to the seven of the small captions, so few sizes are loaded for all of them.
-constexpr double kNextSmaller = 0.8367;
+constexpr double kNextSmaller = 0.92;
 constexpr double kSmallestPixels = 6.0;
 
 QString unicode(std::string_view bytes, Face face) {

@@ -147,7 +147,9 @@ void ControlWidget::sync(double pixelsPerTwip, bool hasKeyboard) {
         caption_ = fitCaption(control_, QSizeF(width() - margin, height() - margin), pixelsPerTwip_);
     }
     if (take(tip_, control_.tip) || fresh_) {
-        const QString tip = QString::fromStdString(toUnicode(tip_, Face::Arial)).toHtmlEscaped();
+        QString tip = QString::fromStdString(toUnicode(tip_, Face::Arial)).toHtmlEscaped();
+        // A line for each meaning.
+        tip.replace(" | ", "<br>");
         setToolTip(tip.isEmpty() ? QString() : "<qt>" + tip + "</qt>");
     }
     if (isList()) {

@@ -6,6 +6,7 @@
 #include "platform/qt/key_translation.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -105,11 +106,16 @@ void FormView::finish() {
 template <typename Act>
 void FormView::underModifiers(Qt::KeyboardModifiers modifiers, Act act) {
     setFocus();
-    if (const std::uint8_t mask = modifierMask(modifiers); mask != 0) {
+    const std::uint8_t mask = modifierMask(modifiers);
+    if (mask != 0) {
         holdModifiers(form_, mask);
         held_ = mask;
     }
     act();
+    if (mask != 0 && form_.open && modifierMask(QGuiApplication::queryKeyboardModifiers()) == mask) {
+        // The key has used its modifiers up, but they are still down: the next click has them, too.
+        holdModifiers(form_, mask);
+    }
     finish();
 }
 
@@ -129,9 +135,16 @@ void FormView::rowDoubleClicked(Control& list, std::size_t row) {
     underModifiers(Qt::NoModifier, [&] { doubleClickRow(form_, list, row); });
 }
 
+// Alt with Shift comes as Meta; the Meta key of a desktop is no modifier here.
+std::uint8_t FormView::ownModifier(const QKeyEvent& event) const {
+    const bool desktopKey =
+        event.key() == Qt::Key_Meta && (event.modifiers() & Qt::ShiftModifier) == 0 && (held_ & kAlt) == 0;
+    return desktopKey ? std::uint8_t{0} : modifierOfKey(event.key());
+}
+
 void FormView::keyPressed(QKeyEvent& event) {
     event.accept();
-    if (const std::uint8_t own = modifierOfKey(event.key()); own != 0) {
+    if (const std::uint8_t own = ownModifier(event); own != 0) {
         const auto mask = static_cast<std::uint8_t>(modifierMask(event.modifiers()) | own);
         if (!event.isAutoRepeat()) {
             held_ = mask;
@@ -151,7 +164,7 @@ void FormView::keyReleased(QKeyEvent& event) {
     if (event.isAutoRepeat()) {
         return;
     }
-    if (const std::uint8_t own = modifierOfKey(event.key()); own != 0) {
+    if (const std::uint8_t own = ownModifier(event); own != 0) {
         // Platforms differ in whether the modifier that comes up is still reported.
         held_ = static_cast<std::uint8_t>(modifierMask(event.modifiers()) & ~own);
         releaseKey(form_, {.keyCode = kKeyShift, .shift = held_});

@@ -65,6 +65,7 @@ protected:
 private:
     void finish();
     void letGo();
+    [[nodiscard]] std::uint8_t ownModifier(const QKeyEvent& event) const;
     void showPressed(const KeyStroke& stroke, bool pressed);
     [[nodiscard]] ControlWidget* keyFor(const KeyStroke& stroke) const;
     template <typename Act>

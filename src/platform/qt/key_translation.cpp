@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace tallyforge::qt {
@@ -31,12 +32,23 @@ constexpr std::array<std::pair<int, KeyStroke>, 15> kNamed{{
     {Qt::Key_Dead_Grave, {.keyCode = kKeyPunctuation, .character = '`'}},
 }};
 
-/// Digit of a key in the digit row by its place on the keyboard; -1 for another key. With Ctrl
-/// and Shift the key's name is that of the shifted character, which differs between layouts.
-int digitByPlace(const QKeyEvent& event) {
-    constexpr quint32 kFirstPlace = 10;
+/// Rows of the keyboard by the place of their first key, as X11 and Wayland count the places.
+struct KeyRow {
+    quint32 first;
+    std::string_view keys;
+};
+constexpr std::array<KeyRow, 4> kRows{{{10, "1234567890"}, {24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}}};
+
+/// What the key in this place is on a Latin keyboard; 0 for another key. With Ctrl a key's name is
+/// that of its character, which may be shifted, or no Latin letter at all.
+int keyByPlace(const QKeyEvent& event) {
     const quint32 place = event.nativeScanCode();
-    return place >= kFirstPlace && place < kFirstPlace + 10 ? static_cast<int>((place - kFirstPlace + 1) % 10) : -1;
+    for (const KeyRow& row : kRows) {
+        if (place >= row.first && place < row.first + row.keys.size()) {
+            return static_cast<unsigned char>(row.keys[place - row.first]);
+        }
+    }
+    return 0;
 }
 
 int keyCodeOfEvent(const QKeyEvent& event, std::uint8_t mask) {
@@ -48,12 +60,18 @@ int keyCodeOfEvent(const QKeyEvent& event, std::uint8_t mask) {
         const bool pad = (event.modifiers() & Qt::KeypadModifier) != 0;
         return pad ? kKeyPad5 - 5 + key - Qt::Key_0 : key;
     }
-    if ((mask & kCtrl) != 0 && (mask & kShift) != 0) {
-        if (const int digit = digitByPlace(event); digit >= 0) {
-            return '0' + digit;
+    if (key >= Qt::Key_A && key <= Qt::Key_Z) {
+        return key;
+    }
+    if ((mask & kCtrl) != 0) {
+        constexpr int kLastLatin = 0xFF;
+        const int placed = keyByPlace(event);
+        const bool digit = placed >= '0' && placed <= '9';
+        if (placed != 0 && (digit || key > kLastLatin)) {
+            return placed;
         }
     }
-    return key >= Qt::Key_A && key <= Qt::Key_Z ? key : kKeyPunctuation;
+    return kKeyPunctuation;
 }
 
 }  // namespace

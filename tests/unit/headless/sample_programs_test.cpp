@@ -263,7 +263,7 @@ TEST_F(SamplePrograms, TourOfTraceMarksAndResets) {
         EXPECT_NE(trace.find(line), std::string::npos) << line << " in\n" << trace;
     }
     const auto marked = shownBy("Tour", {"E"}, "keys");
-    EXPECT_EQ(marked.at(15), "key 15 \"formats\" plain bold");
+    EXPECT_EQ(marked.at(15), "key 15 \"format\" plain bold");
     EXPECT_EQ(marked.at(11), "key 11 \"marks\" plain") << "it has taken its own mark off";
     EXPECT_EQ(shownBy("Tour", {"C", "G"}, "depth keypad"), (Lines{"depth 0", "keypad 11 \"Tour.rec\""}));
     EXPECT_EQ(shownBy("Tour", {"C", "I"}, "depth keypad"), (Lines{"depth 0", "keypad 11 \"Tour.rec\""}));
