@@ -25,7 +25,7 @@ bool isBaseNumber(std::string_view text) {
 }  // namespace
 
 void Clipboard::mnuCopy_Click() {
-    calc.LightModifiers(0);
+    calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     calc.platform.setClipboardText(calc.text(calc.s.Xreg));
 }
@@ -33,7 +33,7 @@ void Clipboard::mnuCopy_Click() {
 void Clipboard::mnuPaste_Click() {
     EngineState& s = calc.s;
     s.CurrentProc = "mnuPaste";
-    calc.LightModifiers(0);
+    calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     if (!calc.entryText().empty()) {
         calc.commit.cmdEnter_Click();

@@ -128,7 +128,7 @@ void paintField(QPainter& painter, const QRectF& area, const Control& control, c
     QFont font = faceFont(control.font, std::min(fontPixels(control.font, state.pixelsPerTwip), area.height() * 0.72));
     const double room = area.width() - 2.0 * margin;
     if (const double needed = QFontMetricsF(font).horizontalAdvance(text); needed > room) {
-        font.setPixelSize(static_cast<int>(font.pixelSize() * room / needed));
+        font.setPixelSize(std::max(static_cast<int>(font.pixelSize() * room / needed), 1));
     }
     const QFontMetricsF metrics(font);
     const double width = metrics.horizontalAdvance(text);
