@@ -3,6 +3,8 @@
 
 #include "bases/base_number.h"
 #include "engine/engine.h"
+#include "engine/out_of_range.h"
+#include "engine/word_size.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +16,6 @@ namespace tallyforge {
 namespace {
 
 constexpr std::size_t kByte = 8;
-constexpr int kSmallestByteWord = 9;
 constexpr int kBitsOfDigit = 4;
 
 bool needsBytes(std::string_view code) {
@@ -138,7 +139,7 @@ void BinaryKeys::RotateShift(std::string_view code) {
     }
     if (!s.Xreg.isTagged() || (needsBytes(code) && s.WordSize < kSmallestByteWord)) {
         if (!s.Xreg.isTagged()) {
-            calc.errorBox(BoxKind::Stop, "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
+            calc.errorBox(BoxKind::Stop, kOutOfRange);
         }
         s.KeepX = s.Xreg;
         s.Xreg = kNothingDone;

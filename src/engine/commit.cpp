@@ -3,6 +3,7 @@
 
 #include "engine/engine.h"
 #include "engine/number_format.h"
+#include "engine/out_of_range.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +14,6 @@ namespace tallyforge {
 
 namespace {
 
-constexpr std::string_view kOutOfRange = "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t;
 constexpr int kSmallRegisterDigits = 3;
 
 }  // namespace

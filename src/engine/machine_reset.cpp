@@ -2,6 +2,7 @@
 #include "engine/machine_reset.h"
 
 #include "engine/engine.h"
+#include "engine/tape_width.h"
 
 #include <algorithm>
 
@@ -9,7 +10,6 @@ namespace tallyforge {
 
 namespace {
 
-constexpr int kNarrowTape = 2845;
 constexpr std::uint32_t kAllBits = 0x7FFFFFFF;
 
 }  // namespace

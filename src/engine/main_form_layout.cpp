@@ -4,6 +4,7 @@
 // line, the bank beside the number pad, the modifier strip. What the tall and the extended view
 // add to the height goes to the lists; the extended view's register column stands on the right.
 #include "engine/main_form.h"
+#include "engine/tape_width.h"
 
 #include <algorithm>
 
@@ -60,7 +61,7 @@ void MainForm::placeLists(bool extended, int extra) {
         .left = kStackLeft - 144, .top = kNameTop, .width = kRight - kStackLeft + 144, .height = kNameHeight};
     lblCnvrt.place = {.left = 1000, .top = kNameTop, .width = 2200, .height = kNameHeight};
     // The tape's width is its own: it grows once the filler lines are gone.
-    const int tapeWidth = lstDisplayReg.place.width == 0 ? 2845 : lstDisplayReg.place.width;
+    const int tapeWidth = lstDisplayReg.place.width == 0 ? kNarrowTape : lstDisplayReg.place.width;
     lstDisplayReg.place = {.left = kMargin, .top = kListTop, .width = tapeWidth, .height = kListHeight + extra};
     const int stackHeight = kListHeight + (extended ? 0 : extra);
     lstStack.place = {.left = kStackLeft, .top = kListTop, .width = kRight - kStackLeft, .height = stackHeight};

@@ -3,6 +3,8 @@
 
 #include "engine/engine.h"
 #include "engine/number_format.h"
+#include "engine/tape_width.h"
+#include "engine/word_size.h"
 
 #include <algorithm>
 #include <array>
@@ -13,10 +15,8 @@ namespace tallyforge {
 
 namespace {
 
-constexpr int kWideTape = 3100;       ///< twips, keeps the last column in view beside the scroll bar
 constexpr double kFixedLimit = 1e14;  ///< above it fixed numbers show in scientific form
 constexpr double kScaleUpBelow = 0.999999999999999;
-constexpr int kSmallestByteWord = 9;  ///< word sizes that byte shifts make sense for
 constexpr int kMinWordSize = 4;
 constexpr int kMaxWordSize = 64;
 

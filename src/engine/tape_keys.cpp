@@ -7,6 +7,7 @@
 #include "engine/machine_reset.h"
 #include "engine/memory_registers.h"
 #include "engine/settings_file.h"
+#include "engine/tape_width.h"
 
 #include <string>
 #include <string_view>
@@ -16,8 +17,6 @@ namespace tallyforge {
 namespace {
 
 constexpr const char* kUndoFile = "undo.rec";
-constexpr int kNarrowTape = 2845;
-constexpr int kWideTape = 3100;
 
 bool endsInBaseLetter(std::string_view text) {
     return !text.empty() && std::string_view{"bdho"}.find(text.back()) != std::string_view::npos;

@@ -4,6 +4,7 @@
 #include "bases/binary_keys.h"
 #include "engine/checked_math.h"
 #include "engine/engine.h"
+#include "engine/out_of_range.h"
 #include "keypads/failure_messages.h"
 
 #include <array>
@@ -113,7 +114,7 @@ std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& 
         if (failure.number() == FailureNumber::SubtrahendGreater) {
             calc.errorBox(BoxKind::Stop, "Subtrahend is greater than the minuend!");
         } else if (failure.number() == FailureNumber::Overflow) {
-            calc.errorBox(BoxKind::Stop, "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
+            calc.errorBox(BoxKind::Stop, kOutOfRange);
         } else if (failure.number() == FailureNumber::BaseRange) {
             calc.errorBox(BoxKind::Stop, failureMessage(failure.number(), index, s));
         }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypads/failure_messages.h"
+#include "engine/out_of_range.h"
 
 #include "platform/text.h"
 
@@ -28,7 +29,7 @@ std::string failureMessage(FailureNumber number, int index, const EngineState& s
             if (index == kBaseConversionKey && state.ActiveKeypad == Keypad::Binary && state.BaseMode) {
                 return state.Xreg.isTagged() ? "Real number required!" : "Exceeded maximum number (1.845e19)!";
             }
-            return std::string("Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
+            return std::string(kOutOfRange);
         case FailureNumber::DivisionByZero:
             return "Division by zero - be sure all variables are defined!";
         case FailureNumber::ModifierNotValid:

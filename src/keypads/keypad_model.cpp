@@ -2,6 +2,7 @@
 #include "keypads/keypad_model.h"
 
 #include "engine/engine.h"
+#include "engine/word_size.h"
 
 #include <algorithm>
 #include <array>
@@ -82,7 +83,6 @@ void KeypadModel::lay(Keypad keypad) {
 
 void KeypadModel::paintPlain() {
     const Keypad keypad = calc.s.ActiveKeypad;
-    constexpr int kSmallestByteWord = 9;
     calc.display.enableByteKeys(keypad != Keypad::Binary || calc.s.WordSize >= kSmallestByteWord);
     for (const KeyRow& row : keypadTable(keypad).rows) {
         Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
