@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // tallyforge-keys: runs a key script on a calculator without a desktop.
+#include "desktops/headless/key_script.h"
 #include "keypads/keypad_table.h"
-#include "platform/headless/key_script.h"
 
 #include <charconv>
 #include <chrono>

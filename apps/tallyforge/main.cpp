@@ -2,11 +2,11 @@
 //
 // tallyforge: the calculator in its window. With --render FILE.png [SCRIPT] it draws the window as
 // it stands after a key script into a picture, and ends.
-#include "platform/headless/key_script.h"
-#include "platform/qt/control_widget.h"
-#include "platform/qt/form_view.h"
-#include "platform/qt/main_window.h"
-#include "platform/qt/qt_platform.h"
+#include "desktops/headless/key_script.h"
+#include "desktops/qt/control_widget.h"
+#include "desktops/qt/form_view.h"
+#include "desktops/qt/main_window.h"
+#include "desktops/qt/qt_platform.h"
 #include "shell/calculator.h"
 
 #include <QApplication>

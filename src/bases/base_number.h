@@ -5,7 +5,7 @@
 // which gives the same digits.
 #pragma once
 
-#include "engine/value_cell.h"
+#include "numbers/value_cell.h"
 
 #include <cstdint>
 #include <string>

@@ -3,8 +3,8 @@
 
 #include "bases/base_number.h"
 #include "engine/engine.h"
-#include "engine/out_of_range.h"
-#include "engine/word_size.h"
+#include "numbers/out_of_range.h"
+#include "numbers/word_size.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 // logic, shifts and rotations, and the arithmetic on numbers of a base.
 #pragma once
 
-#include "engine/value_cell.h"
+#include "numbers/value_cell.h"
 
 #include <string>
 #include <string_view>

@@ -2,8 +2,8 @@
 #include "engine/commit.h"
 
 #include "engine/engine.h"
-#include "engine/number_format.h"
-#include "engine/out_of_range.h"
+#include "numbers/number_format.h"
+#include "numbers/out_of_range.h"
 
 #include <algorithm>
 #include <cmath>

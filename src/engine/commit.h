@@ -9,8 +9,8 @@
 //   no value       Xreg = "ZZZ" and return
 #pragma once
 
-#include "engine/failure.h"
-#include "engine/value_cell.h"
+#include "numbers/failure.h"
+#include "numbers/value_cell.h"
 
 #include <string_view>
 

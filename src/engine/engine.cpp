@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/engine.h"
 
-#include "engine/number_format.h"
+#include "numbers/number_format.h"
 
 #include <utility>
 

@@ -11,7 +11,7 @@
 //   4. Stack has at least StackPtr + 1 slots.
 #pragma once
 
-#include "engine/value_cell.h"
+#include "numbers/value_cell.h"
 
 #include <array>
 #include <cstddef>

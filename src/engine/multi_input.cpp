@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/multi_input.h"
 
-#include "engine/checked_math.h"
 #include "engine/engine.h"
+#include "numbers/checked_math.h"
 
 #include <algorithm>
 

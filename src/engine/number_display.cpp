@@ -2,9 +2,9 @@
 #include "engine/number_display.h"
 
 #include "engine/engine.h"
-#include "engine/number_format.h"
 #include "engine/tape_width.h"
-#include "engine/word_size.h"
+#include "numbers/number_format.h"
+#include "numbers/word_size.h"
 
 #include <algorithm>
 #include <array>

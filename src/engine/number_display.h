@@ -6,7 +6,7 @@
 
 #include "engine/engine_state.h"
 #include "engine/tape.h"
-#include "engine/value_cell.h"
+#include "numbers/value_cell.h"
 
 #include <string>
 #include <string_view>

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "engine/engine_state.h"
-#include "engine/value_cell.h"
+#include "numbers/value_cell.h"
 #include "platform/form.h"
 
 #include <array>

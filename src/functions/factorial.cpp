@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "functions/factorial.h"
 
-#include "engine/checked_math.h"
 #include "engine/engine.h"
 #include "functions/math_functions.h"
 #include "functions/results.h"
+#include "numbers/checked_math.h"
 #include "platform/text.h"
 
 #include <array>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "functions/hours.h"
 
-#include "engine/checked_math.h"
 #include "engine/engine.h"
-#include "engine/number_format.h"
 #include "functions/results.h"
+#include "numbers/checked_math.h"
+#include "numbers/number_format.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "functions/math_functions.h"
 
-#include "engine/checked_math.h"
+#include "numbers/checked_math.h"
 
 #include <cmath>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "functions/percent_tax.h"
 
-#include "engine/checked_math.h"
 #include "engine/engine.h"
-#include "engine/number_format.h"
-#include "engine/settings_file.h"
 #include "functions/results.h"
+#include "numbers/checked_math.h"
+#include "numbers/number_format.h"
+#include "records/settings_file.h"
 
 #include <cstddef>
 #include <string>

@@ -4,7 +4,7 @@
 // handed over last, so that a failure leaves the stack as it was.
 #pragma once
 
-#include "engine/value_cell.h"
+#include "numbers/value_cell.h"
 
 #include <string_view>
 

@@ -2,8 +2,8 @@
 #include "functions/rounding.h"
 
 #include "engine/engine.h"
-#include "engine/number_format.h"
 #include "functions/results.h"
+#include "numbers/number_format.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "functions/triangle_solver.h"
 
-#include "engine/checked_math.h"
 #include "functions/math_functions.h"
+#include "numbers/checked_math.h"
 
 #include <algorithm>
 #include <cmath>

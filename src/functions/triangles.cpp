@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "functions/triangles.h"
 
-#include "engine/checked_math.h"
 #include "engine/engine.h"
 #include "functions/math_functions.h"
 #include "functions/results.h"
 #include "functions/triangle_solver.h"
+#include "numbers/checked_math.h"
 #include "platform/text.h"
 
 #include <bit>

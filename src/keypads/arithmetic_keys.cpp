@@ -2,10 +2,10 @@
 #include "keypads/arithmetic_keys.h"
 
 #include "bases/binary_keys.h"
-#include "engine/checked_math.h"
 #include "engine/engine.h"
-#include "engine/out_of_range.h"
 #include "keypads/failure_messages.h"
+#include "numbers/checked_math.h"
+#include "numbers/out_of_range.h"
 
 #include <array>
 #include <string>

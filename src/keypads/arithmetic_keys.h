@@ -4,8 +4,8 @@
 // the stack stays as it is; with Alt on X and the constant in Register 2.
 #pragma once
 
-#include "engine/failure.h"
-#include "engine/value_cell.h"
+#include "numbers/failure.h"
+#include "numbers/value_cell.h"
 
 #include <optional>
 

@@ -4,9 +4,9 @@
 // row of the present keypad runs, and its result is committed, or its failure shown.
 #pragma once
 
-#include "engine/failure.h"
 #include "keypads/keypad_model.h"
 #include "keypads/keypad_table.h"
+#include "numbers/failure.h"
 #include "platform/form.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypads/failure_messages.h"
-#include "engine/out_of_range.h"
+#include "numbers/out_of_range.h"
 
 #include "platform/text.h"
 

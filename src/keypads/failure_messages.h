@@ -4,7 +4,7 @@
 #pragma once
 
 #include "engine/engine_state.h"
-#include "engine/failure.h"
+#include "numbers/failure.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 #include "keypads/keypad_model.h"
 
 #include "engine/engine.h"
-#include "engine/word_size.h"
+#include "numbers/word_size.h"
 
 #include <algorithm>
 #include <array>

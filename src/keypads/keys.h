@@ -5,7 +5,7 @@
 #pragma once
 
 #include "bases/binary_keys.h"
-#include "engine/dialog_hand_over.h"
+#include "dialogs/dialog_hand_over.h"
 #include "engine/engine.h"
 #include "functions/dates.h"
 #include "functions/everyday.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/comparison.h"
 
-#include "engine/checked_math.h"
+#include "numbers/checked_math.h"
 
 #include <cmath>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/key_words.h"
 
+#include "desk/memory_registers.h"
+#include "desk/reset_key.h"
 #include "engine/engine.h"
-#include "engine/memory_registers.h"
-#include "engine/number_format.h"
-#include "engine/reset_key.h"
+#include "numbers/number_format.h"
 #include "platform/form_input.h"
 
 #include <utility>

@@ -3,7 +3,7 @@
 // What ends a run: a numbered fault and its text, as the one box of a run shows it.
 #pragma once
 
-#include "engine/failure.h"
+#include "numbers/failure.h"
 
 #include <exception>
 #include <string>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Loading a program: the question for its name, the file, its declaration and its "init".
+#include "desk/memory_registers.h"
 #include "engine/engine.h"
-#include "engine/file_failure.h"
-#include "engine/memory_registers.h"
-#include "engine/settings_file.h"
 #include "platform/file_name.h"
 #include "program/program_folders.h"
 #include "program/programs.h"
+#include "records/file_failure.h"
+#include "records/settings_file.h"
 
 #include <utility>
 

@@ -4,7 +4,7 @@
 // two explorers and the trace.
 #pragma once
 
-#include "engine/stack_keys.h"
+#include "desk/stack_keys.h"
 #include "keypads/keypads.h"
 #include "program/program_state.h"
 

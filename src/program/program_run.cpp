@@ -2,7 +2,7 @@
 #include "program/program_run.h"
 
 #include "engine/engine.h"
-#include "engine/number_format.h"
+#include "numbers/number_format.h"
 #include "program/comparison.h"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/program_text.h"
 
-#include "engine/failure.h"
-#include "engine/number_format.h"
+#include "numbers/failure.h"
+#include "numbers/number_format.h"
 #include "platform/text.h"
 
 #include <algorithm>

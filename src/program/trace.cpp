@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/trace.h"
 
-#include "engine/failure.h"
+#include "numbers/failure.h"
 #include "program/program_folders.h"
 
 #include <cstdio>

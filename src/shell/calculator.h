@@ -4,18 +4,18 @@
 // one of these, calls start(), renders engine().form and passes input to form_input.h.
 #pragma once
 
+#include "desk/entry_line.h"
+#include "desk/life_cycle.h"
+#include "desk/machine_reset.h"
+#include "desk/memory_registers.h"
+#include "desk/reset_key.h"
+#include "desk/stack_keys.h"
+#include "desk/tape_keys.h"
+#include "desk/view_keys.h"
 #include "engine/engine.h"
-#include "engine/entry_line.h"
-#include "engine/life_cycle.h"
-#include "engine/machine_reset.h"
-#include "engine/memory_registers.h"
-#include "engine/reset_key.h"
-#include "engine/settings_file.h"
-#include "engine/stack_keys.h"
-#include "engine/tape_keys.h"
-#include "engine/view_keys.h"
 #include "keypads/keypads.h"
 #include "program/programs.h"
+#include "records/settings_file.h"
 #include "shell/clipboard.h"
 
 #include <cstddef>

@@ -2,7 +2,7 @@
 //
 // Any bytes are a key script: it ends with one of its three statuses, and what holds after every
 // commit holds at its end.
-#include "platform/headless/key_script.h"
+#include "desktops/headless/key_script.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/number_format.h"
+#include "numbers/number_format.h"
 
 #include <cmath>
 #include <cstddef>

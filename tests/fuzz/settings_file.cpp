@@ -2,7 +2,7 @@
 //
 // A calculator starts on whatever stands in its settings file: it runs or refuses, and never
 // shows more than it may.
-#include "engine/settings_file.h"
+#include "records/settings_file.h"
 #include "support/calculator_fixture.h"
 
 #include <cstddef>

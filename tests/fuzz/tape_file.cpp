@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/tape_file.h"
-#include "engine/failure.h"
+#include "records/tape_file.h"
+#include "numbers/failure.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktops/qt/qt_platform.h"
 #include "gui/window_fixture.h"
-#include "platform/qt/qt_platform.h"
 
 #include <QClipboard>
 #include <QDialog>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/qt/key_translation.h"
+#include "desktops/qt/key_translation.h"
 
 #include "platform/key_codes.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The window while a program runs: it is painted, takes no input, and tells of Break and Close.
-#include "platform/qt/run_watch.h"
+#include "desktops/qt/run_watch.h"
 #include "window_fixture.h"
 
 namespace tallyforge {

@@ -4,9 +4,9 @@
 // the widget that has the keyboard, the mouse to a control's own widget.
 #pragma once
 
-#include "platform/qt/control_widget.h"
-#include "platform/qt/form_view.h"
-#include "platform/qt/main_window.h"
+#include "desktops/qt/control_widget.h"
+#include "desktops/qt/form_view.h"
+#include "desktops/qt/main_window.h"
 #include "shell/calculator.h"
 #include "support/test_platform.h"
 

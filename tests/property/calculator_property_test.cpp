@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // What must hold for every sequence of keys, not only for those that someone thought of.
-#include "engine/number_format.h"
+#include "numbers/number_format.h"
 #include "support/calculator_fixture.h"
 
 #include <rapidcheck.h>

@@ -3,8 +3,8 @@
 // A hand at a form's keyboard.
 #pragma once
 
+#include "desk/entry_line.h"
 #include "engine/engine.h"
-#include "engine/entry_line.h"
 #include "platform/form_input.h"
 #include "platform/key_codes.h"
 

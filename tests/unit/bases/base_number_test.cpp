@@ -2,7 +2,7 @@
 #include "bases/base_number.h"
 
 #include "bases/binary_keys.h"
-#include "engine/failure.h"
+#include "numbers/failure.h"
 
 #include <gtest/gtest.h>
 

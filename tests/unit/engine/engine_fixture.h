@@ -4,10 +4,10 @@
 // travel. Typing goes key by key, as from a keyboard.
 #pragma once
 
+#include "desk/entry_line.h"
+#include "desk/stack_keys.h"
 #include "engine/engine.h"
-#include "engine/entry_line.h"
 #include "engine/idle_keypads.h"
-#include "engine/stack_keys.h"
 #include "platform/form_input.h"
 #include "platform/key_codes.h"
 #include "support/test_platform.h"

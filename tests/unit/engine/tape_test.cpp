@@ -8,6 +8,24 @@
 namespace tallyforge {
 namespace {
 
+TEST(TapeLines, KeepTheirValuesWhileFillersGo) {
+    Tape tape;
+    tape.clear(2);
+    EXPECT_EQ(tape.count(), 2U);
+    EXPECT_EQ(tape.lines(), 0U);
+    tape.add("one", ValueCell{1.0});
+    EXPECT_TRUE(tape.dropFiller());
+    tape.add("a line that is longer than the tape is wide", ValueCell{2.0});
+    EXPECT_TRUE(tape.dropFiller());
+    EXPECT_FALSE(tape.dropFiller());
+    EXPECT_EQ(tape.row(0), "one");
+    EXPECT_EQ(tape.row(1), "a line that is longer than the tape is wide");
+    EXPECT_EQ(tape.value(1), ValueCell{2.0});
+    EXPECT_EQ(tape.selected(), 1U);
+    EXPECT_TRUE(tape.row(9).empty());
+    EXPECT_TRUE(tape.value(9).isEmpty());
+}
+
 TEST(Tape, ALineReadsAsItWasWrittenWhateverTheFormatIsLater) {
     Tape tape;
     tape.clear(0);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Factorial, gamma, dates, hours and weather as pure functions, against what others published.
-#include "engine/failure.h"
 #include "functions/dates.h"
 #include "functions/everyday.h"
 #include "functions/factorial.h"
 #include "functions/hours.h"
+#include "numbers/failure.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 // circular), 4.15 (hyperbolic) and 4.17 (inverse hyperbolic), to the digits that they print and,
 // beyond, to those of the closed forms.
 #include "functions/math_functions.h"
-#include "engine/failure.h"
+#include "numbers/failure.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 // find the rest. The list holds Pythagorean and Heronian triangles (areas by Heron's formula, a
 // whole number for each), the halves of the square and of the equilateral triangle, and a thin one.
 #include "functions/triangle_solver.h"
-#include "engine/failure.h"
 #include "functions/math_functions.h"
+#include "numbers/failure.h"
 
 #include <gtest/gtest.h>
 

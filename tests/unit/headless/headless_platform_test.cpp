@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/headless/headless_platform.h"
+#include "desktops/headless/headless_platform.h"
 
 #include "support/temporary_folder.h"
 

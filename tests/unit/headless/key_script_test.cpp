@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/headless/key_script.h"
+#include "desktops/headless/key_script.h"
 
 #include "headless_test_forms.h"
 #include "script_fixture.h"

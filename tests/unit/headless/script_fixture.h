@@ -4,7 +4,7 @@
 // script may be given line by line with something to do to the calculator before a line is read.
 #pragma once
 
-#include "platform/headless/key_script.h"
+#include "desktops/headless/key_script.h"
 
 #include "support/temporary_folder.h"
 

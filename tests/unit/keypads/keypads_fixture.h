@@ -3,9 +3,9 @@
 // A calculator with its keypads, typed and clicked as by a hand.
 #pragma once
 
+#include "desk/entry_line.h"
+#include "desk/stack_keys.h"
 #include "engine/engine.h"
-#include "engine/entry_line.h"
-#include "engine/stack_keys.h"
 #include "keypads/keypads.h"
 #include "platform/form_input.h"
 #include "platform/key_codes.h"

@@ -2,7 +2,7 @@
 //
 // Whoever saves a file finds a full disk or a folder that cannot be written: the old file stays
 // whole, and the user is told.
-#include "engine/settings_file.h"
+#include "records/settings_file.h"
 #include "support/calculator_fixture.h"
 #include "support/failing_disk.h"
 

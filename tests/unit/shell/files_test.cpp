@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Tape files, register files, Reset and its undo, with a whole calculator.
-#include "engine/settings_file.h"
+#include "records/settings_file.h"
 #include "support/calculator_fixture.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk/entry_commands.h"
+
+#include "engine/engine.h"
+#include "platform/key_codes.h"
+#include "platform/text.h"
+
+#include <string>
+#include <utility>
+
+namespace tallyforge {
+
+namespace {
+
+// Control characters that Ctrl with a letter types.
+constexpr int kCtrlC = 3;
+constexpr int kCtrlP = 16;
+constexpr int kCtrlV = 22;
+constexpr int kCtrlX = 24;
+
+// Function keys that the keyboard reaches, by index on the bank.
+constexpr int kReciprocal = 0;
+constexpr int kSquare = 1;
+constexpr int kSquareRoot = 2;
+constexpr int kPi = 3;
+constexpr int kPercent = 4;
+constexpr int kPower = 5;
+constexpr int kToBase = 6;
+constexpr int kShiftLeft = 7;
+constexpr int kShiftRight = 10;
+constexpr int kFactorial = 23;
+
+/// Arithmetic key of a character, or -1.
+int arithmeticKey(int key) {
+    switch (key) {
+        case '/':
+        case 'd':
+        case 'D':
+            return 0;
+        case '*':
+        case 'm':
+        case 'M':
+            return 1;
+        case '-':
+            return 2;
+        case '+':
+        case 'a':
+        case 'A':
+            return 3;
+        default:
+            return -1;
+    }
+}
+
+}  // namespace
+
+template <typename Action>
+void EntryCommands::withoutBase(Action action) {
+    EngineState& s = calc.s;
+    const bool base = std::exchange(s.BaseMode, false);
+    s.BaseSuspended = base ? kBaseSuspended : std::uint8_t{0};
+    action();
+    s.BaseMode = base;
+    s.BaseSuspended = 0;
+}
+
+// Digit keys that mean a function with Ctrl. Returns whether nothing more is to be done.
+bool EntryCommands::shortCut(KeyEvent event) {
+    const bool ctrl = event.shift == kCtrl;
+    const bool shiftCtrl = event.shift == (kShift | kCtrl);
+    if (ctrl && (event.keyCode == kKeyDigit6 || event.keyCode == kKeyPad6)) {
+        calc.closeEmptyEntry();
+        pressOn(Keypad::Standard, kPower, kCtrl);
+    } else if ((ctrl || shiftCtrl) && (event.keyCode == kKeyDigit5 || event.keyCode == kKeyPad5)) {
+        if (!calc.s.BaseMode) {
+            calc.closeEmptyEntry();
+            pressOn(Keypad::Percent, kPercent, ctrl ? kCtrl : kShift);
+        }
+        return true;
+    }
+    return false;
+}
+
+void EntryCommands::controlCharacter(int key) {
+    switch (key) {
+        case kCtrlC:
+            calc.closeEmptyEntry();
+            calc.keypads().mnuCopy_Click();
+            break;
+        case kCtrlV:
+            calc.keypads().mnuPaste_Click();
+            break;
+        case kCtrlP:
+            calc.closeEmptyEntry();
+            withoutBase([this] { pressOn(Keypad::Standard, kPi, kCtrl); });
+            break;
+        case kCtrlX:
+            if (!calc.s.BaseMode) {
+                calc.closeEmptyEntry();
+                pressFunction(kSquareRoot);
+            }
+            break;
+        default:
+            break;
+    }
+}
+
+bool EntryCommands::arithmetic(int key) {
+    const int index = arithmeticKey(key);
+    if (index < 0) {
+        return false;
+    }
+    calc.closeEmptyEntry();
+    if (!calc.s.QuizMode) {
+        calc.keypads().cmdMath_Click(index);
+    }
+    return true;
+}
+
+bool EntryCommands::functionCharacter(int key) {
+    EngineState& s = calc.s;
+    const auto withoutBaseMode = [&](Keypad keypad, int function, std::uint8_t mask) {
+        if (!s.BaseMode) {
+            calc.closeEmptyEntry();
+            pressOn(keypad, function, mask);
+        }
+        return true;
+    };
+    switch (key) {
+        case kCtrlX:
+        case 'x':
+            calc.closeEmptyEntry();
+            pressFunction(std::exchange(s.ShiftCtrlHeld, false) ? kSquare : kReciprocal);
+            return true;
+        case 'X':
+            calc.closeEmptyEntry();
+            pressFunction(kSquare);
+            return true;
+        case kCtrlP:
+        case 'P':
+        case 'p':
+            calc.closeEmptyEntry();
+            withoutBase(
+                [&] { pressOn(Keypad::Standard, kPi, s.ShiftCtrlHeld ? std::uint8_t{kCtrl | kAlt} : s.ModifierMask); });
+            return true;
+        case '\\':
+            calc.closeEmptyEntry();
+            stackKeys.cmdChs_Click();
+            return true;
+        case '^':
+            return withoutBaseMode(Keypad::Standard, kPower, 0);
+        case '!':
+            return withoutBaseMode(Keypad::Standard, kFactorial, 0);
+        case '%':
+            return withoutBaseMode(Keypad::Percent, kPercent, s.ModifierMask);
+        case '<':
+        case '>':
+            doubleOrHalve(key);
+            return true;
+        case 'H':
+            toBase();
+            return true;
+        case kKeyEscape:
+            s.EntryOpen = false;
+            return true;
+        default:
+            return false;
+    }
+}
+
+void EntryCommands::toBase() {
+    EngineState& s = calc.s;
+    if (!s.BaseMode) {
+        return;
+    }
+    calc.closeEmptyEntry();
+    if (!calc.commit.FetchX()) {
+        return;
+    }
+    if (!s.Xreg.isTagged()) {
+        s.ModifierMask = kShift;
+    }
+    pressFunction(kToBase);
+}
+
+void EntryCommands::doubleOrHalve(int key) {
+    EngineState& s = calc.s;
+    calc.closeEmptyEntry();
+    if (!calc.commit.FetchX()) {
+        return;
+    }
+    const bool doubles = key == '<';
+    if (s.Xreg.isTagged()) {
+        // The shift is a key of the Binary keypad, lent to the keypad on show.
+        const bool base = std::exchange(s.BaseMode, true);
+        pressOn(Keypad::Binary, doubles ? kShiftLeft : kShiftRight, s.ModifierMask);
+        s.BaseMode = base;
+        return;
+    }
+    s.CurrentProc = "txtXreg";
+    const auto report = [&](const Failure& failure) {
+        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
+    };
+    constexpr double kLargestToDouble = 1.7976931348623157e308 / 2.0;
+    double value = 0.0;
+    const bool read = goOn(report, [&] {
+        value = calc.xNumber();
+        if (doubles && (value > kLargestToDouble || value < -kLargestToDouble)) {
+            throw Failure{FailureNumber::Overflow};
+        }
+    });
+    if (!read) {
+        s.ValueInXreg = false;
+        return;
+    }
+    s.LastX = s.Xreg;
+    s.Xreg = doubles ? value * 2.0 : value / 2.0;
+    s.FnLabel = doubles ? "X"_t : "ö"_t;
+    s.ValueInXreg = true;
+    calc.commit.cmdEnter_Click();
+}
+
+void EntryCommands::pressFunction(int function) {
+    calc.keypads().cmdFunctions_Click(function);
+}
+
+void EntryCommands::pressOn(Keypad keypad, int function, std::uint8_t mask) {
+    EngineState& s = calc.s;
+    const Keypad shown = std::exchange(s.ActiveKeypad, keypad);
+    s.ModifierMask = mask;
+    pressFunction(function);
+    s.ActiveKeypad = shown;
+    if (shown != keypad && !s.MemoryArrayMode && !s.ProgramMode) {
+        calc.keypads().RepaintKeypad();
+    }
+}
+
+}  // namespace tallyforge

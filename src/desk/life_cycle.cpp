@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk/life_cycle.h"
+
+#include "desk/view_keys.h"
+#include "engine/engine.h"
+#include "numbers/number_format.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <string>
+#include <utility>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr int kOldestVersion = 8;
+constexpr int kCompactRows = 5;
+constexpr int kNoticeLimit = 7;
+constexpr std::string_view kTipsOption = "Show Tips at Startup";
+constexpr std::string_view kPlaceNotSaved = "Philosopher ";
+
+/// Keypads in the order of their option bits.
+constexpr std::array<Keypad, 6> kKeypadBits{Keypad::Standard, Keypad::Engineering, Keypad::Trigonometry,
+                                            Keypad::Binary,   Keypad::Convert,     Keypad::Magnetics};
+
+std::string withoutTrailingBlanks(std::string text) {
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
+int numberIn(const std::string& text, int preset) {
+    const auto value = tryReadNumber(text, '.');
+    return value && *value >= -1e6 && *value <= 1e6 ? static_cast<int>(*value) : preset;
+}
+
+std::string zeroPadded(int value, std::size_t width) {
+    std::string digits = std::to_string(std::max(value, 0));
+    return digits.size() < width ? std::string(width - digits.size(), '0') + digits : digits;
+}
+
+}  // namespace
+
+void LifeCycle::Form_Load() {
+    prepareForm();
+    if (!findSettings()) {
+        return;
+    }
+    const auto report = [&](const Failure& failure) {
+        calc.reportIn("Form_Load", failure.code(), description(failure.number()));
+        calc.form.open = false;
+    };
+    calc.s.CurrentProc = "Form_Load";
+    const bool read = goOn(report, [&] {
+        readFirstRecord();
+        if (calc.form.open) {
+            readOptions();
+            readProgramAndPlace();
+            readView();
+        }
+    });
+    if (!read || !calc.form.open) {
+        return;
+    }
+    const bool tips = calc.platform.readOption(kTipsOption, true);
+    calc.form.mnuTip.checked = tips && calc.keypads().ShowTips();
+    if (onTopAtStart_) {
+        mnuAOT_Click();
+    }
+}
+
+void LifeCycle::prepareForm() {
+    EngineState& s = calc.s;
+    viewKeys.FixMenu();
+    s.DecimalChar = calc.platform.decimalCharacter();
+    calc.form.cmdNumPad.back().text = std::string(1, s.DecimalChar);
+    constexpr int kUsualDensity = 96;
+    if (calc.platform.metrics().dotsPerInch != kUsualDensity) {
+        s.CompactForm = true;
+        s.TapeRows = kCompactRows;
+        constexpr float kLargeNumbers = 12.0F;
+        calc.form.lstDisplayReg.font.points = kLargeNumbers;
+        calc.form.lstStack.font.points = kLargeNumbers;
+        calc.form.Label8.place.width = 900;
+    }
+    calc.tape.clear(s.TapeRows);
+    s.StackPtr = 1;
+    s.Yreg = ValueCell::zero();
+}
+
+void LifeCycle::endWith(std::string_view title, std::string_view text) {
+    calc.message(BoxKind::Stop, title, text);
+    calc.form.open = false;
+}
+
+bool LifeCycle::findSettings() {
+    calc.AppDataDir = calc.platform.dataFolder();
+    settings.setPath(calc.AppDataDir / SettingsFile::kName);
+    std::error_code error;
+    // A folder that holds the user's programs or tapes alone is no sign of an earlier start.
+    const bool startedBefore = calc.platform.hasOption(kTipsOption) &&
+                               std::filesystem::exists(calc.AppDataDir, error) &&
+                               !std::filesystem::is_empty(calc.AppDataDir, error);
+    const bool firstStart = !startedBefore && !std::filesystem::exists(settings.path(), error);
+    const auto missing = [&](const Failure& /*failure*/) {
+        endWith("Error loading program!",
+                "There is a missing or corrupt file! Remove and reinstall the software, or see the help on support.");
+    };
+    return goOn(missing, [&] {
+        if (firstStart) {
+            std::filesystem::create_directories(calc.AppDataDir, error);
+            settings.create();
+            calc.platform.writeOption(kTipsOption, true);
+        }
+        for (int number = 1; number <= SettingsFile::kRecords; ++number) {
+            static_cast<void>(settings.read(number));
+        }
+    });
+}
+
+void LifeCycle::readFirstRecord() {
+    const SettingsRecord record = settings.read(1);
+    if (numberIn(record.textA(29, 2), 0) < kOldestVersion) {
+        endWith("Version Conflict!",
+                "You must uninstall the previous version \ncompletely, then reinstall the new version.");
+        return;
+    }
+    units_.magnetics = record.RecLongA();
+    units_.resonance = record.RecFixed();
+    units_.permeability = record.RecLongB();
+    calc.s.TapeFileName = withoutTrailingBlanks(record.textB(3, 25));
+    calc.s.MemoryFileName = withoutTrailingBlanks(record.textB(28, 25));
+}
+
+void LifeCycle::readOptions() {
+    EngineState& s = calc.s;
+    const SettingsRecord record = settings.read(2);
+    std::string tax = record.textB(48, 5);
+    std::replace(tax.begin(), tax.end(), '.', s.DecimalChar);
+    constexpr double kUsualTax = 7.75;
+    s.TaxRate = static_cast<float>(tryReadNumber(tax, s.DecimalChar).value_or(kUsualTax));
+    onTopAtStart_ = record.textA(1, 1) == "E";
+    calc.form.mnuPosition.checked = record.textA(41, 1) == "S";
+    calc.form.mnuLoad.checked = record.textA(11, 1) == "S";
+    s.AutoLoadProgram = calc.form.mnuLoad.checked;
+}
+
+void LifeCycle::readProgramAndPlace() {
+    EngineState& s = calc.s;
+    const SettingsRecord record = settings.read(3);
+    units_.ohm = record.RecLongA();
+    units_.core = record.RecLongB();
+    s.DefaultProgram = withoutTrailingBlanks(record.textA(1, 31));
+    s.SavedTop = 0;
+    s.SavedLeft = 0;
+    if (calc.form.mnuPosition.checked) {
+        s.SavedTop = numberIn(record.textB(1, 5), 0);
+        s.SavedLeft = numberIn(record.textB(7, 6), 0);
+    }
+    s.LastTop = s.SavedTop;
+    s.LastLeft = s.SavedLeft;
+    calc.form.place.top = s.SavedTop;
+    calc.form.place.left = s.SavedLeft;
+    const int word = numberIn(record.textA(42, 2), 64);
+    s.WordSize = word >= 4 && word <= 64 ? word : 64;
+}
+
+void LifeCycle::readView() {
+    EngineState& s = calc.s;
+    const SettingsRecord record = settings.read(2);
+    s.TallForm = record.option(option_bit::kTall);
+    int digits = 0;
+    // A word without a digits bit, which this program never writes, gives one digit more than the key takes.
+    while (digits <= kMaxDisplayDigits && !record.option(option_bit::kDigits + digits)) {
+        ++digits;
+    }
+    s.DisplayDigits = digits;
+    s.SavedDigits = digits;
+    s.ShowLastxField = record.option(option_bit::kLastxField);
+    s.ShowYField = record.option(option_bit::kYField);
+    s.NoKeyPaint = record.option(option_bit::kNoKeyPaint);
+    calc.form.mnuSkins.checked = !s.NoKeyPaint;
+    setAngle(record.option(option_bit::kDegrees) ? AngleMode::Degrees
+             : record.option(option_bit::kGrads) ? AngleMode::Grads
+                                                 : AngleMode::Radians);
+    DisplayMode mode = DisplayMode::Fixed;
+    for (const DisplayMode candidate : {DisplayMode::Engineering, DisplayMode::Scientific, DisplayMode::Fixed}) {
+        mode = record.option(option_bit::kMode + static_cast<int>(candidate)) ? candidate : mode;
+    }
+    calc.display.optFix_Click(mode);
+    s.RememberedMode = mode;
+    Keypad keypad = Keypad::Standard;
+    for (std::size_t i = kKeypadBits.size(); i-- > 0;) {
+        keypad = record.option(option_bit::kKeypad + static_cast<int>(i)) ? kKeypadBits.at(i) : keypad;
+    }
+    calc.keypads().ShowKeypad(keypad);
+    calc.display.writeDigitsCaption();
+    s.ViewExtended = record.option(option_bit::kViewPlain);
+    viewKeys.cmdView_Click();
+}
+
+void LifeCycle::setAngle(AngleMode mode) {
+    calc.s.Angle = mode;
+    calc.form.optDeg.checked = mode == AngleMode::Degrees;
+    calc.form.optRad.checked = mode == AngleMode::Radians;
+    calc.form.optGrad.checked = mode == AngleMode::Grads;
+}
+
+void LifeCycle::Form_Activate() {
+    EngineState& s = calc.s;
+    s.FormActive = true;
+    setAngle(s.Angle);
+    if (s.AutoLoadProgram) {
+        calc.keypads().mnuProgram_Click();
+    }
+    if (!s.BaseMode) {
+        calc.display.optFix_Click(s.RememberedMode);
+    }
+    s.Xnum = 0.0;
+    calc.focusEntry();
+}
+
+void LifeCycle::Form_Deactivate() {
+    calc.s.RememberedMode = calc.s.Mode;
+}
+
+template <typename Change>
+void LifeCycle::changeRecord(int number, Change change) {
+    const auto report = [&](const Failure& failure) {
+        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
+    };
+    goOn(report, [&] {
+        SettingsRecord record = settings.read(number);
+        change(record);
+        settings.write(number, record);
+    });
+}
+
+void LifeCycle::Form_Unload() {
+    EngineState& s = calc.s;
+    s.CurrentProc = "Form_Unload";
+    s.SavedTop = calc.form.minimised ? s.LastTop : calc.form.place.top;
+    s.SavedLeft = calc.form.minimised ? s.LastLeft : calc.form.place.left;
+    changeRecord(3, [&](SettingsRecord& record) {
+        const bool kept = calc.form.mnuPosition.checked;
+        record.setTextB(
+            1, 12, kept ? zeroPadded(s.SavedTop, 5) + " " + zeroPadded(s.SavedLeft, 6) : std::string(kPlaceNotSaved));
+    });
+    calc.form.open = false;
+}
+
+// What is saved of the format are the user's choices, also while the Binary keypad lays them aside.
+// Bits that have no meaning here, and the one that a menu tick writes, stay as they are.
+void LifeCycle::writeOptions(SettingsRecord& record) const {
+    const EngineState& s = calc.s;
+    const auto chooseOne = [&](int first, int count, int chosen) {
+        for (int i = 0; i < count; ++i) {
+            record.setOption(first + i, i == chosen);
+        }
+    };
+    constexpr int kModes = 3;
+    const DisplayMode mode = s.DisplaySaved ? s.SavedMode : s.Mode;
+    chooseOne(option_bit::kMode, kModes, static_cast<int>(mode));
+    chooseOne(option_bit::kDigits, kMaxDisplayDigits + 1, std::clamp(s.SavedDigits, 0, kMaxDisplayDigits));
+    record.setOption(option_bit::kDegrees, s.Angle == AngleMode::Degrees);
+    record.setOption(option_bit::kGrads, s.Angle == AngleMode::Grads);
+    record.setOption(option_bit::kViewPlain, !s.ViewExtended);
+    const auto* const bit = std::find(kKeypadBits.begin(), kKeypadBits.end(), s.ActiveKeypad);
+    // A keypad without a bit of its own starts as the Standard keypad.
+    const auto place = bit == kKeypadBits.end() ? 0 : static_cast<int>(bit - kKeypadBits.begin());
+    chooseOne(option_bit::kKeypad, static_cast<int>(kKeypadBits.size()), place);
+    record.setOption(option_bit::kTall, s.TallForm);
+    record.setOption(option_bit::kYField, s.ShowYField);
+    record.setOption(option_bit::kLastxField, s.ShowLastxField);
+}
+
+void LifeCycle::mnuSave_Click() {
+    EngineState& s = calc.s;
+    s.CurrentProc = "mnuSave";
+    calc.ClearOptKeys();
+    calc.keypads().RepaintKeypad();
+    if (calc.question("SAVE!", "Would you like to save your settings?")) {
+        if (!s.BaseMode) {
+            s.DisplayDigits = s.SavedDigits;
+        }
+        changeRecord(2, [&](SettingsRecord& record) { writeOptions(record); });
+        changeRecord(3, [&](SettingsRecord& record) { record.setTextA(42, 2, zeroPadded(s.WordSize, 2)); });
+    }
+    calc.focusEntry();
+}
+
+void LifeCycle::mnuAOT_Click() {
+    calc.s.CurrentProc = "mnuAOT";
+    const bool onTop = !calc.form.mnuAOT.checked;
+    calc.form.mnuAOT.checked = onTop;
+    calc.form.alwaysOnTop = onTop;
+    changeRecord(2, [&](SettingsRecord& record) { record.setTextA(1, 1, onTop ? "E" : "e"); });
+}
+
+void LifeCycle::mnuPosition_Click() {
+    calc.s.CurrentProc = "mnuPosition";
+    const bool kept = !calc.form.mnuPosition.checked;
+    calc.form.mnuPosition.checked = kept;
+    changeRecord(2, [&](SettingsRecord& record) { record.setTextA(41, 12, kept ? "Snail mail: " : "snail mail: "); });
+}
+
+void LifeCycle::mnuLoad_Click() {
+    calc.s.CurrentProc = "mnuLoad";
+    const bool loads = !calc.form.mnuLoad.checked;
+    calc.form.mnuLoad.checked = loads;
+    changeRecord(2, [&](SettingsRecord& record) { record.setTextA(11, 1, loads ? "S" : "s"); });
+}
+
+void LifeCycle::mnuSkins_Click() {
+    EngineState& s = calc.s;
+    s.CurrentProc = "mnuSkins";
+    s.NoKeyPaint = !s.NoKeyPaint;
+    calc.form.mnuSkins.checked = !s.NoKeyPaint;
+    changeRecord(2, [&](SettingsRecord& record) { record.setOption(option_bit::kNoKeyPaint, s.NoKeyPaint); });
+}
+
+bool LifeCycle::countNotice(Keypad keypad) {
+    const std::size_t at = keypad == Keypad::Engineering ? 1 : 2;
+    bool due = false;
+    changeRecord(1, [&](SettingsRecord& record) {
+        const int count = numberIn(record.textB(at, 1), 0);
+        due = count < kNoticeLimit;
+        if (due) {
+            record.setTextB(at, 1, std::to_string(count + 1));
+        }
+    });
+    return due;
+}
+
+}  // namespace tallyforge

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// How the program starts and ends, and what it keeps in the settings records in between.
+#pragma once
+
+#include "engine/engine_state.h"
+#include "records/settings_file.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace tallyforge {
+
+class Engine;
+class ViewKeys;
+
+/// Words of unit choices as the settings hold them, one bit set in each range of units.
+struct UnitWords {
+    std::int32_t magnetics = 0;
+    std::int64_t resonance = 0;
+    std::int32_t permeability = 0;
+    std::int32_t ohm = 0;
+    std::int32_t core = 0;
+};
+
+class LifeCycle {
+public:
+    LifeCycle(Engine& calculator, SettingsFile& settingsFile, ViewKeys& view)
+        : calc(calculator), settings(settingsFile), viewKeys(view) {}
+
+    /// Reads the settings and brings the form into the state that they ask for. Closes the form
+    /// after a message where the record file is missing, damaged or too old. On the first start,
+    /// with no file and no trace of an earlier one, the file is made with its defaults.
+    void Form_Load();
+    void Form_Activate();
+    void Form_Deactivate();
+    /// Keeps the window's position where the user wants it kept, and ends the program.
+    void Form_Unload();
+
+    /// Asks, then writes digits, mode, keypad, view, angle and word size.
+    void mnuSave_Click();
+    void mnuAOT_Click();
+    void mnuPosition_Click();
+    void mnuLoad_Click();
+    void mnuSkins_Click();
+
+    /// Whether the first notice of a keypad is still due; counts it.
+    bool countNotice(Keypad keypad);
+
+    [[nodiscard]] const UnitWords& units() const { return units_; }
+
+private:
+    void prepareForm();
+    bool findSettings();
+    void readFirstRecord();
+    void readOptions();
+    void readProgramAndPlace();
+    void readView();
+    void setAngle(AngleMode mode);
+    void endWith(std::string_view title, std::string_view text);
+    void writeOptions(SettingsRecord& record) const;
+    template <typename Change>
+    void changeRecord(int number, Change change);
+
+    Engine& calc;
+    SettingsFile& settings;
+    ViewKeys& viewKeys;
+    UnitWords units_;
+    bool onTopAtStart_ = false;
+};
+
+}  // namespace tallyforge

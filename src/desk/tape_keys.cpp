@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk/tape_keys.h"
+
+#include "desk/machine_reset.h"
+#include "desk/memory_registers.h"
+#include "engine/engine.h"
+#include "engine/tape_width.h"
+#include "records/data_files.h"
+#include "records/file_failure.h"
+#include "records/settings_file.h"
+
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr const char* kUndoFile = "undo.rec";
+
+bool endsInBaseLetter(std::string_view text) {
+    return !text.empty() && std::string_view{"bdho"}.find(text.back()) != std::string_view::npos;
+}
+
+}  // namespace
+
+void TapeKeys::lstDisplayReg_DblClick() {
+    EngineState& s = calc.s;
+    const std::size_t row = calc.tape.selected();
+    const std::size_t fillersBefore = static_cast<std::size_t>(calc.tape.fillers());
+    std::string text = calc.tape.row(row);
+    ValueCell value = calc.tape.value(row);
+    s.CurrentProc = "lstDisplayReg";
+    if (row < fillersBefore || row >= calc.tape.count()) {
+        return;
+    }
+    if (!calc.entryText().empty()) {
+        calc.commit.cmdEnter_Click();
+    }
+    while (s.BaseMode && text.starts_with('#') && !endsInBaseLetter(text) && text.ends_with(' ')) {
+        text.pop_back();
+    }
+    const auto blanks = text.rfind("  ");
+    s.Xreg = std::move(value);
+    s.FnLabel = blanks == std::string::npos ? "Rtrv" : text.substr(blanks);
+    calc.commit.pushRecalled();
+}
+
+void TapeKeys::lstStack_Click() {
+    EngineState& s = calc.s;
+    const std::size_t row = calc.stackList.selected();
+    if (row >= calc.stackList.count()) {
+        return;
+    }
+    const ValueCell value = s.slot(calc.stackList.element(row));
+    if (!calc.entryText().empty()) {
+        calc.commit.cmdEnter_Click();
+    }
+    s.Xreg = value;
+    s.FnLabel = "Rtrv";
+    calc.commit.pushRecalled();
+}
+
+TapeFileContent TapeKeys::present(TapeFileKind kind) const {
+    const EngineState& s = calc.s;
+    TapeFileContent content;
+    content.kind = kind;
+    content.registers = registers.lines();
+    content.LastX = s.LastX;
+    content.Yreg = s.Yreg;
+    content.StackPtr = s.StackPtr;
+    content.Xreg = s.Xreg;
+    for (int element = 1; element < s.StackPtr; ++element) {
+        content.stack.push_back(s.slot(element));
+    }
+    content.fillers = calc.tape.fillers();
+    for (std::size_t row = 0; row < calc.tape.count(); ++row) {
+        content.lines.push_back(calc.tape.row(row));
+        if (row >= static_cast<std::size_t>(content.fillers)) {
+            content.values.push_back(calc.tape.value(row));
+        }
+    }
+    return content;
+}
+
+void TapeKeys::saveTo(const std::filesystem::path& path) {
+    saveOrReport(calc, "mnuSaveTape_Click", path, formatTapeFile(present(calc.s.UndoKind), calc.s.DecimalChar));
+}
+
+void TapeKeys::mnuSaveTape_Click() {
+    EngineState& s = calc.s;
+    if (s.UndoKind != TapeFileKind::None) {
+        saveTo(calc.AppDataDir / kUndoFile);
+    } else {
+        s.UndoKind = TapeFileKind::SavedByUser;
+        calc.keypads().RepaintKeypad();
+        calc.ClearOptKeys();
+        if (const auto path = askWhereToSave(calc, "Save Running Tape", s.TapeFileName)) {
+            if (askForDefaultName(calc, *path)) {
+                rememberFileName(calc, settings, DefaultName::Tape, *path);
+            }
+            saveTo(*path);
+        }
+    }
+    s.UndoKind = TapeFileKind::None;
+}
+
+std::optional<std::filesystem::path> TapeKeys::askForTape() {
+    calc.ClearOptKeys();
+    calc.keypads().RepaintKeypad();
+    const auto path = askWhatToRetrieve(calc, "Retrieve Running Tape", calc.s.TapeFileName);
+    const bool agreed =
+        path && calc.question("Overwrite?", "This will overwrite all your current information, continue?");
+    return agreed ? path : std::nullopt;
+}
+
+void TapeKeys::mnuTape_Click() {
+    EngineState& s = calc.s;
+    s.CurrentProc = "mnuTape";
+    const auto path = s.UndoKind == TapeFileKind::Undo ? std::optional{calc.AppDataDir / kUndoFile} : askForTape();
+    s.CurrentProc = "mnuTape";
+    if (path) {
+        const auto report = [&](const Failure& failure) { calc.errorBox(BoxKind::Notice, retrievalMessage(failure)); };
+        goOn(report, [&] { retrieve(*path); });
+    }
+    s.UndoKind = TapeFileKind::None;
+    s.TapeHeader.clear();
+    s.CurrentProc.clear();
+    calc.focusEntry();
+}
+
+void TapeKeys::retrieve(const std::filesystem::path& path) {
+    const std::string text = onFile([&] { return readWhole(path); });
+    const TapeFileContent content = parseTapeFile(text, calc.s.DecimalChar);
+    if (content.hasStack()) {
+        reset.clearStackAndTape();
+    }
+    if (content.hasRegisters()) {
+        reset.clearRegisters();
+        registers.take(content.registers);
+    }
+    if (content.hasStack()) {
+        take(content);
+    }
+    for (Control* key : {&calc.form.cmdSTO, &calc.form.cmdDown, &calc.form.cmdXchgY, &calc.form.cmdLastx}) {
+        key->enabled = true;
+    }
+}
+
+void TapeKeys::take(const TapeFileContent& content) {
+    EngineState& s = calc.s;
+    const auto orZero = [](const ValueCell& value) { return value.isEmptyText() ? ValueCell::zero() : value; };
+    s.LastX = orZero(content.LastX);
+    s.Yreg = orZero(content.Yreg);
+    s.Xreg = orZero(content.Xreg);
+    s.StackPtr = content.StackPtr;
+    s.Stack.resize(static_cast<std::size_t>(s.StackPtr) + 2);
+    std::copy(content.stack.begin(), content.stack.end(), s.Stack.begin() + 1);
+    calc.tape.clear(0);
+    for (std::size_t row = 0; row < content.lines.size(); ++row) {
+        const auto fillers = static_cast<std::size_t>(content.fillers);
+        calc.tape.add(content.lines[row], row < fillers ? ValueCell{} : content.values[row - fillers]);
+    }
+    calc.tape.setFillers(content.fillers);
+    const bool full = content.fillers == 0 && content.lines.size() > static_cast<std::size_t>(s.TapeRows);
+    calc.form.lstDisplayReg.place.width = full ? kWideTape : kNarrowTape;
+    calc.stackList.refresh();
+    calc.commit.ShowSmallRegs();
+}
+
+}  // namespace tallyforge

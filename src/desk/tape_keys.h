@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the user does to the tape and the stack list: bring a value back, save the machine's state
+// to a file, retrieve it.
+#pragma once
+
+#include "records/tape_file.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace tallyforge {
+
+class Engine;
+class MachineReset;
+class MemoryRegisters;
+class SettingsFile;
+
+class TapeKeys {
+public:
+    TapeKeys(Engine& calculator, SettingsFile& settingsFile, MemoryRegisters& memory, MachineReset& machine)
+        : calc(calculator), settings(settingsFile), registers(memory), reset(machine) {}
+
+    /// Pushes the value behind the selected tape line, under the label at the line's end.
+    void lstDisplayReg_DblClick();
+    /// Pushes the selected element of the stack list.
+    void lstStack_Click();
+
+    /// Saves to a file that the user names; with UndoKind set, to "undo.rec" without a question.
+    void mnuSaveTape_Click();
+    /// Retrieves a file that the user names; with UndoKind 4, "undo.rec". The file is taken whole
+    /// or not at all.
+    void mnuTape_Click();
+
+private:
+    void saveTo(const std::filesystem::path& path);
+    void retrieve(const std::filesystem::path& path);
+    [[nodiscard]] TapeFileContent present(TapeFileKind kind) const;
+    void take(const TapeFileContent& content);
+    [[nodiscard]] std::optional<std::filesystem::path> askForTape();
+
+    Engine& calc;
+    SettingsFile& settings;
+    MemoryRegisters& registers;
+    MachineReset& reset;
+};
+
+}  // namespace tallyforge

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Draws a control into a rectangle: one function a kind, no state.
+#pragma once
+
+#include "desktops/qt/theme.h"
+#include "platform/form.h"
+
+#include <QFont>
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+namespace tallyforge::qt {
+
+/// A control's text as it reads on screen, access mark and all.
+[[nodiscard]] QString shownText(const Control& control);
+/// The same without the access mark.
+[[nodiscard]] QString plainCaption(const Control& control);
+
+/// A caption broken and sized so that it stands inside a key.
+struct FittedCaption {
+    QStringList lines;
+    QFont font;
+    int accessLine = -1;  ///< line and place of the underlined letter
+    int accessAt = -1;
+};
+/// Breaks `caption` at a blank where one line does not fit `size`, and makes the font smaller
+/// until it does.
+[[nodiscard]] FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTwip);
+
+struct PaintState {
+    bool pressed = false;
+    bool focused = false;
+    double pixelsPerTwip = 0.1;
+};
+
+void paintKey(QPainter& painter, const QRectF& area, const Control& control, const FittedCaption& caption,
+              const Theme& theme, PaintState state);
+void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
+void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
+void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
+void paintFrame(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
+void paintLamp(QPainter& painter, const QRectF& area, const Theme& theme);
+
+/// Geometry of a list's rows in an area of `height` pixels.
+struct ListMetrics {
+    double rowHeight = 20.0;
+    std::size_t visibleRows = 7;
+    double top = 0.0;  ///< where the first row stands
+};
+[[nodiscard]] ListMetrics listMetrics(const Control& list, double height, double pixelsPerTwip);
+/// The font of a list's rows.
+[[nodiscard]] QFont listFont(const Control& list, const ListMetrics& rows, double pixelsPerTwip);
+/// Draws the rows from `first` on; what lies outside the area costs nothing.
+void paintList(QPainter& painter, const QRectF& area, const Control& list, std::size_t first, const Theme& theme,
+               PaintState state);
+
+}  // namespace tallyforge::qt

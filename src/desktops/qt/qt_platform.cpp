@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktops/qt/qt_platform.h"
+
+#include "desktops/qt/form_view.h"
+#include "desktops/qt/theme.h"
+#include "platform/text.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QScreen>
+#include <QSettings>
+#include <QSpacerItem>
+#include <QStandardPaths>
+#include <QThread>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace tallyforge::qt {
+
+namespace {
+
+QString unicode(std::string_view text, Face face = Face::Arial) {
+    return QString::fromStdString(toUnicode(text, face));
+}
+
+QMessageBox::Icon iconOf(BoxKind kind) {
+    switch (kind) {
+        case BoxKind::Stop:
+            return QMessageBox::Critical;
+        case BoxKind::Notice:
+            return QMessageBox::Warning;
+        case BoxKind::Info:
+            return QMessageBox::Information;
+        case BoxKind::Question:
+            return QMessageBox::Question;
+        case BoxKind::Plain:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QSettings settings() {
+    return QSettings("Oakhollow", "Tallyforge");
+}
+
+QString optionKey(std::string_view key) {
+    return "Options/" + QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+}
+
+/// A box is as wide as its text; its title shall be read, too.
+void widenForTitle(QMessageBox& box) {
+    constexpr int kButtonsBeside = 120;
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kButtonsBeside;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform() : generator_(std::random_device{}()) {}
+
+void QtPlatform::refresh() const {
+    if (showChanges) {
+        showChanges();
+    }
+}
+
+Answer QtPlatform::messageBox(const MessageBox& box) {
+    refresh();
+    QMessageBox message(iconOf(box.kind), unicode(box.title), unicode(box.text), QMessageBox::NoButton, window_);
+    message.setTextFormat(Qt::PlainText);
+    widenForTitle(message);
+    switch (box.buttons) {
+        case BoxButtons::Ok:
+            message.setStandardButtons(QMessageBox::Ok);
+            break;
+        case BoxButtons::OkCancel:
+            message.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+            break;
+        case BoxButtons::YesNo:
+            message.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+            message.setDefaultButton(QMessageBox::No);
+            break;
+    }
+    switch (message.exec()) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return box.buttons == BoxButtons::YesNo ? Answer::No : Answer::Ok;
+    }
+}
+
+std::string QtPlatform::inputBox(const InputBox& box) {
+    refresh();
+    QInputDialog input(window_);
+    input.setWindowTitle(unicode(box.title));
+    input.setLabelText(unicode(box.prompt));
+    input.setTextValue(unicode(box.preset));
+    if (auto* prompt = input.findChild<QLabel*>()) {
+        constexpr int kReadableWidth = 420;
+        prompt->setWordWrap(true);
+        prompt->setMinimumWidth(kReadableWidth);
+    }
+    const bool accepted = input.exec() == QDialog::Accepted;
+    return accepted ? fromUnicode(input.textValue().toStdString()) : std::string{};
+}
+
+void QtPlatform::showDialog(Form& dialog) {
+    QDialog window(window_);
+    window.setWindowTitle(unicode(dialog.title));
+    auto* layout = new QVBoxLayout(&window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* view = new FormView(dialog, decimalCharacter(), &window);
+    view->setFixedSize(view->sizeAt(FormView::kUsualScale));
+    layout->addWidget(view);
+    view->formChanged = [&] {
+        if (!dialog.open) {
+            window.accept();
+        }
+    };
+    dialog.open = true;
+    window.exec();
+    dialog.open = false;
+}
+
+DesktopMetrics QtPlatform::metrics() const {
+    DesktopMetrics metrics;
+    // Qt scales for high densities by itself, so the calculator always sees the usual one.
+    if (const QScreen* screen = QGuiApplication::primaryScreen(); screen != nullptr) {
+        constexpr int kTwipsPerPixel = 15;
+        metrics.screenWidth = screen->size().width() * kTwipsPerPixel;
+        metrics.screenHeight = screen->size().height() * kTwipsPerPixel;
+    }
+    return metrics;
+}
+
+char QtPlatform::decimalCharacter() const {
+    return QLocale().decimalPoint() == "," ? ',' : '.';
+}
+
+std::filesystem::path QtPlatform::dataFolder() const {
+    const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return std::filesystem::path(base.toStdString()) / "Oakhollow" / "Tallyforge";
+}
+
+std::filesystem::path QtPlatform::installedFolder() const {
+    return QApplication::applicationDirPath().toStdString();
+}
+
+bool QtPlatform::readOption(std::string_view key, bool preset) const {
+    return settings().value(optionKey(key), preset).toBool();
+}
+
+bool QtPlatform::hasOption(std::string_view key) const {
+    return settings().contains(optionKey(key));
+}
+
+void QtPlatform::writeOption(std::string_view key, bool value) {
+    settings().setValue(optionKey(key), value);
+}
+
+std::string QtPlatform::clipboardText() const {
+    return fromUnicode(QGuiApplication::clipboard()->text().toStdString());
+}
+
+void QtPlatform::setClipboardText(std::string_view text) {
+    QGuiApplication::clipboard()->setText(unicode(text));
+}
+
+void QtPlatform::print(std::span<const PrintLine> lines) {
+    QPrinter printer;
+    QPrintDialog dialog(&printer, window_);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    QPainter painter(&printer);
+    double top = 0.0;
+    for (const PrintLine& line : lines) {
+        QFont font = faceFont(line.font, 10.0);
+        font.setPointSizeF(static_cast<double>(line.font.points));
+        painter.setFont(font);
+        const QFontMetricsF metrics(font, &printer);
+        if (top + metrics.height() > painter.viewport().height()) {
+            printer.newPage();
+            top = 0.0;
+        }
+        painter.drawText(QPointF(0.0, top + metrics.ascent()), unicode(line.text, line.font.face));
+        top += metrics.height();
+    }
+}
+
+void QtPlatform::playSound(std::span<const std::uint8_t> /*wave*/) {
+    QApplication::beep();
+}
+
+void QtPlatform::openUrl(std::string_view url) {
+    QDesktopServices::openUrl(QUrl(unicode(url)));
+}
+
+void QtPlatform::openFolder(const std::filesystem::path& folder) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(folder.string())));
+}
+
+// Help pages are not part of the calculator yet.
+void QtPlatform::helpTopic(int /*topic*/) {}
+
+LocalTime QtPlatform::now() const {
+    const QDateTime time = QDateTime::currentDateTime();
+    return {.year = time.date().year(),
+            .month = time.date().month(),
+            .day = time.date().day(),
+            .hour = time.time().hour(),
+            .minute = time.time().minute(),
+            .second = time.time().second()};
+}
+
+double QtPlatform::random() {
+    return std::uniform_real_distribution<double>(0.0, 1.0)(generator_);
+}
+
+void QtPlatform::sleep(std::chrono::milliseconds time) {
+    QThread::msleep(static_cast<unsigned long>(time.count()));
+}
+
+Interruption QtPlatform::breathe() {
+    refresh();
+    return runWatch_.letPass(window_);
+}
+
+}  // namespace tallyforge::qt

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The desktop as Qt knows it: boxes, clipboard, printer, folders, sound.
+#pragma once
+
+#include "desktops/qt/run_watch.h"
+#include "platform/platform.h"
+
+#include <functional>
+#include <random>
+
+class QWidget;
+
+namespace tallyforge::qt {
+
+class QtPlatform final : public Platform {
+public:
+    QtPlatform();
+
+    /// Boxes and dialogs open over this window.
+    void setWindow(QWidget* window) { window_ = window; }
+    /// Shows what has changed in the main form; called before a box opens and while a program runs,
+    /// when no handler ends that would show it.
+    std::function<void()> showChanges;
+
+    Answer messageBox(const MessageBox& box) override;
+    std::string inputBox(const InputBox& box) override;
+    void showDialog(Form& dialog) override;
+    [[nodiscard]] DesktopMetrics metrics() const override;
+    [[nodiscard]] char decimalCharacter() const override;
+    [[nodiscard]] std::filesystem::path dataFolder() const override;
+    [[nodiscard]] std::filesystem::path installedFolder() const override;
+    [[nodiscard]] bool readOption(std::string_view key, bool preset) const override;
+    [[nodiscard]] bool hasOption(std::string_view key) const override;
+    void writeOption(std::string_view key, bool value) override;
+    [[nodiscard]] std::string clipboardText() const override;
+    void setClipboardText(std::string_view text) override;
+    void print(std::span<const PrintLine> lines) override;
+    void playSound(std::span<const std::uint8_t> wave) override;
+    void openUrl(std::string_view url) override;
+    void openFolder(const std::filesystem::path& folder) override;
+    void helpTopic(int topic) override;
+    [[nodiscard]] LocalTime now() const override;
+    [[nodiscard]] double random() override;
+    void sleep(std::chrono::milliseconds time) override;
+    Interruption breathe() override;
+
+private:
+    void refresh() const;
+
+    QWidget* window_ = nullptr;
+    RunWatch runWatch_;
+    std::mt19937_64 generator_;
+};
+
+}  // namespace tallyforge::qt

@@ -1,0 +1,367 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "numbers/number_format.h"
+
+#include "numbers/decimal_digits.h"
+#include "numbers/failure.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace tallyforge {
+
+namespace {
+
+enum class Reading { Number, NoNumber, TooLarge };
+
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+std::string_view withoutBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    return first == text.npos ? std::string_view{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// Length of the run of digits at the head of `text`.
+std::size_t digitRun(std::string_view text) {
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isDigit) - text.begin());
+}
+
+/// True where `text` is an exponent as a whole: "e", sign, digits. An empty text is one, too.
+bool isExponent(std::string_view text) {
+    if (text.empty()) {
+        return true;
+    }
+    if (text.front() != 'e' && text.front() != 'E') {
+        return false;
+    }
+    text.remove_prefix(1);
+    if (!text.empty() && (text.front() == '+' || text.front() == '-')) {
+        text.remove_prefix(1);
+    }
+    return !text.empty() && digitRun(text) == text.size();
+}
+
+/// Of a number beyond the range of a double, with a decimal point: whether it is too large, and not
+/// too small. The exponent of its first digit that is not 0 tells.
+bool isTooLarge(std::string_view text) {
+    text.remove_prefix(text.starts_with('-') || text.starts_with('+') ? 1 : 0);
+    const auto mark = std::min(text.find_first_of("eE"), text.size());
+    const std::string_view mantissa = text.substr(0, mark);
+    std::string_view power = text.substr(std::min(mark + 1, text.size()));
+    power.remove_prefix(power.starts_with('+') ? 1 : 0);
+    long long exponent = 0;
+    if (std::from_chars(power.data(), power.data() + power.size(), exponent).ec == std::errc::result_out_of_range) {
+        return !power.starts_with('-');
+    }
+    const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
+    const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
+    return exponent + point - first > 0;
+}
+
+Reading scan(std::string_view text, char decimal, double& value) {
+    text = withoutBlanks(text);
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+        if (text.starts_with('-')) {
+            return Reading::NoNumber;
+        }
+    }
+    std::string_view rest = text.starts_with('-') ? text.substr(1) : text;
+    const std::size_t whole = digitRun(rest);
+    rest.remove_prefix(whole);
+    std::size_t fraction = 0;
+    const bool hasPoint = rest.starts_with(decimal);
+    if (hasPoint) {
+        rest.remove_prefix(1);
+        fraction = digitRun(rest);
+        rest.remove_prefix(fraction);
+    }
+    if (whole + fraction == 0 || !isExponent(rest)) {
+        return Reading::NoNumber;
+    }
+    std::string plain;
+    if (hasPoint && decimal != '.') {
+        plain = text;
+        std::replace(plain.begin(), plain.end(), decimal, '.');
+        text = plain;
+    }
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        if (isTooLarge(text)) {
+            return Reading::TooLarge;
+        }
+        // A number too small reads as 0.
+        value = text.starts_with('-') ? -0.0 : 0.0;
+    }
+    return Reading::Number;
+}
+
+void appendExponent(std::string& out, int exponent) {
+    out += exponent < 0 ? "e-" : "e+";
+    const int size = std::abs(exponent);
+    if (size < 10) {
+        out += '0';
+    }
+    out += std::to_string(size);
+}
+
+/// Powers of ten that a double holds exactly.
+constexpr int kExactPowers = 22;
+constexpr std::array<double, kExactPowers + 1> kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                            1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                            1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+/// `size` times ten to the power of `scale`, as a rounded product and what it lacks, exactly.
+struct Scaled {
+    double product;
+    double rest;
+};
+Scaled scaled(double size, int scale) {
+    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(scale))];
+    if (scale >= 0) {
+        const double product = size * power;
+        return {product, std::fma(size, power, -product)};
+    }
+    const double quotient = size / power;
+    // The remainder of a division is exact; its quotient is far below what a tie could turn on.
+    return {quotient, std::fma(-quotient, power, size) / power};
+}
+
+/// `size` as a whole number of fifteen digits that stand `scale` places behind the point; the
+/// integer nearest to it, or 0 where only the decimal text can tell.
+double nearestFifteen(double size, int scale) {
+    const auto [product, rest] = scaled(size, scale);
+    const double whole = std::nearbyint(product);
+    const double fraction = product - whole;
+    // Where the halves meet the text decides: ties are rare, and it knows them exactly.
+    const double beyond = fraction + rest;
+    if (std::abs(std::abs(beyond) - 0.5) < 0.001) {
+        return 0.0;
+    }
+    return beyond > 0.5 ? whole + 1.0 : beyond < -0.5 ? whole - 1.0 : whole;
+}
+
+double throughText(double value) {
+    std::array<char, 40> text{};
+    const auto printed =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, kTextDigits);
+    double back = value;
+    const auto read = std::from_chars(text.data(), printed.ptr, back);
+    return read.ec == std::errc{} ? back : value;
+}
+
+/// A number pattern taken apart at its point.
+struct Pattern {
+    std::string_view whole;
+    std::string_view fraction;
+    bool hasPoint = false;
+    bool scientific = false;
+};
+
+Pattern takeApart(std::string_view pattern) {
+    Pattern parts;
+    constexpr std::string_view kExponent = "e+00";
+    if (pattern.ends_with(kExponent)) {
+        parts.scientific = true;
+        pattern.remove_suffix(kExponent.size());
+    }
+    const auto point = pattern.find('.');
+    parts.whole = pattern.substr(0, point);
+    parts.hasPoint = point != pattern.npos;
+    if (parts.hasPoint) {
+        parts.fraction = pattern.substr(point + 1);
+    }
+    return parts;
+}
+
+int placesIn(std::string_view text) {
+    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char c) { return c == '0' || c == '#'; }));
+}
+
+/// The whole part, written from its last digit leftwards.
+std::string wholePart(const DecimalDigits& number, std::string_view pattern) {
+    const bool grouped = pattern.find(',') != pattern.npos;
+    const auto firstPlace = pattern.find_first_of("0#");
+    std::string reversed;
+    int place = 0;
+    const int top = number.zero() ? -1 : number.exponent();
+    const auto put = [&] {
+        if (grouped && place > 0 && place % 3 == 0) {
+            reversed += ',';
+        }
+        reversed += number.digitAt(place++);
+    };
+    for (std::size_t at = pattern.size(); at-- > 0;) {
+        const char mark = pattern[at];
+        if (mark == '0' || (mark == '#' && place <= top)) {
+            put();
+        } else if (mark != '#' && mark != ',' && (at < firstPlace || place <= top)) {
+            if (at < firstPlace) {
+                break;
+            }
+            reversed += mark;
+        }
+    }
+    while (place <= top) {
+        put();
+    }
+    if (number.negative()) {
+        reversed += '-';
+    }
+    std::string text{pattern.substr(0, std::min(firstPlace, pattern.size()))};
+    return text.append(reversed.rbegin(), reversed.rend());
+}
+
+std::string fractionPart(const DecimalDigits& number, std::string_view pattern) {
+    std::string text;
+    int place = -1;
+    const int last = number.exponent() - static_cast<int>(number.digits().size()) + 1;
+    for (const char mark : pattern) {
+        if (mark == '0' || (mark == '#' && !number.zero() && place >= last)) {
+            text += number.digitAt(place--);
+        } else if (mark != '#') {
+            text += mark;
+        }
+    }
+    return text;
+}
+
+}  // namespace
+
+double readNumber(std::string_view text, char decimal) {
+    double value = 0.0;
+    switch (scan(text, decimal, value)) {
+        case Reading::NoNumber:
+            throw Failure{FailureNumber::TypeMismatch};
+        case Reading::TooLarge:
+            throw Failure{FailureNumber::Overflow};
+        case Reading::Number:
+            break;
+    }
+    return value;
+}
+
+std::optional<double> tryReadNumber(std::string_view text, char decimal) {
+    double value = 0.0;
+    return scan(text, decimal, value) == Reading::Number ? std::optional{value} : std::nullopt;
+}
+
+std::string plainText(double value, char decimal) {
+    if (value == 0.0) {
+        return "0";
+    }
+    std::array<char, 40> text{};
+    const auto result =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, kTextDigits);
+    std::string out(text.data(), result.ptr);
+    for (char& character : out) {
+        if (character == '.') {
+            character = decimal;
+        } else if (character == 'e') {
+            character = 'E';
+        }
+    }
+    return out;
+}
+
+double fifteenDigits(double value) {
+    constexpr double kLeastFifteen = 1e14;
+    constexpr double kLeastSixteen = 1e15;
+    const double size = std::abs(value);
+    if (size < kLeastSixteen && size == static_cast<double>(static_cast<std::int64_t>(size))) {
+        return value;
+    }
+    constexpr double kLeast = 1e-7;
+    constexpr double kMost = 1e36;
+    if (!(size >= kLeast && size < kMost)) {
+        return throughText(value);
+    }
+    constexpr double kDigitsPerBit = 0.30103;
+    const int exponent = static_cast<int>(std::floor(std::ilogb(size) * kDigitsPerBit));
+    int scale = kTextDigits - 1 - exponent;
+    double whole = scale > kExactPowers ? 0.0 : nearestFifteen(size, scale);
+    if (whole >= kLeastSixteen) {
+        // The estimate of the exponent is one too small for the upper part of a binary step.
+        whole = nearestFifteen(size, --scale);
+    }
+    if (whole <= kLeastFifteen || whole >= kLeastSixteen) {
+        return throughText(value);
+    }
+    // Both are exact, so this is the double nearest to the decimal number.
+    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(scale))];
+    return std::copysign(scale >= 0 ? whole / power : whole * power, value);
+}
+
+double roundHalfEven(double value, int places) {
+    DecimalDigits digits{value};
+    const auto before = digits.digits().size();
+    digits.roundTo(places);
+    // A number that has no more places than asked for keeps its exact value.
+    return digits.digits().size() == before && !digits.zero() ? value : digits.value();
+}
+
+std::string fixedText(double value, int places) {
+    DecimalDigits digits{value};
+    digits.roundTo(places);
+    std::string text;
+    if (digits.negative()) {
+        text += '-';
+    }
+    for (int place = std::max(digits.zero() ? 0 : digits.exponent(), 0); place >= 0; --place) {
+        text += digits.digitAt(place);
+    }
+    if (places > 0) {
+        text += '.';
+        for (int place = -1; place >= -places; --place) {
+            text += digits.digitAt(place);
+        }
+    }
+    return text;
+}
+
+std::string formatPattern(double value, std::string_view pattern, char decimal) {
+    const Pattern parts = takeApart(pattern);
+    DecimalDigits digits{value};
+    int exponent = 0;
+    const int places = placesIn(parts.fraction);
+    if (parts.scientific) {
+        digits.roundToDigits(1 + places);
+        exponent = digits.exponent();
+        digits.scaleToUnits();
+    } else {
+        digits.roundTo(places);
+    }
+    std::string text = wholePart(digits, parts.whole);
+    if (parts.hasPoint) {
+        text += decimal;
+        text += fractionPart(digits, parts.fraction);
+    }
+    if (parts.scientific) {
+        appendExponent(text, exponent);
+    }
+    return text;
+}
+
+std::string formatScientific(double value, int digits, char decimal) {
+    DecimalDigits number{value};
+    number.roundToDigits(1 + digits);
+    std::string text;
+    text.reserve(static_cast<std::size_t>(digits) + 8);
+    if (number.negative()) {
+        text += '-';
+    }
+    text += number.digitAt(number.exponent());
+    text += decimal;
+    for (int place = 1; place <= digits; ++place) {
+        text += number.digitAt(number.exponent() - place);
+    }
+    appendExponent(text, number.exponent());
+    return text;
+}
+
+}  // namespace tallyforge

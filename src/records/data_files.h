@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What saving and retrieving a file of the user's have in common: the questions about its name,
+// and the messages when it fails.
+#pragma once
+
+#include "numbers/failure.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tallyforge {
+
+class Engine;
+class SettingsFile;
+
+/// Which default file name is meant.
+enum class DefaultName { Tape, Registers };
+
+/// Asks for the name of a file to save in the data folder, and whether one that exists may be
+/// overwritten. Empty where the user gave none.
+[[nodiscard]] std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_view title,
+                                                                  const std::string& preset);
+/// Asks for the name of a file of the data folder.
+[[nodiscard]] std::optional<std::filesystem::path> askWhatToRetrieve(Engine& calc, std::string_view title,
+                                                                     const std::string& preset);
+/// Asks whether the name is to be the default from now on.
+[[nodiscard]] bool askForDefaultName(Engine& calc, const std::filesystem::path& path);
+/// Keeps the name as the default, in the state and in the settings record.
+void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, const std::filesystem::path& path);
+
+/// Writes the file; a failure is reported as one of `procedure`. Returns whether it was written.
+bool saveOrReport(Engine& calc, std::string_view procedure, const std::filesystem::path& path, std::string_view text);
+
+/// "File not found!" or "File error #" and the number.
+[[nodiscard]] std::string retrievalMessage(const Failure& failure);
+
+}  // namespace tallyforge

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "numbers/value_cell.h"
+
+#include "numbers/failure.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyforge {
+namespace {
+
+TEST(Cell, ReadsAsANumberWhateverItHolds) {
+    EXPECT_EQ(ValueCell{}.number('.'), 0.0);
+    EXPECT_EQ(ValueCell{std::int16_t{7}}.number('.'), 7.0);
+    EXPECT_EQ(ValueCell{0.5F}.number('.'), 0.5);
+    EXPECT_EQ(ValueCell{true}.number('.'), -1.0);
+    EXPECT_EQ(ValueCell{"2,5"}.number(','), 2.5);
+    EXPECT_THROW((void)ValueCell{"#1b"}.number('.'), Failure);
+    EXPECT_THROW((void)ValueCell{""}.number('.'), Failure);
+}
+
+TEST(Cell, PrintsAsPlainText) {
+    EXPECT_EQ(ValueCell{}.text('.'), "");
+    EXPECT_EQ(ValueCell{std::int16_t{-7}}.text('.'), "-7");
+    EXPECT_EQ(ValueCell{0.1F}.text('.'), "0.1");
+    EXPECT_EQ(ValueCell{false}.text('.'), "False");
+    EXPECT_EQ(ValueCell{2.5}.text(','), "2,5");
+    EXPECT_EQ(ValueCell{"007"}.text('.'), "007") << "a typed number stays as it was typed";
+}
+
+TEST(Cell, KnowsAnEmptyTextFromNothingAndATagFromANumber) {
+    EXPECT_TRUE(ValueCell{}.isEmpty());
+    EXPECT_FALSE(ValueCell{}.isEmptyText());
+    EXPECT_TRUE(ValueCell{""}.isEmptyText());
+    EXPECT_TRUE(ValueCell{"#1b"}.isTagged());
+    EXPECT_FALSE(ValueCell{5.0}.isTagged());
+}
+
+}  // namespace
+}  // namespace tallyforge
