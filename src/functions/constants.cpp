@@ -2,8 +2,8 @@
 #include "functions/constants.h"
 
 #include "engine/engine.h"
+#include "engine/results.h"
 #include "functions/math_functions.h"
-#include "functions/results.h"
 #include "platform/text.h"
 
 #include <cmath>

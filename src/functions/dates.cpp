@@ -2,7 +2,7 @@
 #include "functions/dates.h"
 
 #include "engine/engine.h"
-#include "functions/results.h"
+#include "engine/results.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 #include "functions/everyday.h"
 
 #include "engine/engine.h"
-#include "functions/results.h"
+#include "engine/results.h"
 #include "numbers/checked_math.h"
 #include "numbers/number_format.h"
 #include "platform/text.h"

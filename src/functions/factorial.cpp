@@ -2,8 +2,8 @@
 #include "functions/factorial.h"
 
 #include "engine/engine.h"
+#include "engine/results.h"
 #include "functions/math_functions.h"
-#include "functions/results.h"
 #include "numbers/checked_math.h"
 #include "platform/text.h"
 

@@ -10,16 +10,11 @@
 #pragma once
 
 #include "engine/engine_state.h"
+#include "numbers/circle.h"
 
 #include <optional>
 
 namespace tallyforge {
-
-/// The circle constants that the calculator computes with: fifteen digits, no more. sin(180
-/// degrees) is not quite 0 for that reason.
-inline constexpr double kPi = 3.14159265358979;
-inline constexpr double kTwoPi = 6.28318530717958;
-inline constexpr double kFourPi = 12.56637061435916;
 
 namespace MathFunctions {
 

@@ -2,7 +2,7 @@
 #include "functions/quiz.h"
 
 #include "engine/engine.h"
-#include "functions/results.h"
+#include "engine/results.h"
 #include "platform/text.h"
 
 #include <array>

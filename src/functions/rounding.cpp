@@ -2,7 +2,7 @@
 #include "functions/rounding.h"
 
 #include "engine/engine.h"
-#include "functions/results.h"
+#include "engine/results.h"
 #include "numbers/number_format.h"
 
 #include <cmath>

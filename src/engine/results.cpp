@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "functions/results.h"
+#include "engine/results.h"
 
 #include "engine/engine.h"
 
