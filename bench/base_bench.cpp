@@ -15,14 +15,14 @@ void BaseKey(benchmark::State& state) {
     hand.choose(hand.form().mnuEngBinary);
     Engine& calc = hand.calc();
     const auto push = [&calc](const char* text) {
-        calc.s.Xreg = text;
-        calc.s.EntryOpen = true;
-        calc.s.ValueInXreg = true;
+        calc.s.stack.Xreg = text;
+        calc.s.entry.EntryOpen = true;
+        calc.s.delivery.ValueInXreg = true;
         calc.commit.cmdEnter_Click();
     };
     for (auto _ : state) {
         state.PauseTiming();
-        calc.s.StackPtr = 1;
+        calc.s.stack.StackPtr = 1;
         push("#FEDCBA9876543210h");
         push("#123456789ABCDEFh");
         state.ResumeTiming();

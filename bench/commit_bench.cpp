@@ -21,9 +21,9 @@ struct Machine {
         calculator.start();
         Engine& calc = calculator.engine();
         for (long line = 0; line < lines; ++line) {
-            calc.s.Xreg = 1.25;
-            calc.s.ValueInXreg = true;
-            calc.s.EntryOpen = deep || calc.s.depth() < 1;
+            calc.s.stack.Xreg = 1.25;
+            calc.s.delivery.ValueInXreg = true;
+            calc.s.entry.EntryOpen = deep || calc.s.stack.depth() < 1;
             calc.commit.cmdEnter_Click();
         }
     }
@@ -39,7 +39,7 @@ void TypedNumberPlus(benchmark::State& state) {
         calc.commit.BeginEntry();
         calc.setEntry("3.25");
         calc.keypads().cmdMath_Click(3);
-        benchmark::DoNotOptimize(calc.s.Xreg);
+        benchmark::DoNotOptimize(calc.s.stack.Xreg);
     }
 }
 BENCHMARK(TypedNumberPlus)->Args({10, 0})->Args({1000000, 0})->Args({1000000, 1});
@@ -52,7 +52,7 @@ void OneCommit(benchmark::State& state) {
         calc.commit.BeginEntry();
         calc.setEntry("3.25");
         calc.commit.cmdEnter_Click();
-        calc.s.StackPtr = 2;
+        calc.s.stack.StackPtr = 2;
     }
 }
 BENCHMARK(OneCommit)->Arg(10)->Arg(1000000);

@@ -35,7 +35,7 @@ void StatisticsOfAHundredThousand(benchmark::State& state) {
     for (auto _ : state) {
         CalculatorAtHand hand;
         for (int i = 0; i < kEntries; ++i) {
-            hand.calc().s.EntryOpen = true;
+            hand.calc().s.entry.EntryOpen = true;
             hand.calc().setEntry("12.5");
             hand.calc().keypads().cmdFunctions_Click(kSigma);
         }

@@ -37,8 +37,8 @@ void runLoop(benchmark::State& state, const std::string& loop, int words) {
     for (auto _ : state) {
         click(calc.form, calc.form.cmdFunctions.at(kKeyA));
         state.PauseTiming();
-        calc.tape.clear(calc.s.TapeRows);
-        calc.s.StackPtr = 1;
+        calc.tape.clear(calc.s.window.TapeRows);
+        calc.s.stack.StackPtr = 1;
         state.ResumeTiming();
     }
     state.counters["words"] = benchmark::Counter(static_cast<double>(words + kLoopWords) * kTurns,

@@ -82,7 +82,7 @@ int showWindow() {
     if (!form.open) {
         return 1;
     }
-    qt::MainWindow window(form, calculator.engine().s.DecimalChar);
+    qt::MainWindow window(form, calculator.engine().s.format.DecimalChar);
     platform.setWindow(&window);
     platform.showChanges = [&window] { window.view().sync(); };
     window.present();

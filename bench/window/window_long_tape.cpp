@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
     for (int i = 0; i < lines; ++i) {
         engine.tape.add("+                  5.00", ValueCell(5.0));
     }
-    qt::MainWindow window(engine.form, engine.s.DecimalChar);
+    qt::MainWindow window(engine.form, engine.s.format.DecimalChar);
     platform.setWindow(&window);
     window.present();
     window.show();

@@ -43,7 +43,7 @@ std::uint64_t divide(Engine& calc, std::uint64_t left, std::uint64_t right, char
         throw Failure{FailureNumber::DivisionByZero};
     }
     const std::uint64_t rest = left % right;
-    calc.s.BaseRemainder = rest == 0 ? std::string{} : tagged(rest, letter);
+    calc.s.format.BaseRemainder = rest == 0 ? std::string{} : tagged(rest, letter);
     return left / right;
 }
 
@@ -76,8 +76,8 @@ BinaryKeys::BinaryKeys(Engine& calculator) : calc(calculator) {
 
 // The keys with one meaning refuse every modifier.
 bool BinaryKeys::plainKeyOnly() {
-    if (calc.s.ModifierMask != 0) {
-        calc.s.Xreg = kNoMeaning;
+    if (calc.s.modifiers.ModifierMask != 0) {
+        calc.s.stack.Xreg = kNoMeaning;
         return false;
     }
     return true;
@@ -85,30 +85,31 @@ bool BinaryKeys::plainKeyOnly() {
 
 void BinaryKeys::show(char letter) {
     if (plainKeyOnly()) {
-        calc.s.BaseLetter = letter;
-        calc.s.Xreg = tagged(wholeOf(calc.s.Xreg, calc.s.DecimalChar), letter);
+        calc.s.entry.BaseLetter = letter;
+        calc.s.stack.Xreg = tagged(wholeOf(calc.s.stack.Xreg, calc.s.format.DecimalChar), letter);
     }
 }
 
 void BinaryKeys::baseChoice() {
     EngineState& s = calc.s;
     constexpr std::array<char, 5> kLetterUnder{kBinary, kHexadecimal, kOctal, '\0', kDecimal};
-    const char letter = s.ModifierMask < kLetterUnder.size() ? kLetterUnder.at(s.ModifierMask) : '\0';
+    const char letter =
+        s.modifiers.ModifierMask < kLetterUnder.size() ? kLetterUnder.at(s.modifiers.ModifierMask) : '\0';
     if (letter == '\0') {
-        s.Xreg = kNoMeaning;
+        s.stack.Xreg = kNoMeaning;
         return;
     }
-    if (s.Xreg.isTagged()) {
-        if (s.ModifierMask != 0) {
+    if (s.stack.Xreg.isTagged()) {
+        if (s.modifiers.ModifierMask != 0) {
             throw Failure{FailureNumber::Overflow};
         }
-        s.Xreg = ConvertBin(s.Xreg.textView());
-        s.FnLabel = "real";
+        s.stack.Xreg = ConvertBin(s.stack.Xreg.textView());
+        s.delivery.FnLabel = "real";
         return;
     }
-    s.BaseLetter = letter;
-    s.Xreg = "#" + Real2Bin(s.Xreg, letter, s.DecimalChar) + letter;
-    s.FnLabel = std::string("(") + letter + ")";
+    s.entry.BaseLetter = letter;
+    s.stack.Xreg = "#" + Real2Bin(s.stack.Xreg, letter, s.format.DecimalChar) + letter;
+    s.delivery.FnLabel = std::string("(") + letter + ")";
 }
 
 void BinaryKeys::LogicOp(std::string_view name) {
@@ -117,18 +118,18 @@ void BinaryKeys::LogicOp(std::string_view name) {
         return;
     }
     char letter = kHexadecimal;
-    rememberLetter(letter, s.Xreg);
-    const std::uint64_t x = wholeOf(s.Xreg, s.DecimalChar);
+    rememberLetter(letter, s.stack.Xreg);
+    const std::uint64_t x = wholeOf(s.stack.Xreg, s.format.DecimalChar);
     if (name == "NOT") {
-        s.Xreg = tagged(invertDigits(x, s.WordSize), letter);
-        s.FnLabel = name;
+        s.stack.Xreg = tagged(invertDigits(x, s.format.WordSize), letter);
+        s.delivery.FnLabel = name;
         return;
     }
-    rememberLetter(letter, s.Yreg);
-    const std::uint64_t y = wholeOf(s.Yreg, s.DecimalChar);
+    rememberLetter(letter, s.stack.Yreg);
+    const std::uint64_t y = wholeOf(s.stack.Yreg, s.format.DecimalChar);
     const std::uint64_t result = name == "AND" ? (x & y) : name == "OR" ? (x | y) : (x ^ y);
-    s.Xreg = tagged(result, letter);
-    s.FnLabel = name;
+    s.stack.Xreg = tagged(result, letter);
+    s.delivery.FnLabel = name;
     calc.commit.lowerStack(2);
 }
 
@@ -137,28 +138,29 @@ void BinaryKeys::RotateShift(std::string_view code) {
     if (!plainKeyOnly()) {
         return;
     }
-    if (!s.Xreg.isTagged() || (needsBytes(code) && s.WordSize < kSmallestByteWord)) {
-        if (!s.Xreg.isTagged()) {
+    if (!s.stack.Xreg.isTagged() || (needsBytes(code) && s.format.WordSize < kSmallestByteWord)) {
+        if (!s.stack.Xreg.isTagged()) {
             calc.errorBox(BoxKind::Stop, kOutOfRange);
         }
-        s.KeepX = s.Xreg;
-        s.Xreg = kNothingDone;
+        s.stack.KeepX = s.stack.Xreg;
+        s.stack.Xreg = kNothingDone;
         return;
     }
-    const char letter = letterOf(s.Xreg);
-    const std::string bits = rotateShiftBits(writeDigits(wholeOf(s.Xreg, s.DecimalChar), kBinary), code, s.WordSize);
-    s.Xreg = tagged(readDigits(bits, kBinary), letter);
-    s.FnLabel = code;
+    const char letter = letterOf(s.stack.Xreg);
+    const std::string bits =
+        rotateShiftBits(writeDigits(wholeOf(s.stack.Xreg, s.format.DecimalChar), kBinary), code, s.format.WordSize);
+    s.stack.Xreg = tagged(readDigits(bits, kBinary), letter);
+    s.delivery.FnLabel = code;
 }
 
 ValueCell BinaryKeys::compute(int index, const ValueCell& left, const ValueCell& right) {
     EngineState& s = calc.s;
-    char letter = letterOf(s.Xreg);
+    char letter = letterOf(s.stack.Xreg);
     if (letter == '\0') {
         letter = left.isTagged() ? letterOf(left) : letterOf(right);
     }
-    const std::uint64_t one = wholeOf(left, s.DecimalChar);
-    const std::uint64_t other = wholeOf(right, s.DecimalChar);
+    const std::uint64_t one = wholeOf(left, s.format.DecimalChar);
+    const std::uint64_t other = wholeOf(right, s.format.DecimalChar);
     switch (index) {
         case 0:
             return tagged(divide(calc, one, other, letter), letter);

@@ -57,11 +57,11 @@ int arithmeticKey(int key) {
 template <typename Action>
 void EntryCommands::withoutBase(Action action) {
     EngineState& s = calc.s;
-    const bool base = std::exchange(s.BaseMode, false);
-    s.BaseSuspended = base ? kBaseSuspended : std::uint8_t{0};
+    const bool base = std::exchange(s.modes.BaseMode, false);
+    s.modes.BaseSuspended = base ? kBaseSuspended : std::uint8_t{0};
     action();
-    s.BaseMode = base;
-    s.BaseSuspended = 0;
+    s.modes.BaseMode = base;
+    s.modes.BaseSuspended = 0;
 }
 
 // Digit keys that mean a function with Ctrl. Returns whether nothing more is to be done.
@@ -72,7 +72,7 @@ bool EntryCommands::shortCut(KeyEvent event) {
         calc.closeEmptyEntry();
         pressOn(Keypad::Standard, kPower, kCtrl);
     } else if ((ctrl || shiftCtrl) && (event.keyCode == kKeyDigit5 || event.keyCode == kKeyPad5)) {
-        if (!calc.s.BaseMode) {
+        if (!calc.s.modes.BaseMode) {
             calc.closeEmptyEntry();
             pressOn(Keypad::Percent, kPercent, ctrl ? kCtrl : kShift);
         }
@@ -95,7 +95,7 @@ void EntryCommands::controlCharacter(int key) {
             withoutBase([this] { pressOn(Keypad::Standard, kPi, kCtrl); });
             break;
         case kCtrlX:
-            if (!calc.s.BaseMode) {
+            if (!calc.s.modes.BaseMode) {
                 calc.closeEmptyEntry();
                 pressFunction(kSquareRoot);
             }
@@ -111,7 +111,7 @@ bool EntryCommands::arithmetic(int key) {
         return false;
     }
     calc.closeEmptyEntry();
-    if (!calc.s.QuizMode) {
+    if (!calc.s.modes.QuizMode) {
         calc.keypads().cmdMath_Click(index);
     }
     return true;
@@ -120,7 +120,7 @@ bool EntryCommands::arithmetic(int key) {
 bool EntryCommands::functionCharacter(int key) {
     EngineState& s = calc.s;
     const auto withoutBaseMode = [&](Keypad keypad, int function, std::uint8_t mask) {
-        if (!s.BaseMode) {
+        if (!s.modes.BaseMode) {
             calc.closeEmptyEntry();
             pressOn(keypad, function, mask);
         }
@@ -130,7 +130,7 @@ bool EntryCommands::functionCharacter(int key) {
         case kCtrlX:
         case 'x':
             calc.closeEmptyEntry();
-            pressFunction(std::exchange(s.ShiftCtrlHeld, false) ? kSquare : kReciprocal);
+            pressFunction(std::exchange(s.modifiers.ShiftCtrlHeld, false) ? kSquare : kReciprocal);
             return true;
         case 'X':
             calc.closeEmptyEntry();
@@ -140,8 +140,10 @@ bool EntryCommands::functionCharacter(int key) {
         case 'P':
         case 'p':
             calc.closeEmptyEntry();
-            withoutBase(
-                [&] { pressOn(Keypad::Standard, kPi, s.ShiftCtrlHeld ? std::uint8_t{kCtrl | kAlt} : s.ModifierMask); });
+            withoutBase([&] {
+                pressOn(Keypad::Standard, kPi,
+                        s.modifiers.ShiftCtrlHeld ? std::uint8_t{kCtrl | kAlt} : s.modifiers.ModifierMask);
+            });
             return true;
         case '\\':
             calc.closeEmptyEntry();
@@ -152,7 +154,7 @@ bool EntryCommands::functionCharacter(int key) {
         case '!':
             return withoutBaseMode(Keypad::Standard, kFactorial, 0);
         case '%':
-            return withoutBaseMode(Keypad::Percent, kPercent, s.ModifierMask);
+            return withoutBaseMode(Keypad::Percent, kPercent, s.modifiers.ModifierMask);
         case '<':
         case '>':
             doubleOrHalve(key);
@@ -161,7 +163,7 @@ bool EntryCommands::functionCharacter(int key) {
             toBase();
             return true;
         case kKeyEscape:
-            s.EntryOpen = false;
+            s.entry.EntryOpen = false;
             return true;
         default:
             return false;
@@ -170,15 +172,15 @@ bool EntryCommands::functionCharacter(int key) {
 
 void EntryCommands::toBase() {
     EngineState& s = calc.s;
-    if (!s.BaseMode) {
+    if (!s.modes.BaseMode) {
         return;
     }
     calc.closeEmptyEntry();
     if (!calc.commit.FetchX()) {
         return;
     }
-    if (!s.Xreg.isTagged()) {
-        s.ModifierMask = kShift;
+    if (!s.stack.Xreg.isTagged()) {
+        s.modifiers.ModifierMask = kShift;
     }
     pressFunction(kToBase);
 }
@@ -190,11 +192,11 @@ void EntryCommands::doubleOrHalve(int key) {
         return;
     }
     const bool doubles = key == '<';
-    if (s.Xreg.isTagged()) {
+    if (s.stack.Xreg.isTagged()) {
         // The shift is a key of the Binary keypad, lent to the keypad on show.
-        const bool base = std::exchange(s.BaseMode, true);
-        pressOn(Keypad::Binary, doubles ? kShiftLeft : kShiftRight, s.ModifierMask);
-        s.BaseMode = base;
+        const bool base = std::exchange(s.modes.BaseMode, true);
+        pressOn(Keypad::Binary, doubles ? kShiftLeft : kShiftRight, s.modifiers.ModifierMask);
+        s.modes.BaseMode = base;
         return;
     }
     s.CurrentProc = "txtXreg";
@@ -210,13 +212,13 @@ void EntryCommands::doubleOrHalve(int key) {
         }
     });
     if (!read) {
-        s.ValueInXreg = false;
+        s.delivery.ValueInXreg = false;
         return;
     }
-    s.LastX = s.Xreg;
-    s.Xreg = doubles ? value * 2.0 : value / 2.0;
-    s.FnLabel = doubles ? "X"_t : "ö"_t;
-    s.ValueInXreg = true;
+    s.stack.LastX = s.stack.Xreg;
+    s.stack.Xreg = doubles ? value * 2.0 : value / 2.0;
+    s.delivery.FnLabel = doubles ? "X"_t : "ö"_t;
+    s.delivery.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
 }
 
@@ -226,11 +228,11 @@ void EntryCommands::pressFunction(int function) {
 
 void EntryCommands::pressOn(Keypad keypad, int function, std::uint8_t mask) {
     EngineState& s = calc.s;
-    const Keypad shown = std::exchange(s.ActiveKeypad, keypad);
-    s.ModifierMask = mask;
+    const Keypad shown = std::exchange(s.modes.ActiveKeypad, keypad);
+    s.modifiers.ModifierMask = mask;
     pressFunction(function);
-    s.ActiveKeypad = shown;
-    if (shown != keypad && !s.MemoryArrayMode && !s.ProgramMode) {
+    s.modes.ActiveKeypad = shown;
+    if (shown != keypad && !s.modes.MemoryArrayMode && !s.modes.ProgramMode) {
         calc.keypads().RepaintKeypad();
     }
 }

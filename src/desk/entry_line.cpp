@@ -22,15 +22,15 @@ bool isDigit(int key) {
 
 void EntryLine::txtXreg_KeyDown(KeyEvent event) {
     EngineState& s = calc.s;
-    if (s.ModifierLatched) {
+    if (s.modifiers.ModifierLatched) {
         if (event.keyCode == kKeyEscape) {
             cmdEsc_Click();
         }
         return;
     }
     takeModifiers(event.shift);
-    if (!s.QuizMode) {
-        if (s.Xreg.textView() == kNoMeaning || commands.shortCut(event)) {
+    if (!s.modes.QuizMode) {
+        if (s.stack.Xreg.textView() == kNoMeaning || commands.shortCut(event)) {
             return;
         }
         if (event.keyCode == kKeyF10) {
@@ -46,17 +46,17 @@ void EntryLine::txtXreg_KeyDown(KeyEvent event) {
 
 void EntryLine::takeModifiers(std::uint8_t shift) {
     EngineState& s = calc.s;
-    s.CtrlHeld = false;
-    s.ShiftCtrlHeld = false;
+    s.modifiers.CtrlHeld = false;
+    s.modifiers.ShiftCtrlHeld = false;
     calc.LightModifiers(shift);
-    s.ModifierMask = shift;
-    const bool paints = !s.NoKeyPaint && !s.MemoryArrayMode && !s.ProgramMode;
+    s.modifiers.ModifierMask = shift;
+    const bool paints = !s.modifiers.NoKeyPaint && !s.modes.MemoryArrayMode && !s.modes.ProgramMode;
     if (paints && (shift != 0 || painted_)) {
         calc.keypads().PaintModifiers(shift);
         painted_ = shift != 0;
     }
-    s.CtrlHeld = shift == kCtrl;
-    s.ShiftCtrlHeld = shift == (kShift | kCtrl);
+    s.modifiers.CtrlHeld = shift == kCtrl;
+    s.modifiers.ShiftCtrlHeld = shift == (kShift | kCtrl);
 }
 
 void EntryLine::navigate(int keyCode) {
@@ -77,7 +77,7 @@ void EntryLine::navigate(int keyCode) {
         default:
             break;
     }
-    if (calc.s.ProgramMode) {
+    if (calc.s.modes.ProgramMode) {
         return;
     }
     switch (keyCode) {
@@ -113,14 +113,14 @@ void EntryLine::dropLastCharacter() {
     switch (text.back()) {
         case 'e':
         case 'E':
-            s.EexActive = false;
+            s.entry.EexActive = false;
             break;
         case 'b':
         case 'd':
         case 'h':
         case 'o':
-            s.BaseTagDue = true;
-            s.BaseNumberDone = false;
+            s.entry.BaseTagDue = true;
+            s.entry.BaseNumberDone = false;
             break;
         default:
             break;
@@ -134,41 +134,41 @@ void EntryLine::dropLastCharacter() {
 
 void EntryLine::clearEntryFlags() {
     EngineState& s = calc.s;
-    s.EntryTouched = false;
-    s.DigitTyped = false;
-    s.EexActive = false;
-    s.BaseTagDue = false;
-    s.BaseNumberDone = false;
-    s.EntryOpen = false;
+    s.entry.EntryTouched = false;
+    s.entry.DigitTyped = false;
+    s.entry.EexActive = false;
+    s.entry.BaseTagDue = false;
+    s.entry.BaseNumberDone = false;
+    s.entry.EntryOpen = false;
 }
 
 void EntryLine::txtXreg_KeyPress(int& keyAscii) {
     EngineState& s = calc.s;
     const int key = std::exchange(keyAscii, 0);
-    if (s.ModifierLatched) {
+    if (s.modifiers.ModifierLatched) {
         return;
     }
-    if (s.ProgramMode && key >= 'A') {
+    if (s.modes.ProgramMode && key >= 'A') {
         programLetter(key);
         return;
     }
-    if (s.BaseNumberDone && !passesDoneNumber(key)) {
-        s.CtrlHeld = false;
-        s.ShiftCtrlHeld = false;
+    if (s.entry.BaseNumberDone && !passesDoneNumber(key)) {
+        s.modifiers.CtrlHeld = false;
+        s.modifiers.ShiftCtrlHeld = false;
         return;
     }
-    const int wanted = !s.EntryOpen && key == 'h' ? 'H' : key;
+    const int wanted = !s.entry.EntryOpen && key == 'h' ? 'H' : key;
     calc.commit.BeginEntry();
-    if (std::exchange(s.CtrlHeld, false)) {
-        if (!s.ShiftCtrlHeld && !s.QuizMode) {
+    if (std::exchange(s.modifiers.CtrlHeld, false)) {
+        if (!s.modifiers.ShiftCtrlHeld && !s.modes.QuizMode) {
             commands.controlCharacter(wanted);
         }
     } else {
         keyAscii = accept(wanted);
     }
     if (keyAscii != 0) {
-        s.EntryTouched = true;
-        s.DigitTyped = s.DigitTyped || isDigit(keyAscii);
+        s.entry.EntryTouched = true;
+        s.entry.DigitTyped = s.entry.DigitTyped || isDigit(keyAscii);
     } else if (calc.entryText().empty()) {
         // Nothing is being typed, so nothing is open: Enter then duplicates X.
         clearEntryFlags();
@@ -200,11 +200,11 @@ void EntryLine::programLetter(int key) {
 
 // The character that goes into the line for `key`: itself, another one, or 0.
 int EntryLine::accept(int key) {
-    if (calc.s.QuizMode) {
+    if (calc.s.modes.QuizMode) {
         return isDigit(key) ? key : 0;
     }
-    if (key == calc.s.DecimalChar) {
-        return calc.entryText().find(calc.s.DecimalChar) == std::string::npos ? key : 0;
+    if (key == calc.s.format.DecimalChar) {
+        return calc.entryText().find(calc.s.format.DecimalChar) == std::string::npos ? key : 0;
     }
     if (isDigit(key)) {
         return key;
@@ -215,11 +215,11 @@ int EntryLine::accept(int key) {
     if (commands.arithmetic(key) || commands.functionCharacter(key)) {
         return 0;
     }
-    return key == 'e' || key == kBackTick ? (key == 'e' && calc.s.BaseTagDue ? 0 : eex()) : acceptBaseKey(key);
+    return key == 'e' || key == kBackTick ? (key == 'e' && calc.s.entry.BaseTagDue ? 0 : eex()) : acceptBaseKey(key);
 }
 
 int EntryLine::acceptLetter(int key) {
-    if (calc.s.BaseTagDue) {
+    if (calc.s.entry.BaseTagDue) {
         return key;
     }
     if (key == 'E') {
@@ -232,17 +232,17 @@ int EntryLine::acceptLetter(int key) {
 int EntryLine::acceptBaseKey(int key) {
     EngineState& s = calc.s;
     if (key == '#') {
-        if (!s.BaseMode || s.BaseTagDue || !calc.entryText().empty()) {
+        if (!s.modes.BaseMode || s.entry.BaseTagDue || !calc.entryText().empty()) {
             return 0;
         }
-        s.BaseTagDue = true;
+        s.entry.BaseTagDue = true;
         return key;
     }
     const bool letter = key == 'b' || key == 'd' || key == 'h' || key == 'o';
-    if (letter && !lineIsFull() && std::exchange(s.BaseTagDue, false)) {
-        s.BaseLetter = static_cast<char>(key);
+    if (letter && !lineIsFull() && std::exchange(s.entry.BaseTagDue, false)) {
+        s.entry.BaseLetter = static_cast<char>(key);
         if (calc.keypads().CheckBaseDigits()) {
-            s.BaseNumberDone = true;
+            s.entry.BaseNumberDone = true;
             return key;
         }
         calc.setEntry({});
@@ -252,28 +252,28 @@ int EntryLine::acceptBaseKey(int key) {
 
 void EntryLine::typeBaseCharacter(char character) {
     EngineState& s = calc.s;
-    if (s.BaseNumberDone) {
+    if (s.entry.BaseNumberDone) {
         return;
     }
     calc.commit.BeginEntry();
     const bool digit = character >= 'A' && character <= 'F';
-    const int accepted = digit ? (s.BaseTagDue ? character : 0) : acceptBaseKey(character);
+    const int accepted = digit ? (s.entry.BaseTagDue ? character : 0) : acceptBaseKey(character);
     if (accepted != 0 && !lineIsFull()) {
         calc.setEntry(calc.entryText() + static_cast<char>(accepted));
-        s.EntryTouched = true;
+        s.entry.EntryTouched = true;
     } else if (calc.entryText().empty()) {
         clearEntryFlags();
     }
 }
 
 int EntryLine::eex() {
-    if (lineIsFull() || std::exchange(calc.s.EexActive, true)) {
+    if (lineIsFull() || std::exchange(calc.s.entry.EexActive, true)) {
         return 0;
     }
     if (calc.entryText().empty()) {
         calc.commit.BeginEntry();
         calc.setEntry("1e");
-        calc.s.EntryTouched = true;
+        calc.s.entry.EntryTouched = true;
         return 0;
     }
     return 'e';
@@ -281,16 +281,16 @@ int EntryLine::eex() {
 
 void EntryLine::txtXreg_KeyUp(KeyEvent event) {
     EngineState& s = calc.s;
-    if (s.ModifierLatched) {
+    if (s.modifiers.ModifierLatched) {
         return;
     }
-    s.ModifierMask = 0;
-    if (s.QuizMode) {
+    s.modifiers.ModifierMask = 0;
+    if (s.modes.QuizMode) {
         return;
     }
-    if (event.shift != 0 && std::exchange(s.SkipModifierRelease, false)) {
+    if (event.shift != 0 && std::exchange(s.modifiers.SkipModifierRelease, false)) {
         // The key that came up has shown a keypad: plain, until the next key goes down.
-        s.ModifierMask = event.shift;
+        s.modifiers.ModifierMask = event.shift;
         calc.LightModifiers(event.shift);
         return;
     }
@@ -300,10 +300,10 @@ void EntryLine::txtXreg_KeyUp(KeyEvent event) {
         return;
     }
     calc.LightModifiers(0);
-    if (s.MemoryArrayMode || s.ProgramMode || s.ConvertWait || s.TablesShown) {
+    if (s.modes.MemoryArrayMode || s.modes.ProgramMode || s.modes.ConvertWait || s.modes.TablesShown) {
         return;
     }
-    if (!std::exchange(s.SkipModifierRelease, false) && std::exchange(painted_, false)) {
+    if (!std::exchange(s.modifiers.SkipModifierRelease, false) && std::exchange(painted_, false)) {
         calc.keypads().RepaintKeypad();
     }
 }
@@ -312,12 +312,12 @@ void EntryLine::cmdNumPad_Click(int index) {
     EngineState& s = calc.s;
     constexpr int kDecimalKey = 10;
     calc.commit.BeginEntry();
-    const char character = index == kDecimalKey ? s.DecimalChar : static_cast<char>('0' + index);
-    const bool secondPoint = index == kDecimalKey && calc.entryText().find(s.DecimalChar) != std::string::npos;
-    if (!secondPoint && !s.BaseNumberDone && !lineIsFull()) {
+    const char character = index == kDecimalKey ? s.format.DecimalChar : static_cast<char>('0' + index);
+    const bool secondPoint = index == kDecimalKey && calc.entryText().find(s.format.DecimalChar) != std::string::npos;
+    if (!secondPoint && !s.entry.BaseNumberDone && !lineIsFull()) {
         calc.setEntry(calc.entryText() + character);
-        s.EntryTouched = true;
-        s.DigitTyped = true;
+        s.entry.EntryTouched = true;
+        s.entry.DigitTyped = true;
     }
     calc.focusEntry();
 }
@@ -331,7 +331,7 @@ void EntryLine::cmdBackSpace_Click() {
 }
 
 void EntryLine::cmdEex_Click() {
-    if (calc.s.ModifierMask == 0 && !calc.s.EexActive && !calc.s.BaseNumberDone) {
+    if (calc.s.modifiers.ModifierMask == 0 && !calc.s.entry.EexActive && !calc.s.entry.BaseNumberDone) {
         calc.commit.BeginEntry();
         if (const int typed = eex(); typed != 0) {
             calc.setEntry(calc.entryText() + static_cast<char>(typed));
@@ -348,7 +348,7 @@ void EntryLine::cmdEsc_Click() {
 }
 
 void EntryLine::cmdF11_Click() {
-    if (calc.s.ModifierMask == 0) {
+    if (calc.s.modifiers.ModifierMask == 0) {
         calc.keypads().RepaintKeypad();
         calc.keypads().ToggleProgramMode();
     }
@@ -357,10 +357,10 @@ void EntryLine::cmdF11_Click() {
 
 void EntryLine::cmdF12_Click() {
     // Shift held for the click performs the Convert function; a latched one waits for its key.
-    if (calc.s.ModifierMask == kShift && !calc.s.ModifierLatched) {
-        calc.s.ModifierMask = 0;
+    if (calc.s.modifiers.ModifierMask == kShift && !calc.s.modifiers.ModifierLatched) {
+        calc.s.modifiers.ModifierMask = 0;
         calc.keypads().PerformConvertFn();
-    } else if (calc.s.ModifierMask == 0) {
+    } else if (calc.s.modifiers.ModifierMask == 0) {
         calc.keypads().RepaintKeypad();
         calc.keypads().MemoryArray();
     }

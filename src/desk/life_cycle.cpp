@@ -73,20 +73,20 @@ void LifeCycle::Form_Load() {
 void LifeCycle::prepareForm() {
     EngineState& s = calc.s;
     viewKeys.FixMenu();
-    s.DecimalChar = calc.platform.decimalCharacter();
-    calc.form.cmdNumPad.back().text = std::string(1, s.DecimalChar);
+    s.format.DecimalChar = calc.platform.decimalCharacter();
+    calc.form.cmdNumPad.back().text = std::string(1, s.format.DecimalChar);
     constexpr int kUsualDensity = 96;
     if (calc.platform.metrics().dotsPerInch != kUsualDensity) {
-        s.CompactForm = true;
-        s.TapeRows = kCompactRows;
+        s.window.CompactForm = true;
+        s.window.TapeRows = kCompactRows;
         constexpr float kLargeNumbers = 12.0F;
         calc.form.lstDisplayReg.font.points = kLargeNumbers;
         calc.form.lstStack.font.points = kLargeNumbers;
         calc.form.Label8.place.width = 900;
     }
-    calc.tape.clear(s.TapeRows);
-    s.StackPtr = 1;
-    s.Yreg = ValueCell::zero();
+    calc.tape.clear(s.window.TapeRows);
+    s.stack.StackPtr = 1;
+    s.stack.Yreg = ValueCell::zero();
 }
 
 void LifeCycle::endWith(std::string_view title, std::string_view text) {
@@ -129,21 +129,21 @@ void LifeCycle::readFirstRecord() {
     units_.magnetics = record.RecLongA();
     units_.resonance = record.RecFixed();
     units_.permeability = record.RecLongB();
-    calc.s.TapeFileName = withoutTrailingBlanks(record.textB(3, 25));
-    calc.s.MemoryFileName = withoutTrailingBlanks(record.textB(28, 25));
+    calc.s.files.TapeFileName = withoutTrailingBlanks(record.textB(3, 25));
+    calc.s.files.MemoryFileName = withoutTrailingBlanks(record.textB(28, 25));
 }
 
 void LifeCycle::readOptions() {
     EngineState& s = calc.s;
     const SettingsRecord record = settings.read(2);
     std::string tax = record.textB(48, 5);
-    std::replace(tax.begin(), tax.end(), '.', s.DecimalChar);
+    std::replace(tax.begin(), tax.end(), '.', s.format.DecimalChar);
     constexpr double kUsualTax = 7.75;
-    s.TaxRate = static_cast<float>(tryReadNumber(tax, s.DecimalChar).value_or(kUsualTax));
+    s.functions.TaxRate = static_cast<float>(tryReadNumber(tax, s.format.DecimalChar).value_or(kUsualTax));
     onTopAtStart_ = record.textA(1, 1) == "E";
     calc.form.mnuPosition.checked = record.textA(41, 1) == "S";
     calc.form.mnuLoad.checked = record.textA(11, 1) == "S";
-    s.AutoLoadProgram = calc.form.mnuLoad.checked;
+    s.files.AutoLoadProgram = calc.form.mnuLoad.checked;
 }
 
 void LifeCycle::readProgramAndPlace() {
@@ -151,36 +151,36 @@ void LifeCycle::readProgramAndPlace() {
     const SettingsRecord record = settings.read(3);
     units_.ohm = record.RecLongA();
     units_.core = record.RecLongB();
-    s.DefaultProgram = withoutTrailingBlanks(record.textA(1, 31));
-    s.SavedTop = 0;
-    s.SavedLeft = 0;
+    s.files.DefaultProgram = withoutTrailingBlanks(record.textA(1, 31));
+    s.window.SavedTop = 0;
+    s.window.SavedLeft = 0;
     if (calc.form.mnuPosition.checked) {
-        s.SavedTop = numberIn(record.textB(1, 5), 0);
-        s.SavedLeft = numberIn(record.textB(7, 6), 0);
+        s.window.SavedTop = numberIn(record.textB(1, 5), 0);
+        s.window.SavedLeft = numberIn(record.textB(7, 6), 0);
     }
-    s.LastTop = s.SavedTop;
-    s.LastLeft = s.SavedLeft;
-    calc.form.place.top = s.SavedTop;
-    calc.form.place.left = s.SavedLeft;
+    s.window.LastTop = s.window.SavedTop;
+    s.window.LastLeft = s.window.SavedLeft;
+    calc.form.place.top = s.window.SavedTop;
+    calc.form.place.left = s.window.SavedLeft;
     const int word = numberIn(record.textA(42, 2), 64);
-    s.WordSize = word >= 4 && word <= 64 ? word : 64;
+    s.format.WordSize = word >= 4 && word <= 64 ? word : 64;
 }
 
 void LifeCycle::readView() {
     EngineState& s = calc.s;
     const SettingsRecord record = settings.read(2);
-    s.TallForm = record.option(option_bit::kTall);
+    s.window.TallForm = record.option(option_bit::kTall);
     int digits = 0;
     // A word without a digits bit, which this program never writes, gives one digit more than the key takes.
     while (digits <= kMaxDisplayDigits && !record.option(option_bit::kDigits + digits)) {
         ++digits;
     }
-    s.DisplayDigits = digits;
-    s.SavedDigits = digits;
-    s.ShowLastxField = record.option(option_bit::kLastxField);
-    s.ShowYField = record.option(option_bit::kYField);
-    s.NoKeyPaint = record.option(option_bit::kNoKeyPaint);
-    calc.form.mnuSkins.checked = !s.NoKeyPaint;
+    s.format.DisplayDigits = digits;
+    s.format.SavedDigits = digits;
+    s.window.ShowLastxField = record.option(option_bit::kLastxField);
+    s.window.ShowYField = record.option(option_bit::kYField);
+    s.modifiers.NoKeyPaint = record.option(option_bit::kNoKeyPaint);
+    calc.form.mnuSkins.checked = !s.modifiers.NoKeyPaint;
     setAngle(record.option(option_bit::kDegrees) ? AngleMode::Degrees
              : record.option(option_bit::kGrads) ? AngleMode::Grads
                                                  : AngleMode::Radians);
@@ -189,19 +189,19 @@ void LifeCycle::readView() {
         mode = record.option(option_bit::kMode + static_cast<int>(candidate)) ? candidate : mode;
     }
     calc.display.optFix_Click(mode);
-    s.RememberedMode = mode;
+    s.format.RememberedMode = mode;
     Keypad keypad = Keypad::Standard;
     for (std::size_t i = kKeypadBits.size(); i-- > 0;) {
         keypad = record.option(option_bit::kKeypad + static_cast<int>(i)) ? kKeypadBits.at(i) : keypad;
     }
     calc.keypads().ShowKeypad(keypad);
     calc.display.writeDigitsCaption();
-    s.ViewExtended = record.option(option_bit::kViewPlain);
+    s.window.ViewExtended = record.option(option_bit::kViewPlain);
     viewKeys.cmdView_Click();
 }
 
 void LifeCycle::setAngle(AngleMode mode) {
-    calc.s.Angle = mode;
+    calc.s.format.Angle = mode;
     calc.form.optDeg.checked = mode == AngleMode::Degrees;
     calc.form.optRad.checked = mode == AngleMode::Radians;
     calc.form.optGrad.checked = mode == AngleMode::Grads;
@@ -209,20 +209,20 @@ void LifeCycle::setAngle(AngleMode mode) {
 
 void LifeCycle::Form_Activate() {
     EngineState& s = calc.s;
-    s.FormActive = true;
-    setAngle(s.Angle);
-    if (s.AutoLoadProgram) {
+    s.window.FormActive = true;
+    setAngle(s.format.Angle);
+    if (s.files.AutoLoadProgram) {
         calc.keypads().mnuProgram_Click();
     }
-    if (!s.BaseMode) {
-        calc.display.optFix_Click(s.RememberedMode);
+    if (!s.modes.BaseMode) {
+        calc.display.optFix_Click(s.format.RememberedMode);
     }
-    s.Xnum = 0.0;
+    s.stack.Xnum = 0.0;
     calc.focusEntry();
 }
 
 void LifeCycle::Form_Deactivate() {
-    calc.s.RememberedMode = calc.s.Mode;
+    calc.s.format.RememberedMode = calc.s.format.Mode;
 }
 
 template <typename Change>
@@ -240,12 +240,13 @@ void LifeCycle::changeRecord(int number, Change change) {
 void LifeCycle::Form_Unload() {
     EngineState& s = calc.s;
     s.CurrentProc = "Form_Unload";
-    s.SavedTop = calc.form.minimised ? s.LastTop : calc.form.place.top;
-    s.SavedLeft = calc.form.minimised ? s.LastLeft : calc.form.place.left;
+    s.window.SavedTop = calc.form.minimised ? s.window.LastTop : calc.form.place.top;
+    s.window.SavedLeft = calc.form.minimised ? s.window.LastLeft : calc.form.place.left;
     changeRecord(3, [&](SettingsRecord& record) {
         const bool kept = calc.form.mnuPosition.checked;
-        record.setTextB(
-            1, 12, kept ? zeroPadded(s.SavedTop, 5) + " " + zeroPadded(s.SavedLeft, 6) : std::string(kPlaceNotSaved));
+        record.setTextB(1, 12,
+                        kept ? zeroPadded(s.window.SavedTop, 5) + " " + zeroPadded(s.window.SavedLeft, 6)
+                             : std::string(kPlaceNotSaved));
     });
     calc.form.open = false;
 }
@@ -260,19 +261,19 @@ void LifeCycle::writeOptions(SettingsRecord& record) const {
         }
     };
     constexpr int kModes = 3;
-    const DisplayMode mode = s.DisplaySaved ? s.SavedMode : s.Mode;
+    const DisplayMode mode = s.format.DisplaySaved ? s.format.SavedMode : s.format.Mode;
     chooseOne(option_bit::kMode, kModes, static_cast<int>(mode));
-    chooseOne(option_bit::kDigits, kMaxDisplayDigits + 1, std::clamp(s.SavedDigits, 0, kMaxDisplayDigits));
-    record.setOption(option_bit::kDegrees, s.Angle == AngleMode::Degrees);
-    record.setOption(option_bit::kGrads, s.Angle == AngleMode::Grads);
-    record.setOption(option_bit::kViewPlain, !s.ViewExtended);
-    const auto* const bit = std::find(kKeypadBits.begin(), kKeypadBits.end(), s.ActiveKeypad);
+    chooseOne(option_bit::kDigits, kMaxDisplayDigits + 1, std::clamp(s.format.SavedDigits, 0, kMaxDisplayDigits));
+    record.setOption(option_bit::kDegrees, s.format.Angle == AngleMode::Degrees);
+    record.setOption(option_bit::kGrads, s.format.Angle == AngleMode::Grads);
+    record.setOption(option_bit::kViewPlain, !s.window.ViewExtended);
+    const auto* const bit = std::find(kKeypadBits.begin(), kKeypadBits.end(), s.modes.ActiveKeypad);
     // A keypad without a bit of its own starts as the Standard keypad.
     const auto place = bit == kKeypadBits.end() ? 0 : static_cast<int>(bit - kKeypadBits.begin());
     chooseOne(option_bit::kKeypad, static_cast<int>(kKeypadBits.size()), place);
-    record.setOption(option_bit::kTall, s.TallForm);
-    record.setOption(option_bit::kYField, s.ShowYField);
-    record.setOption(option_bit::kLastxField, s.ShowLastxField);
+    record.setOption(option_bit::kTall, s.window.TallForm);
+    record.setOption(option_bit::kYField, s.window.ShowYField);
+    record.setOption(option_bit::kLastxField, s.window.ShowLastxField);
 }
 
 void LifeCycle::mnuSave_Click() {
@@ -281,11 +282,11 @@ void LifeCycle::mnuSave_Click() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     if (calc.question("SAVE!", "Would you like to save your settings?")) {
-        if (!s.BaseMode) {
-            s.DisplayDigits = s.SavedDigits;
+        if (!s.modes.BaseMode) {
+            s.format.DisplayDigits = s.format.SavedDigits;
         }
         changeRecord(2, [&](SettingsRecord& record) { writeOptions(record); });
-        changeRecord(3, [&](SettingsRecord& record) { record.setTextA(42, 2, zeroPadded(s.WordSize, 2)); });
+        changeRecord(3, [&](SettingsRecord& record) { record.setTextA(42, 2, zeroPadded(s.format.WordSize, 2)); });
     }
     calc.focusEntry();
 }
@@ -315,9 +316,9 @@ void LifeCycle::mnuLoad_Click() {
 void LifeCycle::mnuSkins_Click() {
     EngineState& s = calc.s;
     s.CurrentProc = "mnuSkins";
-    s.NoKeyPaint = !s.NoKeyPaint;
-    calc.form.mnuSkins.checked = !s.NoKeyPaint;
-    changeRecord(2, [&](SettingsRecord& record) { record.setOption(option_bit::kNoKeyPaint, s.NoKeyPaint); });
+    s.modifiers.NoKeyPaint = !s.modifiers.NoKeyPaint;
+    calc.form.mnuSkins.checked = !s.modifiers.NoKeyPaint;
+    changeRecord(2, [&](SettingsRecord& record) { record.setOption(option_bit::kNoKeyPaint, s.modifiers.NoKeyPaint); });
 }
 
 bool LifeCycle::countNotice(Keypad keypad) {

@@ -18,47 +18,47 @@ void MachineReset::clearRegisters() {
     EngineState& s = calc.s;
     for (int key = 0; key < kBankKeys; ++key) {
         const auto number = static_cast<std::size_t>(registerOfKey(key));
-        s.Registers.at(number) = ValueCell::zero();
+        s.memory.Registers.at(number) = ValueCell::zero();
         calc.form.txtReg_m.at(number - 1).text.clear();
-        s.RegisterNames.at(static_cast<std::size_t>(key)) = defaultRegisterName(key);
+        s.memory.RegisterNames.at(static_cast<std::size_t>(key)) = defaultRegisterName(key);
     }
-    s.RegistersUsed = false;
+    s.memory.RegistersUsed = false;
     calc.ClearOptKeys();
-    if (s.MemoryArrayMode) {
+    if (s.modes.MemoryArrayMode) {
         calc.keypads().RepaintKeypad();
     }
 }
 
 void MachineReset::clearStackAndTape() {
     EngineState& s = calc.s;
-    if (s.QuizMode) {
+    if (s.modes.QuizMode) {
         calc.keypads().EndQuiz();
     }
-    s.StackPtr = 1;
-    s.Stack.assign(3, ValueCell{});
-    s.BaseRemainder.clear();
-    for (ValueCell* cell : {&s.Xreg, &s.Yreg, &s.LastX, &s.LastY}) {
+    s.stack.StackPtr = 1;
+    s.stack.Stack.assign(3, ValueCell{});
+    s.format.BaseRemainder.clear();
+    for (ValueCell* cell : {&s.stack.Xreg, &s.stack.Yreg, &s.stack.LastX}) {
         *cell = ValueCell::zero();
     }
-    s.Xnum = 0.0;
+    s.stack.Xnum = 0.0;
     calc.form.txtLastx.text = "0";
     calc.form.txty_Reg.text = "0";
-    s.ModifierMask = 0;
+    s.modifiers.ModifierMask = 0;
     for (Control* key : {&calc.form.cmdDown, &calc.form.cmdXchgY, &calc.form.cmdLastx}) {
         key->enabled = false;
     }
     constexpr std::size_t kLogarithmKey = 13;
     calc.form.cmdFunctions.at(kLogarithmKey).enabled = true;
-    calc.form.cmdSTO.enabled = s.RegistersUsed;
-    s.FunctionResetMask = kAllBits;
-    s.RightTriangleHasAngle = false;
-    s.CalcResetWord = kAllBits;
+    calc.form.cmdSTO.enabled = s.memory.RegistersUsed;
+    s.functions.FunctionResetMask = kAllBits;
+    s.functions.RightTriangleHasAngle = false;
+    s.functions.CalcResetWord = kAllBits;
     calc.keypads().ClearPartialStates();
-    s.FnLabel.clear();
+    s.delivery.FnLabel.clear();
     clearEntryState();
-    if (s.ProgramMode) {
+    if (s.modes.ProgramMode) {
         calc.keypads().ResetProgram();
-    } else if (!s.MemoryArrayMode) {
+    } else if (!s.modes.MemoryArrayMode) {
         calc.keypads().RepaintKeypad();
     }
     clearLists();
@@ -66,8 +66,9 @@ void MachineReset::clearStackAndTape() {
 
 void MachineReset::clearEntryState() {
     EngineState& s = calc.s;
-    for (bool* flag : {&s.EntryOpen, &s.EexActive, &s.KeepEntryText, &s.ValueInXreg, &s.SkipCommitTail, &s.EntryTouched,
-                       &s.BaseTagDue, &s.BaseNumberDone}) {
+    for (bool* flag :
+         {&s.entry.EntryOpen, &s.entry.EexActive, &s.delivery.KeepEntryText, &s.delivery.ValueInXreg,
+          &s.delivery.SkipCommitTail, &s.entry.EntryTouched, &s.entry.BaseTagDue, &s.entry.BaseNumberDone}) {
         *flag = false;
     }
 }
@@ -75,7 +76,7 @@ void MachineReset::clearEntryState() {
 void MachineReset::clearLists() {
     calc.ClearOptKeys();
     calc.form.lstDisplayReg.place.width = kNarrowTape;
-    calc.tape.clear(calc.s.TapeRows);
+    calc.tape.clear(calc.s.window.TapeRows);
     calc.stackList.refresh();
     calc.setEntry({});
     calc.focusEntry();

@@ -41,9 +41,9 @@ std::string cleanName(std::string text) {
 }  // namespace
 
 void MemoryRegisters::store(int number, const ValueCell& value) {
-    calc.s.Registers.at(static_cast<std::size_t>(number)) = value;
+    calc.s.memory.Registers.at(static_cast<std::size_t>(number)) = value;
     calc.form.txtReg_m.at(static_cast<std::size_t>(number) - 1).text = calc.patternText(value, kFieldPattern);
-    calc.s.RegistersUsed = true;
+    calc.s.memory.RegistersUsed = true;
 }
 
 void MemoryRegisters::cmdSTO_Click() {
@@ -55,7 +55,7 @@ void MemoryRegisters::cmdSTO_Click() {
         finish();
         return;
     }
-    const auto typed = tryReadNumber(calc.entryText(), s.DecimalChar);
+    const auto typed = tryReadNumber(calc.entryText(), s.format.DecimalChar);
     const double number = typed ? roundHalfEven(*typed, 0) : -1.0;
     if (number < 0 || number > kRegisters) {
         calc.message(BoxKind::Stop, "Out of Range!", "Tne registers are 1 to 24 only!");
@@ -69,11 +69,11 @@ void MemoryRegisters::cmdSTO_Click() {
 
 void MemoryRegisters::byName() {
     EngineState& s = calc.s;
-    if (s.ModifierMask > kShift) {
+    if (s.modifiers.ModifierMask > kShift) {
         // Only a recall and a store ask for a name.
         return;
     }
-    const bool recalls = s.ModifierMask == 0;
+    const bool recalls = s.modifiers.ModifierMask == 0;
     std::string answer = calc.platform.inputBox({.title = recalls ? "Recall Named Register" : "Save to Named Register",
                                                  .prompt = std::string(kNamePrompt),
                                                  .preset = {}});
@@ -82,7 +82,7 @@ void MemoryRegisters::byName() {
     }
     if (!recalls) {
         answer = lowered(answer);
-        s.ModifierMask = kStoreByName;
+        s.modifiers.ModifierMask = kStoreByName;
     }
     if (const int number = registerNamed(answer.substr(0, kNameWidth)); number != 0) {
         actOn(number);
@@ -92,7 +92,7 @@ void MemoryRegisters::byName() {
 int MemoryRegisters::registerNamed(std::string_view name) const {
     const std::string wanted = withoutTrailingBlanks(std::string(name));
     for (int key = 0; key < kBankKeys; ++key) {
-        if (withoutTrailingBlanks(calc.s.RegisterNames.at(static_cast<std::size_t>(key))) == wanted) {
+        if (withoutTrailingBlanks(calc.s.memory.RegisterNames.at(static_cast<std::size_t>(key))) == wanted) {
             return registerOfKey(key);
         }
     }
@@ -100,14 +100,14 @@ int MemoryRegisters::registerNamed(std::string_view name) const {
 }
 
 void MemoryRegisters::actOn(int number) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             recall(number, "rcl");
             break;
         case kShift:
         case kStoreByName:
-            store(number, calc.s.Xreg);
-            if (!calc.s.ProgramMode) {
+            store(number, calc.s.stack.Xreg);
+            if (!calc.s.modes.ProgramMode) {
                 calc.platform.playSound(clickSound());
             }
             break;
@@ -127,21 +127,21 @@ void MemoryRegisters::actOn(int number) {
 
 void MemoryRegisters::recall(int number, std::string_view label) {
     EngineState& s = calc.s;
-    s.RegistersUsed = true;
-    const ValueCell& held = s.Registers.at(static_cast<std::size_t>(number));
-    s.Xreg = held.isEmpty() || held.isEmptyText() ? ValueCell{0.0} : held;
-    s.FnLabel = label;
+    s.memory.RegistersUsed = true;
+    const ValueCell& held = s.memory.Registers.at(static_cast<std::size_t>(number));
+    s.stack.Xreg = held.isEmpty() || held.isEmptyText() ? ValueCell{0.0} : held;
+    s.delivery.FnLabel = label;
     calc.form.setFocus(calc.form.cmdEnter);
-    s.ValueInXreg = true;
-    calc.setEntry(calc.text(s.Xreg));
-    s.EntryOpen = true;
+    s.delivery.ValueInXreg = true;
+    calc.setEntry(calc.text(s.stack.Xreg));
+    s.entry.EntryOpen = true;
     calc.commit.cmdEnter_Click();
 }
 
 void MemoryRegisters::finish() {
     calc.setEntry({});
-    calc.s.EntryOpen = false;
-    calc.s.EexActive = false;
+    calc.s.entry.EntryOpen = false;
+    calc.s.entry.EexActive = false;
     calc.ClearOptKeys();
 }
 
@@ -153,24 +153,24 @@ void MemoryRegisters::nameRegister(int index) {
                                 .preset = {}});
     if (const std::string name = cleanName(lowered(answer)); !name.empty()) {
         calc.form.cmdFunctions.at(static_cast<std::size_t>(index)).text = name;
-        s.RegisterNames.at(static_cast<std::size_t>(index)) = name;
+        s.memory.RegisterNames.at(static_cast<std::size_t>(index)) = name;
     }
     calc.focusEntry();
-    s.ModifierMask = 0;
+    s.modifiers.ModifierMask = 0;
 }
 
 void MemoryRegisters::storeFromEntryOrX(int number) {
     const std::string typed = calc.entryText();
-    store(number, typed.empty() ? calc.s.Xreg : ValueCell{typed});
+    store(number, typed.empty() ? calc.s.stack.Xreg : ValueCell{typed});
     calc.setEntry({});
-    calc.s.EntryOpen = false;
-    calc.s.EexActive = false;
+    calc.s.entry.EntryOpen = false;
+    calc.s.entry.EexActive = false;
 }
 
 void MemoryRegisters::RegisterKey(int index) {
     EngineState& s = calc.s;
     const int number = registerOfKey(index);
-    switch (s.ModifierMask) {
+    switch (s.modifiers.ModifierMask) {
         case kShift:
             storeFromEntryOrX(number);
             break;
@@ -192,13 +192,13 @@ void MemoryRegisters::RegisterKey(int index) {
 
 void MemoryRegisters::MemoryArray() {
     EngineState& s = calc.s;
-    s.ProgramMode = false;
-    calc.form.enableKeypadMenu(s.MemoryArrayMode);
-    s.MemoryArrayMode = !s.MemoryArrayMode;
-    calc.form.cmdF11.enabled = !s.MemoryArrayMode;
-    if (s.MemoryArrayMode) {
-        keypadBefore_ = s.ActiveKeypad;
-        s.ActiveKeypad = Keypad::MemoryArray;
+    s.modes.ProgramMode = false;
+    calc.form.enableKeypadMenu(s.modes.MemoryArrayMode);
+    s.modes.MemoryArrayMode = !s.modes.MemoryArrayMode;
+    calc.form.cmdF11.enabled = !s.modes.MemoryArrayMode;
+    if (s.modes.MemoryArrayMode) {
+        keypadBefore_ = s.modes.ActiveKeypad;
+        s.modes.ActiveKeypad = Keypad::MemoryArray;
         nameBefore_ = calc.form.lblName.text;
         calc.form.lblName.text = "Memory Array";
         calc.form.lblBank.visible = false;
@@ -207,10 +207,10 @@ void MemoryRegisters::MemoryArray() {
         calc.keypads().RepaintKeypad();
         return;
     }
-    if (s.ActiveKeypad == Keypad::MemoryArray) {
-        s.ActiveKeypad = keypadBefore_;
+    if (s.modes.ActiveKeypad == Keypad::MemoryArray) {
+        s.modes.ActiveKeypad = keypadBefore_;
     }
-    calc.keypads().ShowKeypad(s.ActiveKeypad);
+    calc.keypads().ShowKeypad(s.modes.ActiveKeypad);
     calc.form.lblName.text = nameBefore_;
     calc.form.lblBank.visible = true;
     calc.form.cmdF12.tip = "Enter Memory Array | Shift + perform Convert Fn (F10)";
@@ -220,8 +220,8 @@ std::array<RegisterLine, kBankKeys> MemoryRegisters::lines() const {
     std::array<RegisterLine, kBankKeys> all;
     for (int key = 0; key < kBankKeys; ++key) {
         const auto number = static_cast<std::size_t>(registerOfKey(key));
-        all.at(static_cast<std::size_t>(key)) = {.name = calc.s.RegisterNames.at(static_cast<std::size_t>(key)),
-                                                 .value = calc.s.Registers.at(number),
+        all.at(static_cast<std::size_t>(key)) = {.name = calc.s.memory.RegisterNames.at(static_cast<std::size_t>(key)),
+                                                 .value = calc.s.memory.Registers.at(number),
                                                  .tip = calc.form.txtReg_m.at(number - 1).tip};
     }
     return all;
@@ -232,13 +232,13 @@ void MemoryRegisters::take(const std::array<RegisterLine, kBankKeys>& all) {
         const RegisterLine& line = all.at(static_cast<std::size_t>(key));
         const auto number = static_cast<std::size_t>(registerOfKey(key));
         Control& field = calc.form.txtReg_m.at(number - 1);
-        calc.s.RegisterNames.at(static_cast<std::size_t>(key)) = line.name;
-        calc.s.Registers.at(number) = line.value;
+        calc.s.memory.RegisterNames.at(static_cast<std::size_t>(key)) = line.name;
+        calc.s.memory.Registers.at(number) = line.value;
         field.text = line.value.isEmptyText() ? "" : calc.patternText(line.value, kFieldPattern);
         field.tip = line.tip;
-        calc.s.RegistersUsed = calc.s.RegistersUsed || !line.value.isEmptyText();
+        calc.s.memory.RegistersUsed = calc.s.memory.RegistersUsed || !line.value.isEmptyText();
     }
-    if (calc.s.MemoryArrayMode) {
+    if (calc.s.modes.MemoryArrayMode) {
         calc.keypads().RepaintKeypad();
     }
 }
@@ -246,13 +246,13 @@ void MemoryRegisters::take(const std::array<RegisterLine, kBankKeys>& all) {
 void MemoryRegisters::mnuSaveMem_Click() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
-    const auto path = askWhereToSave(calc, "Save Memory Registers", calc.s.MemoryFileName);
+    const auto path = askWhereToSave(calc, "Save Memory Registers", calc.s.files.MemoryFileName);
     if (!path) {
         return;
     }
     std::string text;
     for (const RegisterLine& line : lines()) {
-        text += registerLine(line, calc.s.DecimalChar) + "\n";
+        text += registerLine(line, calc.s.format.DecimalChar) + "\n";
     }
     if (saveOrReport(calc, "mnuSaveMem_Click", *path, text) && askForDefaultName(calc, *path)) {
         rememberFileName(calc, settings, DefaultName::Registers, *path);
@@ -262,7 +262,7 @@ void MemoryRegisters::mnuSaveMem_Click() {
 void MemoryRegisters::mnuRetMem_Click() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
-    const auto path = askWhatToRetrieve(calc, "Retrieve Memory Registers", calc.s.MemoryFileName);
+    const auto path = askWhatToRetrieve(calc, "Retrieve Memory Registers", calc.s.files.MemoryFileName);
     if (!path || !calc.question("Overwrite?", "This will overwrite your current memory registers, continue?")) {
         return;
     }
@@ -277,7 +277,7 @@ void MemoryRegisters::mnuRetMem_Click() {
         }
         std::array<RegisterLine, kBankKeys> parsed;
         std::transform(rows.begin(), rows.end(), parsed.begin(),
-                       [&](std::string_view row) { return parseRegisterLine(row, calc.s.DecimalChar); });
+                       [&](std::string_view row) { return parseRegisterLine(row, calc.s.format.DecimalChar); });
         take(parsed);
     });
 }

@@ -11,7 +11,7 @@ namespace tallyforge {
 
 void ResetKey::cmdReset_Click() {
     EngineState& s = calc.s;
-    const std::uint8_t mask = std::exchange(s.ModifierMask, std::uint8_t{0});
+    const std::uint8_t mask = std::exchange(s.modifiers.ModifierMask, std::uint8_t{0});
     calc.focusEntry();
     switch (mask) {
         case 0:
@@ -24,12 +24,12 @@ void ResetKey::cmdReset_Click() {
             clear(TapeFileKind::Everything);
             break;
         case kShift | kCtrl | kAlt:
-            s.UndoKind = TapeFileKind::Undo;
+            s.files.UndoKind = TapeFileKind::Undo;
             tapeKeys.mnuTape_Click();
             break;
         default:
             // The other combinations reset in Program mode only.
-            if (s.ProgramMode) {
+            if (s.modes.ProgramMode) {
                 clear(TapeFileKind::StackAndTape);
             }
             break;
@@ -38,7 +38,7 @@ void ResetKey::cmdReset_Click() {
 }
 
 void ResetKey::clear(TapeFileKind kind) {
-    calc.s.UndoKind = kind;
+    calc.s.files.UndoKind = kind;
     tapeKeys.mnuSaveTape_Click();
     if (kind != TapeFileKind::StackAndTape) {
         reset.clearRegisters();

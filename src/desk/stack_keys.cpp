@@ -23,7 +23,7 @@ std::string withoutLeadingZero(std::string text, std::string_view point) {
 }  // namespace
 
 bool StackKeys::modifierActive() {
-    if (calc.s.ModifierMask == 0) {
+    if (calc.s.modifiers.ModifierMask == 0) {
         return false;
     }
     calc.focusEntry();
@@ -33,19 +33,19 @@ bool StackKeys::modifierActive() {
 // X may be empty after a function that left nothing; the element on the stack is the number.
 void StackKeys::takeTop() {
     EngineState& s = calc.s;
-    if (s.depth() > 0) {
-        s.Xreg = s.slot(s.StackPtr - 1);
-        s.Yreg = s.slot(s.StackPtr - 2);
-        if (s.Yreg.isEmpty()) {
-            s.Yreg = ValueCell::zero();
+    if (s.stack.depth() > 0) {
+        s.stack.Xreg = s.stack.slot(s.stack.StackPtr - 1);
+        s.stack.Yreg = s.stack.slot(s.stack.StackPtr - 2);
+        if (s.stack.Yreg.isEmpty()) {
+            s.stack.Yreg = ValueCell::zero();
         }
     }
 }
 
 void StackKeys::pushWithLabel(const char* label) {
-    calc.s.EntryOpen = true;
-    calc.s.ValueInXreg = true;
-    calc.s.FnLabel = label;
+    calc.s.entry.EntryOpen = true;
+    calc.s.delivery.ValueInXreg = true;
+    calc.s.delivery.FnLabel = label;
     calc.commit.cmdEnter_Click();
 }
 
@@ -55,17 +55,17 @@ void StackKeys::cmdDown_Click() {
         return;
     }
     // A number that is being typed is the one on top.
-    if (s.EntryOpen && !calc.commit.FetchX()) {
+    if (s.entry.EntryOpen && !calc.commit.FetchX()) {
         return;
     }
-    if (s.StackPtr < 2) {
+    if (s.stack.StackPtr < 2) {
         calc.focusEntry();
         return;
     }
     takeTop();
-    s.StackPtr -= 2;
-    s.LastX = s.Xreg;
-    s.Xreg = s.slot(s.StackPtr);
+    s.stack.StackPtr -= 2;
+    s.stack.LastX = s.stack.Xreg;
+    s.stack.Xreg = s.stack.slot(s.stack.StackPtr);
     pushWithLabel("Drop");
 }
 
@@ -74,22 +74,22 @@ void StackKeys::cmdXchgY_Click() {
     if (modifierActive()) {
         return;
     }
-    if (s.EntryOpen && !calc.commit.FetchX()) {
+    if (s.entry.EntryOpen && !calc.commit.FetchX()) {
         return;
     }
-    if (s.depth() == 0) {
+    if (s.stack.depth() == 0) {
         calc.focusEntry();
         return;
     }
     takeTop();
-    if (s.depth() == 1) {
+    if (s.stack.depth() == 1) {
         // What is missing (a 0, or a result that stood below the stack) becomes the top, so that no
         // number goes below the stack.
-        s.Xreg = s.Yreg;
+        s.stack.Xreg = s.stack.Yreg;
     } else {
-        s.StackPtr -= 1;
-        s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = s.Xreg;
-        s.Xreg = s.Yreg;
+        s.stack.StackPtr -= 1;
+        s.stack.Stack[static_cast<std::size_t>(s.stack.StackPtr) - 1] = s.stack.Xreg;
+        s.stack.Xreg = s.stack.Yreg;
     }
     pushWithLabel("x<>y");
 }
@@ -100,21 +100,21 @@ void StackKeys::cmdLastx_Click() {
         return;
     }
     const bool typing = !calc.entryText().empty();
-    const bool exponent = s.EexActive;
-    const bool tagDue = s.BaseTagDue;
-    const bool tagged = s.BaseNumberDone;
-    s.KeepEntryText = true;
-    s.Xreg = s.LastX;
+    const bool exponent = s.entry.EexActive;
+    const bool tagDue = s.entry.BaseTagDue;
+    const bool tagged = s.entry.BaseNumberDone;
+    s.delivery.KeepEntryText = true;
+    s.stack.Xreg = s.stack.LastX;
     pushWithLabel("Lastx");
     if (!typing) {
         calc.setEntry({});
         return;
     }
     // What was typed is still an open entry, so that the next digit goes on with it.
-    s.EntryOpen = true;
-    s.EexActive = exponent;
-    s.BaseTagDue = tagDue;
-    s.BaseNumberDone = tagged;
+    s.entry.EntryOpen = true;
+    s.entry.EexActive = exponent;
+    s.entry.BaseTagDue = tagDue;
+    s.entry.BaseNumberDone = tagged;
 }
 
 void StackKeys::cmdChs_Click() {
@@ -122,9 +122,9 @@ void StackKeys::cmdChs_Click() {
     if (modifierActive()) {
         return;
     }
-    if (s.BaseMode) {
+    if (s.modes.BaseMode) {
         remainder();
-    } else if (s.EexActive) {
+    } else if (s.entry.EexActive) {
         changeSignOfExponent();
     } else if (calc.entryText().empty()) {
         changeSignOfX();
@@ -138,13 +138,13 @@ void StackKeys::remainder() {
     if (!calc.entryText().empty()) {
         calc.commit.cmdEnter_Click();
     }
-    s.Xreg = s.BaseRemainder.empty() ? "0" : s.BaseRemainder;
+    s.stack.Xreg = s.format.BaseRemainder.empty() ? "0" : s.format.BaseRemainder;
     pushWithLabel("Mod");
 }
 
 void StackKeys::changeSignOfX() {
     EngineState& s = calc.s;
-    s.EntryOpen = false;
+    s.entry.EntryOpen = false;
     takeTop();
     s.CurrentProc = "cmdChs";
     const auto report = [&](const Failure& failure) {
@@ -154,16 +154,16 @@ void StackKeys::changeSignOfX() {
     if (!goOn(report, [&] { value = calc.xNumber(); })) {
         return;
     }
-    s.LastX = s.Xreg;
+    s.stack.LastX = s.stack.Xreg;
     // Not by way of the text, which has fewer digits than the number.
-    s.Xreg = 0.0 - value;
-    s.ValueInXreg = true;
-    s.FnLabel = "CHS";
+    s.stack.Xreg = 0.0 - value;
+    s.delivery.ValueInXreg = true;
+    s.delivery.FnLabel = "CHS";
     calc.commit.cmdEnter_Click();
 }
 
 void StackKeys::changeSignOfEntry() {
-    const char decimal = calc.s.DecimalChar;
+    const char decimal = calc.s.format.DecimalChar;
     const std::string typed = calc.entryText();
     if (const auto value = tryReadNumber(typed, decimal)) {
         const std::string turned = typed.starts_with('-') ? typed.substr(1) : "-" + typed;

@@ -37,12 +37,12 @@ void TapeKeys::lstDisplayReg_DblClick() {
     if (!calc.entryText().empty()) {
         calc.commit.cmdEnter_Click();
     }
-    while (s.BaseMode && text.starts_with('#') && !endsInBaseLetter(text) && text.ends_with(' ')) {
+    while (s.modes.BaseMode && text.starts_with('#') && !endsInBaseLetter(text) && text.ends_with(' ')) {
         text.pop_back();
     }
     const auto blanks = text.rfind("  ");
-    s.Xreg = std::move(value);
-    s.FnLabel = blanks == std::string::npos ? "Rtrv" : text.substr(blanks);
+    s.stack.Xreg = std::move(value);
+    s.delivery.FnLabel = blanks == std::string::npos ? "Rtrv" : text.substr(blanks);
     calc.commit.pushRecalled();
 }
 
@@ -52,12 +52,12 @@ void TapeKeys::lstStack_Click() {
     if (row >= calc.stackList.count()) {
         return;
     }
-    const ValueCell value = s.slot(calc.stackList.element(row));
+    const ValueCell value = s.stack.slot(calc.stackList.element(row));
     if (!calc.entryText().empty()) {
         calc.commit.cmdEnter_Click();
     }
-    s.Xreg = value;
-    s.FnLabel = "Rtrv";
+    s.stack.Xreg = value;
+    s.delivery.FnLabel = "Rtrv";
     calc.commit.pushRecalled();
 }
 
@@ -66,12 +66,12 @@ TapeFileContent TapeKeys::present(TapeFileKind kind) const {
     TapeFileContent content;
     content.kind = kind;
     content.registers = registers.lines();
-    content.LastX = s.LastX;
-    content.Yreg = s.Yreg;
-    content.StackPtr = s.StackPtr;
-    content.Xreg = s.Xreg;
-    for (int element = 1; element < s.StackPtr; ++element) {
-        content.stack.push_back(s.slot(element));
+    content.LastX = s.stack.LastX;
+    content.Yreg = s.stack.Yreg;
+    content.StackPtr = s.stack.StackPtr;
+    content.Xreg = s.stack.Xreg;
+    for (int element = 1; element < s.stack.StackPtr; ++element) {
+        content.stack.push_back(s.stack.slot(element));
     }
     content.fillers = calc.tape.fillers();
     for (std::size_t row = 0; row < calc.tape.count(); ++row) {
@@ -84,31 +84,32 @@ TapeFileContent TapeKeys::present(TapeFileKind kind) const {
 }
 
 void TapeKeys::saveTo(const std::filesystem::path& path) {
-    saveOrReport(calc, "mnuSaveTape_Click", path, formatTapeFile(present(calc.s.UndoKind), calc.s.DecimalChar));
+    saveOrReport(calc, "mnuSaveTape_Click", path,
+                 formatTapeFile(present(calc.s.files.UndoKind), calc.s.format.DecimalChar));
 }
 
 void TapeKeys::mnuSaveTape_Click() {
     EngineState& s = calc.s;
-    if (s.UndoKind != TapeFileKind::None) {
+    if (s.files.UndoKind != TapeFileKind::None) {
         saveTo(calc.AppDataDir / kUndoFile);
     } else {
-        s.UndoKind = TapeFileKind::SavedByUser;
+        s.files.UndoKind = TapeFileKind::SavedByUser;
         calc.keypads().RepaintKeypad();
         calc.ClearOptKeys();
-        if (const auto path = askWhereToSave(calc, "Save Running Tape", s.TapeFileName)) {
+        if (const auto path = askWhereToSave(calc, "Save Running Tape", s.files.TapeFileName)) {
             if (askForDefaultName(calc, *path)) {
                 rememberFileName(calc, settings, DefaultName::Tape, *path);
             }
             saveTo(*path);
         }
     }
-    s.UndoKind = TapeFileKind::None;
+    s.files.UndoKind = TapeFileKind::None;
 }
 
 std::optional<std::filesystem::path> TapeKeys::askForTape() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
-    const auto path = askWhatToRetrieve(calc, "Retrieve Running Tape", calc.s.TapeFileName);
+    const auto path = askWhatToRetrieve(calc, "Retrieve Running Tape", calc.s.files.TapeFileName);
     const bool agreed =
         path && calc.question("Overwrite?", "This will overwrite all your current information, continue?");
     return agreed ? path : std::nullopt;
@@ -117,21 +118,21 @@ std::optional<std::filesystem::path> TapeKeys::askForTape() {
 void TapeKeys::mnuTape_Click() {
     EngineState& s = calc.s;
     s.CurrentProc = "mnuTape";
-    const auto path = s.UndoKind == TapeFileKind::Undo ? std::optional{calc.AppDataDir / kUndoFile} : askForTape();
+    const auto path =
+        s.files.UndoKind == TapeFileKind::Undo ? std::optional{calc.AppDataDir / kUndoFile} : askForTape();
     s.CurrentProc = "mnuTape";
     if (path) {
         const auto report = [&](const Failure& failure) { calc.errorBox(BoxKind::Notice, retrievalMessage(failure)); };
         goOn(report, [&] { retrieve(*path); });
     }
-    s.UndoKind = TapeFileKind::None;
-    s.TapeHeader.clear();
+    s.files.UndoKind = TapeFileKind::None;
     s.CurrentProc.clear();
     calc.focusEntry();
 }
 
 void TapeKeys::retrieve(const std::filesystem::path& path) {
     const std::string text = onFile([&] { return readWhole(path); });
-    const TapeFileContent content = parseTapeFile(text, calc.s.DecimalChar);
+    const TapeFileContent content = parseTapeFile(text, calc.s.format.DecimalChar);
     if (content.hasStack()) {
         reset.clearStackAndTape();
     }
@@ -150,19 +151,19 @@ void TapeKeys::retrieve(const std::filesystem::path& path) {
 void TapeKeys::take(const TapeFileContent& content) {
     EngineState& s = calc.s;
     const auto orZero = [](const ValueCell& value) { return value.isEmptyText() ? ValueCell::zero() : value; };
-    s.LastX = orZero(content.LastX);
-    s.Yreg = orZero(content.Yreg);
-    s.Xreg = orZero(content.Xreg);
-    s.StackPtr = content.StackPtr;
-    s.Stack.resize(static_cast<std::size_t>(s.StackPtr) + 2);
-    std::copy(content.stack.begin(), content.stack.end(), s.Stack.begin() + 1);
+    s.stack.LastX = orZero(content.LastX);
+    s.stack.Yreg = orZero(content.Yreg);
+    s.stack.Xreg = orZero(content.Xreg);
+    s.stack.StackPtr = content.StackPtr;
+    s.stack.Stack.resize(static_cast<std::size_t>(s.stack.StackPtr) + 2);
+    std::copy(content.stack.begin(), content.stack.end(), s.stack.Stack.begin() + 1);
     calc.tape.clear(0);
     for (std::size_t row = 0; row < content.lines.size(); ++row) {
         const auto fillers = static_cast<std::size_t>(content.fillers);
         calc.tape.add(content.lines[row], row < fillers ? ValueCell{} : content.values[row - fillers]);
     }
     calc.tape.setFillers(content.fillers);
-    const bool full = content.fillers == 0 && content.lines.size() > static_cast<std::size_t>(s.TapeRows);
+    const bool full = content.fillers == 0 && content.lines.size() > static_cast<std::size_t>(s.window.TapeRows);
     calc.form.lstDisplayReg.place.width = full ? kWideTape : kNarrowTape;
     calc.stackList.refresh();
     calc.commit.ShowSmallRegs();

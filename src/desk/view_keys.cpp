@@ -29,28 +29,28 @@ void ViewKeys::FixMenu() {
         menu *= 2;
     }
     const int twipsPerPixel = kTwipsPerInch / metrics.dotsPerInch;
-    calc.s.BasicHeight = (metrics.captionHeight + menu) * twipsPerPixel + kBelowMenu;
-    if (calc.s.BasicHeight == 5900) {
-        calc.s.BasicHeight = 6200;
+    calc.s.window.BasicHeight = (metrics.captionHeight + menu) * twipsPerPixel + kBelowMenu;
+    if (calc.s.window.BasicHeight == 5900) {
+        calc.s.window.BasicHeight = 6200;
     }
-    calc.form.place.height = calc.s.BasicHeight;
+    calc.form.place.height = calc.s.window.BasicHeight;
 }
 
 void ViewKeys::cmdView_Click() {
     EngineState& s = calc.s;
-    if (s.ModifierMask != 0) {
-        if (!s.ViewExtended && s.ModifierMask == kAlt) {
-            toggleField(s.ShowYField, option_bit::kYField);
-        } else if (!s.ViewExtended && s.ModifierMask == kCtrl) {
-            toggleField(s.ShowLastxField, option_bit::kLastxField);
+    if (s.modifiers.ModifierMask != 0) {
+        if (!s.window.ViewExtended && s.modifiers.ModifierMask == kAlt) {
+            toggleField(s.window.ShowYField, option_bit::kYField);
+        } else if (!s.window.ViewExtended && s.modifiers.ModifierMask == kCtrl) {
+            toggleField(s.window.ShowLastxField, option_bit::kLastxField);
         }
         calc.ClearOptKeys();
         return;
     }
-    s.ViewExtended = !s.ViewExtended;
-    calc.form.place.width = s.ViewExtended ? MainForm::kExtendedWidth : MainForm::kPlainWidth;
-    calc.form.place.height =
-        s.BasicHeight + (s.TallForm ? kViewTallGrowth : 0) + (s.ViewExtended ? MainForm::kExtendedGrowth : 0);
+    s.window.ViewExtended = !s.window.ViewExtended;
+    calc.form.place.width = s.window.ViewExtended ? MainForm::kExtendedWidth : MainForm::kPlainWidth;
+    calc.form.place.height = s.window.BasicHeight + (s.window.TallForm ? kViewTallGrowth : 0) +
+                             (s.window.ViewExtended ? MainForm::kExtendedGrowth : 0);
     apply();
     calc.ClearOptKeys();
     if (std::exchange(clickedBefore_, true)) {
@@ -61,13 +61,13 @@ void ViewKeys::cmdView_Click() {
 void ViewKeys::apply() {
     const EngineState& s = calc.s;
     MainForm& form = calc.form;
-    form.txty_Reg.visible = form.Label7.visible = s.ViewExtended || s.ShowYField;
-    form.txtLastx.visible = form.Label9.visible = s.ViewExtended || s.ShowLastxField;
+    form.txty_Reg.visible = form.Label7.visible = s.window.ViewExtended || s.window.ShowYField;
+    form.txtLastx.visible = form.Label9.visible = s.window.ViewExtended || s.window.ShowLastxField;
     for (int i = 0; i < kShownRegisters; ++i) {
-        form.txtReg_m.at(static_cast<std::size_t>(i)).visible = s.ViewExtended;
-        form.lblErg_m.at(static_cast<std::size_t>(i)).visible = s.ViewExtended;
+        form.txtReg_m.at(static_cast<std::size_t>(i)).visible = s.window.ViewExtended;
+        form.lblErg_m.at(static_cast<std::size_t>(i)).visible = s.window.ViewExtended;
     }
-    form.arrange(s.ViewExtended, form.place.height - s.BasicHeight);
+    form.arrange(s.window.ViewExtended, form.place.height - s.window.BasicHeight);
 }
 
 void ViewKeys::toggleField(bool& shown, int optionBit) {
@@ -78,13 +78,13 @@ void ViewKeys::toggleField(bool& shown, int optionBit) {
 
 void ViewKeys::toggleTall() {
     EngineState& s = calc.s;
-    if (s.ViewExtended) {
+    if (s.window.ViewExtended) {
         return;
     }
-    s.TallForm = !s.TallForm;
-    calc.form.place.height = s.BasicHeight + (s.TallForm ? MainForm::kTallGrowth : 0);
+    s.window.TallForm = !s.window.TallForm;
+    calc.form.place.height = s.window.BasicHeight + (s.window.TallForm ? MainForm::kTallGrowth : 0);
     apply();
-    writeOption(option_bit::kTall, s.TallForm);
+    writeOption(option_bit::kTall, s.window.TallForm);
 }
 
 void ViewKeys::writeOption(int bit, bool on) {

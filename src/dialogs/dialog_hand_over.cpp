@@ -6,17 +6,17 @@
 namespace tallyforge {
 
 void DialogHandOver::EnterDialog() {
-    DialogValue = calc.s.Xreg;
-    DialogCalcId = calc.s.ModifierMask;
-    calc.s.ModifierMask = 0;
-    calc.s.FnLabel.clear();
+    DialogValue = calc.s.stack.Xreg;
+    DialogCalcId = calc.s.modifiers.ModifierMask;
+    calc.s.modifiers.ModifierMask = 0;
+    calc.s.delivery.FnLabel.clear();
     calc.dialogOpen = true;
 }
 
 void DialogHandOver::LeaveDialog() {
     calc.dialogOpen = false;
-    if (calc.s.FnLabel.empty()) {
-        calc.s.Xreg = kNothingDone;
+    if (calc.s.delivery.FnLabel.empty()) {
+        calc.s.stack.Xreg = kNothingDone;
     }
 }
 
@@ -31,7 +31,7 @@ void DialogHandOver::ClearHandOver() {
     DialogValue2 = "";
     DialogValues.fill("");
     DialogCalcId = 0;
-    calc.s.FnLabel.clear();
+    calc.s.delivery.FnLabel.clear();
 }
 
 }  // namespace tallyforge

@@ -10,12 +10,12 @@ namespace tallyforge {
 Engine::Engine(Platform& desktop) : platform(desktop), stackList(*this), display(*this), commit(*this) {
     form.lstDisplayReg.rows = &tape;
     form.lstStack.rows = &stackList;
-    tape.clear(s.TapeRows);
+    tape.clear(s.window.TapeRows);
 }
 
 std::string Engine::patternText(const ValueCell& cell, std::string_view pattern) const {
     try {
-        return formatPattern(number(cell), pattern, s.DecimalChar);
+        return formatPattern(number(cell), pattern, s.format.DecimalChar);
     } catch (const Failure&) {
         return text(cell);
     }
@@ -58,15 +58,15 @@ void Engine::LightModifiers(std::uint8_t mask) {
     form.shaShift.visible = (mask & kShift) != 0;
     form.shaCtrl.visible = (mask & kCtrl) != 0;
     form.shaAlt.visible = (mask & kAlt) != 0;
-    s.CtrlHeld = false;
+    s.modifiers.CtrlHeld = false;
 }
 
 void Engine::ClearOptKeys() {
-    if (s.ModifierLatched) {
+    if (s.modifiers.ModifierLatched) {
         keypads().RepaintKeypad();
     }
-    s.ModifierMask = 0;
-    s.ModifierLatched = false;
+    s.modifiers.ModifierMask = 0;
+    s.modifiers.ModifierLatched = false;
     if (!form.optKey.back().checked) {
         for (Control& option : form.optKey) {
             option.checked = false;

@@ -53,9 +53,9 @@ public:
     void connect(KeypadPort& port) { keypads_ = &port; }
 
     /// X as number or as plain text, by the locale.
-    [[nodiscard]] double xNumber() const { return s.Xreg.number(s.DecimalChar); }
-    [[nodiscard]] double number(const ValueCell& cell) const { return cell.number(s.DecimalChar); }
-    [[nodiscard]] std::string text(const ValueCell& cell) const { return cell.text(s.DecimalChar); }
+    [[nodiscard]] double xNumber() const { return s.stack.Xreg.number(s.format.DecimalChar); }
+    [[nodiscard]] double number(const ValueCell& cell) const { return cell.number(s.format.DecimalChar); }
+    [[nodiscard]] std::string text(const ValueCell& cell) const { return cell.text(s.format.DecimalChar); }
     /// `cell` by `pattern`; a text that is no number as it stands.
     [[nodiscard]] std::string patternText(const ValueCell& cell, std::string_view pattern) const;
 
@@ -78,9 +78,9 @@ public:
     /// Puts `text` into the entry line. What was begun in a line that is emptied ends with it.
     void setEntry(std::string_view text) {
         if (text.empty()) {
-            s.EexActive = false;
-            s.BaseTagDue = false;
-            s.BaseNumberDone = false;
+            s.entry.EexActive = false;
+            s.entry.BaseTagDue = false;
+            s.entry.BaseNumberDone = false;
         }
         form.txtXreg.caret = text.size();
         if (!text.empty() || !form.txtXreg.text.empty()) {
@@ -90,7 +90,7 @@ public:
     /// The empty-line rule: with nothing typed a function works on the X that is on the stack.
     void closeEmptyEntry() {
         if (form.txtXreg.text.empty()) {
-            s.EntryOpen = false;
+            s.entry.EntryOpen = false;
         }
     }
 

@@ -11,13 +11,13 @@ constexpr std::array<int, kBankKeys> kRegisterOfKey{23, 22, 21, 12, 8,  7,  17, 
 
 }  // namespace
 
-EngineState::EngineState() : Stack(3) {
+MemoryState::MemoryState() {
     for (int key = 0; key < kBankKeys; ++key) {
         RegisterNames.at(static_cast<std::size_t>(key)) = defaultRegisterName(key);
     }
 }
 
-const ValueCell& EngineState::noCell() {
+const ValueCell& StackState::noCell() {
     static const ValueCell kNothing;
     return kNothing;
 }

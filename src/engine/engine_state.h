@@ -63,104 +63,16 @@ inline constexpr std::uint8_t kBaseSuspended = 99;
 inline constexpr const char* kNoMeaning = "XXX";    ///< this modifier has no meaning for the key
 inline constexpr const char* kNothingDone = "ZZZ";  ///< nothing to commit
 
-struct EngineState {
-    EngineState();
-
-    // Registers and stack.
+/// Registers X and Y, last x, and the stack.
+struct StackState {
     ValueCell Xreg;
     ValueCell Yreg = ValueCell::zero();
     ValueCell LastX;
-    ValueCell LastY;
-    std::vector<ValueCell> Stack;  ///< slot 0 lies under the stack; element 1 is the bottom
-    int StackPtr = 1;              ///< next free slot; 1 is an empty stack
-    int LowestStackPtr = 1;        ///< lowest StackPtr after a commit since the last statistics entry
-    ValueCell KeepX;               ///< what a key that did nothing leaves in X; Empty for nothing
-    double Xnum = 0.0;             ///< working copy for functions that compute in doubles
-    std::string FnLabel;           ///< label of the coming tape line
-    std::string CurrentProc;       ///< last procedure that stored its name; titles of messages
-
-    // One-shot flags, set by the caller and cleared by the commit.
-    bool EntryOpen = false;       ///< the coming commit pushes; false: it replaces the top
-    bool ValueInXreg = false;     ///< the commit takes Xreg, not the entry line
-    bool StoreAsIs = false;       ///< the commit leaves out reading an entry altogether
-    bool SkipCommitTail = false;  ///< the commit stores but writes no tape line
-    bool FormatFault = false;     ///< the value could not be shown: take the push back
-    bool KeepEntryText = false;   ///< the commit leaves the entry line's text in place
-    bool KeepDigits = false;      ///< PushResult keeps the digits that the caller has set
-    bool ShowRawOnce = false;     ///< the next numDisplay gives the plain text
-    bool DmsDisplay = false;      ///< the next numDisplay shows minutes and seconds
-
-    // The entry line.
-    bool EntryTouched = false;
-    bool EexActive = false;       ///< the entry line holds an exponent
-    bool BaseTagDue = false;      ///< a "#" was typed, its base letter is still to come
-    bool BaseNumberDone = false;  ///< the entry line holds a whole number of a base
-    bool DigitTyped = false;
-    std::string BaseLetter;       ///< last base letter typed
-    bool RoundTripCheck = false;  ///< a running program feeds a stored number back
-
-    // Modifiers.
-    std::uint8_t ModifierMask = 0;
-    bool ModifierLatched = false;  ///< chosen on screen, waits for a key
-    bool CtrlHeld = false;
-    bool ShiftCtrlHeld = false;
-    bool NoKeyPaint = false;           ///< captions stay as they are under a modifier
-    bool SkipModifierRelease = false;  ///< the next key-up does not repaint
-
-    // Modes.
-    Keypad ActiveKeypad = Keypad::Standard;
-    bool BaseMode = false;
-    std::uint8_t BaseSuspended = 0;
-    bool QuizMode = false;
-    bool ProgramMode = false;
-    bool MemoryArrayMode = false;
-    bool TablesShown = false;
-    bool ConvertWait = false;  ///< the Convert key waits for a choice
-
-    // Format.
-    int DisplayDigits = 2;
-    DisplayMode Mode = DisplayMode::Fixed;
-    int SavedDigits = 2;
-    DisplayMode SavedMode = DisplayMode::Fixed;
-    bool DisplaySaved = false;
-    int WordSize = 64;
-    char DecimalChar = '.';
-    AngleMode Angle = AngleMode::Degrees;
-    std::string BaseRemainder;  ///< remainder of the last base division, base form
-
-    // Tape.
-    TapeFileKind UndoKind = TapeFileKind::None;
-    std::string TapeHeader;  ///< header line of the tape file while it is read
-    std::string TapeFileName;
-    std::string MemoryFileName;
-    bool CompactForm = false;  ///< the display runs at other than 96 dots per inch
-    int TapeRows = 7;
-
-    // Memory registers, by number 1 to 24 (slot 0 is unused); names by key index.
-    std::array<ValueCell, kRegisters + 1> Registers;
-    std::array<std::string, kBankKeys> RegisterNames;
-    bool RegistersUsed = false;
-
-    // View and life cycle.
-    bool ViewExtended = false;
-    bool ShowYField = false;
-    bool ShowLastxField = false;
-    bool TallForm = false;
-    int BasicHeight = 6200;  ///< height of the plain form, twips
-    bool FormActive = false;
-    bool AutoLoadProgram = false;
-    float TaxRate = 7.75F;
-    std::string DefaultProgram;
-    int SavedTop = 0;
-    int SavedLeft = 0;
-    int LastTop = 0;
-    int LastLeft = 0;
-    DisplayMode RememberedMode = DisplayMode::Fixed;  ///< while the form is not the active one
-
-    /// Multi-input functions that have still to clear their stored inputs, one bit each.
-    std::uint32_t FunctionResetMask = 0x7FFFFFFF;
-    bool RightTriangleHasAngle = false;  ///< the key of the angles is hidden until it is solved
-    std::uint32_t CalcResetWord = 0x7FFFFFFF;
+    std::vector<ValueCell> Stack = std::vector<ValueCell>(3);  ///< slot 0 lies under the stack; element 1 is the bottom
+    int StackPtr = 1;                                          ///< next free slot; 1 is an empty stack
+    int LowestStackPtr = 1;  ///< lowest StackPtr after a commit since the last statistics entry
+    ValueCell KeepX;         ///< what a key that did nothing leaves in X; Empty for nothing
+    double Xnum = 0.0;       ///< working copy for functions that compute in doubles
 
     [[nodiscard]] int depth() const { return StackPtr - 1; }
     /// Stack slot `slot`, or an Empty cell where there is none.
@@ -171,6 +83,121 @@ struct EngineState {
 
 private:
     [[nodiscard]] static const ValueCell& noCell();
+};
+
+/// What a function tells the commit beside X: set by the caller, cleared by the commit.
+struct DeliveryState {
+    std::string FnLabel;          ///< label of the coming tape line
+    bool ValueInXreg = false;     ///< the commit takes Xreg, not the entry line
+    bool SkipCommitTail = false;  ///< the commit stores but writes no tape line
+    bool FormatFault = false;     ///< the value could not be shown: take the push back
+    bool KeepEntryText = false;   ///< the commit leaves the entry line's text in place
+    bool KeepDigits = false;      ///< PushResult keeps the digits that the caller has set
+    bool ShowRawOnce = false;     ///< the next numDisplay gives the plain text
+    bool DmsDisplay = false;      ///< the next numDisplay shows minutes and seconds
+};
+
+/// The entry line.
+struct EntryState {
+    bool EntryOpen = false;  ///< the coming commit pushes; false: it replaces the top
+    bool EntryTouched = false;
+    bool EexActive = false;       ///< the entry line holds an exponent
+    bool BaseTagDue = false;      ///< a "#" was typed, its base letter is still to come
+    bool BaseNumberDone = false;  ///< the entry line holds a whole number of a base
+    bool DigitTyped = false;
+    std::string BaseLetter;       ///< last base letter typed
+    bool RoundTripCheck = false;  ///< a running program feeds a stored number back
+};
+
+struct ModifierState {
+    std::uint8_t ModifierMask = 0;
+    bool ModifierLatched = false;  ///< chosen on screen, waits for a key
+    bool CtrlHeld = false;
+    bool ShiftCtrlHeld = false;
+    bool NoKeyPaint = false;           ///< captions stay as they are under a modifier
+    bool SkipModifierRelease = false;  ///< the next key-up does not repaint
+};
+
+struct ModeState {
+    Keypad ActiveKeypad = Keypad::Standard;
+    bool BaseMode = false;
+    std::uint8_t BaseSuspended = 0;
+    bool QuizMode = false;
+    bool ProgramMode = false;
+    bool MemoryArrayMode = false;
+    bool TablesShown = false;
+    bool ConvertWait = false;  ///< the Convert key waits for a choice
+};
+
+/// How numbers are read and shown.
+struct FormatState {
+    int DisplayDigits = 2;
+    DisplayMode Mode = DisplayMode::Fixed;
+    int SavedDigits = 2;
+    DisplayMode SavedMode = DisplayMode::Fixed;
+    bool DisplaySaved = false;
+    DisplayMode RememberedMode = DisplayMode::Fixed;  ///< while the form is not the active one
+    int WordSize = 64;
+    char DecimalChar = '.';
+    AngleMode Angle = AngleMode::Degrees;
+    std::string BaseRemainder;  ///< remainder of the last base division, base form
+};
+
+/// Names of the files that the user works with, and what an undo would bring back.
+struct FileState {
+    TapeFileKind UndoKind = TapeFileKind::None;
+    std::string TapeFileName;
+    std::string MemoryFileName;
+    std::string DefaultProgram;
+    bool AutoLoadProgram = false;
+};
+
+/// Memory registers, by number 1 to 24 (slot 0 is unused); names by key index.
+struct MemoryState {
+    MemoryState();  ///< every register under its number
+
+    std::array<ValueCell, kRegisters + 1> Registers;
+    std::array<std::string, kBankKeys> RegisterNames;
+    bool RegistersUsed = false;
+};
+
+struct WindowState {
+    bool CompactForm = false;  ///< the display runs at other than 96 dots per inch
+    int TapeRows = 7;
+    bool ViewExtended = false;
+    bool ShowYField = false;
+    bool ShowLastxField = false;
+    bool TallForm = false;
+    int BasicHeight = 6200;  ///< height of the plain form, twips
+    bool FormActive = false;
+    int SavedTop = 0;
+    int SavedLeft = 0;
+    int LastTop = 0;
+    int LastLeft = 0;
+};
+
+/// What the functions share with Reset and the settings.
+struct FunctionState {
+    /// Multi-input functions that have still to clear their stored inputs, one bit each.
+    std::uint32_t FunctionResetMask = 0x7FFFFFFF;
+    /// The same for the calculators.
+    std::uint32_t CalcResetWord = 0x7FFFFFFF;
+    float TaxRate = 7.75F;
+    bool RightTriangleHasAngle = false;  ///< the key of the angles is hidden until it is solved
+};
+
+struct EngineState {
+    StackState stack;
+    DeliveryState delivery;
+    EntryState entry;
+    ModifierState modifiers;
+    ModeState modes;
+    FormatState format;
+    FileState files;
+    MemoryState memory;
+    WindowState window;
+    FunctionState functions;
+    std::string CurrentProc;  ///< last procedure that stored its name; titles of messages
 };
 
 /// The register that a key of the bank stands for in memory array mode, 1 to 24.

@@ -9,30 +9,30 @@
 namespace tallyforge {
 
 MultiInput::Outcome MultiInput::press() {
-    return press(calc.s.ModifierMask);
+    return press(calc.s.modifiers.ModifierMask);
 }
 
 MultiInput::Outcome MultiInput::press(std::uint8_t name) {
     EngineState& s = calc.s;
-    if ((s.FunctionResetMask & shape.resetBit) != 0) {
-        s.FunctionResetMask &= ~shape.resetBit;
+    if ((s.functions.FunctionResetMask & shape.resetBit) != 0) {
+        s.functions.FunctionResetMask &= ~shape.resetBit;
         clear();
     }
     if (nothingEntered()) {
         clear();
-        s.Xreg = ValueCell::zero();
-        s.FnLabel = shape.resetLabel;
+        s.stack.Xreg = ValueCell::zero();
+        s.delivery.FnLabel = shape.resetLabel;
         return Outcome::Reset;
     }
     const bool recalculates = shape.shiftRecalculates && (name & kShift) != 0;
     const KeyInput* input = named(recalculates ? static_cast<std::uint8_t>(name - kShift) : name);
     if (input == nullptr) {
-        s.Xreg = kNoMeaning;
+        s.stack.Xreg = kNoMeaning;
         return Outcome::NoMeaning;
     }
     valueOf(*input) = calc.xNumber();
     if (received_ == 0) {
-        savedStackPtr_ = s.StackPtr;
+        savedStackPtr_ = s.stack.StackPtr;
     }
     received_ |= input->bit;
     // The quantity that was solved for last is no input of that set, so it starts a new one.
@@ -44,7 +44,7 @@ MultiInput::Outcome MultiInput::press(std::uint8_t name) {
         return Outcome::Solved;
     }
     takePlace();
-    s.FnLabel = input->label;
+    s.delivery.FnLabel = input->label;
     return Outcome::Stored;
 }
 
@@ -65,9 +65,9 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
     }
     writeInput(last);
     complete();
-    s.Xreg = result;
-    s.FnLabel = solved.label;
-    s.ValueInXreg = true;
+    s.stack.Xreg = result;
+    s.delivery.FnLabel = solved.label;
+    s.delivery.ValueInXreg = true;
     if (shape.autoDigits) {
         calc.display.SaveDisplay(2);
         calc.commit.AutoDigits();
@@ -93,17 +93,17 @@ void MultiInput::complete() {
 }
 
 void MultiInput::writeInput(const KeyInput& input) {
-    calc.s.Xreg = valueOf(input);
-    calc.s.FnLabel = input.label;
-    calc.s.ValueInXreg = true;
+    calc.s.stack.Xreg = valueOf(input);
+    calc.s.delivery.FnLabel = input.label;
+    calc.s.delivery.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
 }
 
 // The commit that follows replaces the element of the first input; what was typed since lies above
 // it and goes.
 void MultiInput::takePlace() {
-    calc.s.StackPtr = std::min(calc.s.StackPtr, savedStackPtr_);
-    calc.s.EntryOpen = false;
+    calc.s.stack.StackPtr = std::min(calc.s.stack.StackPtr, savedStackPtr_);
+    calc.s.entry.EntryOpen = false;
 }
 
 void MultiInput::clear() {
@@ -114,7 +114,7 @@ void MultiInput::clear() {
 }
 
 bool MultiInput::nothingEntered() const {
-    const ValueCell& x = calc.s.Xreg;
+    const ValueCell& x = calc.s.stack.Xreg;
     return x.isEmpty() || x.isEmptyText() || (shape.zeroResets && calc.xNumber() == 0.0);
 }
 

@@ -162,7 +162,7 @@ void NumberDisplay::DspFmat(const ValueCell& shown) {
         return;
     }
     if (value.isEmptyText()) {
-        s.Xreg = s.StackPtr <= 1 ? ValueCell::zero() : s.LastX;
+        s.stack.Xreg = s.stack.StackPtr <= 1 ? ValueCell::zero() : s.stack.LastX;
         value = ValueCell{};
     }
     SetUpDisplay(numDisplay(value));
@@ -172,17 +172,18 @@ void NumberDisplay::DspFmat(const ValueCell& shown) {
 bool NumberDisplay::writeUnformatted(const ValueCell& value) {
     EngineState& s = calc.s;
     const double* const number = value.asDouble();
-    if (number == nullptr || s.ShowRawOnce || s.DmsDisplay || s.FnLabel.size() > Tape::kLongestLabel) {
+    if (number == nullptr || s.delivery.ShowRawOnce || s.delivery.DmsDisplay ||
+        s.delivery.FnLabel.size() > Tape::kLongestLabel) {
         return false;
     }
-    const NumberLook look{.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar};
-    if (s.FnLabel.size() > 1 && mostCharacters(*number, look) >= kLongValue) {
+    const NumberLook look{.mode = s.format.Mode, .digits = s.format.DisplayDigits, .decimal = s.format.DecimalChar};
+    if (s.delivery.FnLabel.size() > 1 && mostCharacters(*number, look) >= kLongValue) {
         return false;
     }
     if (!calc.dialogOpen) {
         calc.focusEntry();
     }
-    calc.tape.addNumber(look, s.FnLabel, *number);
+    calc.tape.addNumber(look, s.delivery.FnLabel, *number);
     lineWritten();
     return true;
 }
@@ -194,12 +195,12 @@ void NumberDisplay::tagWithHex(const ValueCell& value) {
         std::any_of(digits.begin(), digits.end(), [](char digit) { return digit >= 'A' && digit <= 'F'; });
     if (!hexDigit) {
         calc.message(BoxKind::Stop, "Error!", "Binary indicator (b, d, h, o) required");
-        s.FormatFault = true;
+        s.delivery.FormatFault = true;
         return;
     }
     const ValueCell tagged{std::string(value.textView()) + "h"};
-    s.Xreg = tagged;
-    s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = tagged;
+    s.stack.Xreg = tagged;
+    s.stack.Stack[static_cast<std::size_t>(s.stack.StackPtr) - 1] = tagged;
     DspFmat(tagged);
 }
 
@@ -207,15 +208,17 @@ std::string NumberDisplay::numDisplay(const ValueCell& value) {
     EngineState& s = calc.s;
     s.CurrentProc = "numDisplay";
     const double number = calc.number(value);
-    const bool fixed = s.Mode == DisplayMode::Fixed && !leavesFixed(number, s.DisplayDigits);
-    if (fixed && std::exchange(s.ShowRawOnce, false)) {
+    const bool fixed = s.format.Mode == DisplayMode::Fixed && !leavesFixed(number, s.format.DisplayDigits);
+    if (fixed && std::exchange(s.delivery.ShowRawOnce, false)) {
         return calc.text(value);
     }
-    const bool minutesAndSeconds = std::exchange(s.DmsDisplay, false);
+    const bool minutesAndSeconds = std::exchange(s.delivery.DmsDisplay, false);
     if (fixed && minutesAndSeconds) {
-        return hoursText(number, s.DecimalChar);
+        return hoursText(number, s.format.DecimalChar);
     }
-    return shownNumber(number, {.mode = s.Mode, .digits = s.DisplayDigits, .decimal = s.DecimalChar}, s.FnLabel.size());
+    return shownNumber(number,
+                       {.mode = s.format.Mode, .digits = s.format.DisplayDigits, .decimal = s.format.DecimalChar},
+                       s.delivery.FnLabel.size());
 }
 
 std::string NumberDisplay::shownNumber(double number, const NumberLook& look, std::size_t labelSize) {
@@ -274,11 +277,11 @@ void NumberDisplay::SetUpDisplay(const std::string& text) {
         setUpBaseNumber(text);
         return;
     }
-    if (s.FnLabel.empty()) {
+    if (s.delivery.FnLabel.empty()) {
         Add2Display(text);
         return;
     }
-    std::string label = s.FnLabel;
+    std::string label = s.delivery.FnLabel;
     if (label.size() < 2 || text.size() < kLongValue) {
         Add2Display(labelled(label, text));
         return;
@@ -294,16 +297,16 @@ void NumberDisplay::setUpBaseNumber(std::string_view text) {
     const BaseLayout& layout = *baseLayout(text);
     std::string digits{text.substr(1, text.size() - 2)};
     if (calc.cutToWord) {
-        digits = calc.cutToWord(digits, layout.letter, s.WordSize);
+        digits = calc.cutToWord(digits, layout.letter, s.format.WordSize);
     }
     if (digits.empty()) {
         digits = "0";
     }
-    s.Xreg = "#" + digits + layout.letter;
-    s.Stack[static_cast<std::size_t>(s.StackPtr) - 1] = s.Xreg;
+    s.stack.Xreg = "#" + digits + layout.letter;
+    s.stack.Stack[static_cast<std::size_t>(s.stack.StackPtr) - 1] = s.stack.Xreg;
 
     std::string shown = "#" + groupFromRight(digits, layout) + layout.letter;
-    std::string label = s.FnLabel;
+    std::string label = s.delivery.FnLabel;
     std::size_t length = shown.size() + (label.empty() ? 0 : label.size() + 1);
     while (length > kTapeWidth) {
         const auto blank = shown.find(' ', layout.wrapBehind);
@@ -323,13 +326,13 @@ void NumberDisplay::setUpBaseNumber(std::string_view text) {
 
 void NumberDisplay::Add2Display(std::string_view text) {
     calc.s.CurrentProc = "Add2Display";
-    calc.tape.add(text, calc.s.Xreg);
+    calc.tape.add(text, calc.s.stack.Xreg);
     lineWritten();
 }
 
 void NumberDisplay::lineWritten() {
     calc.stackList.refresh();
-    calc.s.FnLabel.clear();
+    calc.s.delivery.FnLabel.clear();
 }
 
 void NumberDisplay::DisplayChg() {
@@ -341,20 +344,20 @@ void NumberDisplay::DisplayChg() {
 void NumberDisplay::SaveDisplay(int digits) {
     EngineState& s = calc.s;
     s.CurrentProc = "SaveDisplay";
-    s.SavedMode = s.Mode;
-    s.SavedDigits = s.DisplayDigits;
-    s.DisplaySaved = true;
+    s.format.SavedMode = s.format.Mode;
+    s.format.SavedDigits = s.format.DisplayDigits;
+    s.format.DisplaySaved = true;
     optFix_Click(DisplayMode::Fixed);
-    s.DisplayDigits = digits;
+    s.format.DisplayDigits = digits;
 }
 
 void NumberDisplay::RestoreDisplay() {
     EngineState& s = calc.s;
-    if (!std::exchange(s.DisplaySaved, false)) {
+    if (!std::exchange(s.format.DisplaySaved, false)) {
         return;
     }
-    s.DisplayDigits = s.SavedDigits;
-    optFix_Click(s.SavedMode);
+    s.format.DisplayDigits = s.format.SavedDigits;
+    optFix_Click(s.format.SavedMode);
     writeDigitsCaption();
     calc.form.cmdChs.text = "C&HS";
     calc.form.cmdChs.tip = R"( Chg Sign - use \ key )";
@@ -364,9 +367,9 @@ void NumberDisplay::RestoreDisplay() {
 }
 
 void NumberDisplay::useFormat(DisplayMode mode, int digits) {
-    calc.s.DisplaySaved = false;
-    calc.s.DisplayDigits = digits;
-    calc.s.SavedDigits = digits;
+    calc.s.format.DisplaySaved = false;
+    calc.s.format.DisplayDigits = digits;
+    calc.s.format.SavedDigits = digits;
     optFix_Click(mode);
     writeDigitsCaption();
 }
@@ -380,30 +383,31 @@ void NumberDisplay::enableByteKeys(bool enabled) {
 void NumberDisplay::writeDigitsCaption() {
     const EngineState& s = calc.s;
     Control& key = calc.form.cmdDigits;
-    key.text =
-        s.BaseMode ? "wrdsze(" + std::to_string(s.WordSize) + ")" : "Display(" + std::to_string(s.DisplayDigits) + ")";
-    key.tip = s.BaseMode ? " Change Word Size (4 - 64) " : " Click: Change Display Digits | Rt. Click: Toggle Ht ";
+    key.text = s.modes.BaseMode ? "wrdsze(" + std::to_string(s.format.WordSize) + ")"
+                                : "Display(" + std::to_string(s.format.DisplayDigits) + ")";
+    key.tip =
+        s.modes.BaseMode ? " Change Word Size (4 - 64) " : " Click: Change Display Digits | Rt. Click: Toggle Ht ";
 }
 
 void NumberDisplay::optFix_Click(DisplayMode mode) {
-    calc.s.Mode = mode;
+    calc.s.format.Mode = mode;
     for (std::size_t i = 0; i < calc.form.optFix.size(); ++i) {
         calc.form.optFix.at(i).checked = i == static_cast<std::size_t>(mode);
     }
-    if (calc.s.FormActive) {
+    if (calc.s.window.FormActive) {
         calc.focusEntry();
     }
 }
 
 void NumberDisplay::cmdDigits_Click() {
     EngineState& s = calc.s;
-    if (s.ModifierMask != 0) {
+    if (s.modifiers.ModifierMask != 0) {
         calc.ClearOptKeys();
         return;
     }
     s.CurrentProc = "cmdDigits_Click";
     const bool fromStack = calc.entryText().empty();
-    if (fromStack && s.StackPtr <= 1) {
+    if (fromStack && s.stack.StackPtr <= 1) {
         calc.message(BoxKind::Stop, "Nothing to do!", "Please enter a number.");
         calc.focusEntry();
         return;
@@ -413,21 +417,22 @@ void NumberDisplay::cmdDigits_Click() {
     };
     double wanted = 0.0;
     const bool read = goOn(report, [&] {
-        wanted = roundHalfEven(calc.number(fromStack ? s.slot(s.StackPtr - 1) : ValueCell{calc.entryText()}), 0);
+        wanted =
+            roundHalfEven(calc.number(fromStack ? s.stack.slot(s.stack.StackPtr - 1) : ValueCell{calc.entryText()}), 0);
     });
     calc.setEntry({});
     calc.focusEntry();
-    s.EntryOpen = false;
-    s.EexActive = false;
-    if (!read || !(s.BaseMode ? setWordSize(wanted) : setDigits(wanted)) || !fromStack) {
+    s.entry.EntryOpen = false;
+    s.entry.EexActive = false;
+    if (!read || !(s.modes.BaseMode ? setWordSize(wanted) : setDigits(wanted)) || !fromStack) {
         return;
     }
     // The number was used up as the key's operand.
-    s.StackPtr -= 1;
-    s.LowestStackPtr = std::min(s.LowestStackPtr, s.StackPtr);
-    if (s.depth() > 0) {
-        s.Xreg = s.slot(s.StackPtr - 1);
-        s.Yreg = s.slot(s.StackPtr - 2);
+    s.stack.StackPtr -= 1;
+    s.stack.LowestStackPtr = std::min(s.stack.LowestStackPtr, s.stack.StackPtr);
+    if (s.stack.depth() > 0) {
+        s.stack.Xreg = s.stack.slot(s.stack.StackPtr - 1);
+        s.stack.Yreg = s.stack.slot(s.stack.StackPtr - 2);
         calc.commit.ShowSmallRegs();
     }
     calc.stackList.refresh();
@@ -439,9 +444,9 @@ bool NumberDisplay::setWordSize(double bits) {
         calc.message(BoxKind::Stop, "Out of Range!", "4 to 64 only for this function");
         return false;
     }
-    s.WordSize = static_cast<int>(bits);
+    s.format.WordSize = static_cast<int>(bits);
     writeDigitsCaption();
-    enableByteKeys(s.WordSize >= kSmallestByteWord);
+    enableByteKeys(s.format.WordSize >= kSmallestByteWord);
     return true;
 }
 
@@ -451,8 +456,8 @@ bool NumberDisplay::setDigits(double digits) {
         calc.message(BoxKind::Stop, "Out of Range!", "0 to 12 only for this function");
         return false;
     }
-    s.DisplayDigits = static_cast<int>(digits);
-    s.SavedDigits = s.DisplayDigits;
+    s.format.DisplayDigits = static_cast<int>(digits);
+    s.format.SavedDigits = s.format.DisplayDigits;
     writeDigitsCaption();
     return true;
 }

@@ -10,16 +10,16 @@ namespace tallyforge {
 namespace {
 
 void setX(Engine& calc, const Result& result) {
-    calc.s.Xreg = result.value;
-    calc.s.FnLabel = result.label;
-    calc.s.ValueInXreg = true;
+    calc.s.stack.Xreg = result.value;
+    calc.s.delivery.FnLabel = result.label;
+    calc.s.delivery.ValueInXreg = true;
 }
 
 }  // namespace
 
 ValueCell cellBelow(const Engine& calc, int below) {
     // A result that was left below an empty stack is still the Y that is shown.
-    return calc.s.depth() >= below ? calc.s.slot(calc.s.StackPtr - 1 - below) : ValueCell{};
+    return calc.s.stack.depth() >= below ? calc.s.stack.slot(calc.s.stack.StackPtr - 1 - below) : ValueCell{};
 }
 
 double operandBelow(const Engine& calc, int below) {
@@ -37,28 +37,28 @@ void replaceOperands(Engine& calc, int operands, const Result& result) {
 
 void pushOnX(Engine& calc, const Result& result) {
     setX(calc, result);
-    calc.s.EntryOpen = true;
+    calc.s.entry.EntryOpen = true;
 }
 
 void pushAtOnce(Engine& calc, const Result& result, bool keepsDigits) {
     setX(calc, result);
-    calc.s.KeepDigits = keepsDigits;
+    calc.s.delivery.KeepDigits = keepsDigits;
     calc.commit.PushResult();
-    calc.s.KeepDigits = false;
+    calc.s.delivery.KeepDigits = false;
 }
 
 void replaceWithPair(Engine& calc, int operands, const Result& first, const Result& second, bool keepsDigits) {
-    calc.s.StackPtr = std::max(calc.s.StackPtr - operands, 1);
+    calc.s.stack.StackPtr = std::max(calc.s.stack.StackPtr - operands, 1);
     pushAtOnce(calc, first, keepsDigits);
     pushOnX(calc, second);
 }
 
 void refuseModifiers(Engine& calc) {
-    calc.s.Xreg = kNoMeaning;
+    calc.s.stack.Xreg = kNoMeaning;
 }
 
 void leaveNothing(Engine& calc) {
-    calc.s.Xreg = kNothingDone;
+    calc.s.stack.Xreg = kNothingDone;
 }
 
 }  // namespace tallyforge

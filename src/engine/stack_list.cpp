@@ -32,20 +32,20 @@ int baseColumn(int index) {
 }  // namespace
 
 int StackList::capacity() const {
-    return calc.s.TapeRows + 1;
+    return calc.s.window.TapeRows + 1;
 }
 
 int StackList::first() const {
-    return calc.s.StackPtr > capacity() ? calc.s.StackPtr - capacity() : 1;
+    return calc.s.stack.StackPtr > capacity() ? calc.s.stack.StackPtr - capacity() : 1;
 }
 
 std::size_t StackList::count() const {
-    return static_cast<std::size_t>(calc.s.StackPtr - std::min(first(), calc.s.StackPtr));
+    return static_cast<std::size_t>(calc.s.stack.StackPtr - std::min(first(), calc.s.stack.StackPtr));
 }
 
 std::string StackList::row(std::size_t index) const {
     const int number = element(index);
-    const ValueCell& cell = calc.s.slot(number);
+    const ValueCell& cell = calc.s.stack.slot(number);
     std::string line = std::to_string(number);
     if (cell.isTagged()) {
         const std::string_view text = cell.textView();
@@ -53,7 +53,7 @@ std::string StackList::row(std::size_t index) const {
         const int blanks = room < 0 ? 1 : room;
         return line.append(static_cast<std::size_t>(blanks), ' ').append(text);
     }
-    if (cell.tryNumber(calc.s.DecimalChar)) {
+    if (cell.tryNumber(calc.s.format.DecimalChar)) {
         return line + calc.patternText(cell, patternFor(number));
     }
     return line + " " + calc.text(cell);
@@ -86,8 +86,8 @@ void StackList::placeMarks() {
         mark.text = text;
         mark.visible = true;
     };
-    const int shift = calc.s.CompactForm ? 2 : 0;
-    const int depth = calc.s.CompactForm ? std::min(calc.s.depth(), 6) : calc.s.depth();
+    const int shift = calc.s.window.CompactForm ? 2 : 0;
+    const int depth = calc.s.window.CompactForm ? std::min(calc.s.stack.depth(), 6) : calc.s.stack.depth();
     if (depth == 1) {
         put(7 - shift, "X");
     } else if (depth >= 2 && depth <= 7) {

@@ -50,11 +50,11 @@ constexpr Constant kRootsOfPi[] = {
 };
 
 void push(Engine& calc, std::span<const Constant> constants) {
-    if (calc.s.ModifierMask >= constants.size()) {
+    if (calc.s.modifiers.ModifierMask >= constants.size()) {
         refuseModifiers(calc);
         return;
     }
-    const Constant& chosen = constants[calc.s.ModifierMask];
+    const Constant& chosen = constants[calc.s.modifiers.ModifierMask];
     pushOnX(calc, {chosen.value(), chosen.label});
 }
 

@@ -106,7 +106,7 @@ sys_days ParseDate(std::string_view text, char decimal, int thisYear) {
 }
 
 void Dates::differenceKey() {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             return Calander(DateOperation::DaysBetween);
         case kShift:
@@ -123,7 +123,7 @@ void Dates::differenceKey() {
 }
 
 void Dates::todayKey() {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             return Calander(DateOperation::Today);
         case kShift:
@@ -136,8 +136,8 @@ void Dates::todayKey() {
 }
 
 void Dates::Calander(DateOperation operation) {
-    if ((calc.s.FunctionResetMask & kResetBit) != 0) {
-        calc.s.FunctionResetMask &= ~kResetBit;
+    if ((calc.s.functions.FunctionResetMask & kResetBit) != 0) {
+        calc.s.functions.FunctionResetMask &= ~kResetBit;
         Date1.reset();
     }
     reading_ = "Date1";
@@ -151,7 +151,7 @@ void Dates::perform(DateOperation operation) {
         case DateOperation::DayOfWeek: {
             const std::chrono::weekday weekday{readX("Date1")};
             calc.display.SaveDisplay(kDateDigits);
-            calc.s.FnLabel = kWeekdays.at(weekday.c_encoding());
+            calc.s.delivery.FnLabel = kWeekdays.at(weekday.c_encoding());
             return;
         }
         case DateOperation::DaysToWeeks:
@@ -213,12 +213,12 @@ void Dates::add(double daysEach, bool weeks) {
 }
 
 sys_days Dates::readX(std::string_view which) {
-    return read(calc.text(calc.s.Xreg), which);
+    return read(calc.text(calc.s.stack.Xreg), which);
 }
 
 sys_days Dates::read(std::string_view text, std::string_view which) {
     reading_ = which;
-    return ParseDate(text, calc.s.DecimalChar, calc.platform.now().year);
+    return ParseDate(text, calc.s.format.DecimalChar, calc.platform.now().year);
 }
 
 // The text, not the number, so that the last zeros of a year stay. With operands the date is the
@@ -229,7 +229,7 @@ void Dates::ShowDate(sys_days date, int operands, std::string_view tail) {
     if (!label) {
         return;
     }
-    const std::string number = std::to_string(static_cast<unsigned>(parts.month())) + calc.s.DecimalChar +
+    const std::string number = std::to_string(static_cast<unsigned>(parts.month())) + calc.s.format.DecimalChar +
                                twoDigits(static_cast<unsigned>(parts.day())) +
                                fourDigits(static_cast<int>(parts.year()));
     *label += tail;

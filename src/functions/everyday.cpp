@@ -75,7 +75,7 @@ double MathFunctions::fractionValue(std::string_view text, char decimal) {
 }
 
 void windChillHeatIndex(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0: {
             const double felt = MathFunctions::windChill(operandBelow(calc, 1), calc.xNumber());
             calc.display.SaveDisplay(1);
@@ -100,8 +100,8 @@ Fractions::Fractions(Engine& calculator)
                          .autoDigits = false}) {}
 
 void Fractions::F2DandBF() {
-    const bool onTables = calc.s.ActiveKeypad == Keypad::Tables;
-    if (calc.s.ModifierMask == 0) {
+    const bool onTables = calc.s.modes.ActiveKeypad == Keypad::Tables;
+    if (calc.s.modifiers.ModifierMask == 0) {
         goOn([this](const Failure& /*failure*/) { refuseFraction(); }, [this] { fraction(); });
     } else if (onTables) {
         leaveNothing(calc);
@@ -111,11 +111,11 @@ void Fractions::F2DandBF() {
 }
 
 void Fractions::fraction() {
-    if (calc.s.depth() == 0 && calc.s.ActiveKeypad != Keypad::Tables) {
+    if (calc.s.stack.depth() == 0 && calc.s.modes.ActiveKeypad != Keypad::Tables) {
         resetBoard(kBoardReset);
         return;
     }
-    const double value = MathFunctions::fractionValue(calc.text(calc.s.Xreg), calc.s.DecimalChar);
+    const double value = MathFunctions::fractionValue(calc.text(calc.s.stack.Xreg), calc.s.format.DecimalChar);
     calc.display.SaveDisplay(kFractionDigits);
     replaceX(calc, {value, "dec"});
 }
@@ -133,9 +133,9 @@ void Fractions::boardFeetInput() {
 
 // A press with nothing entered clears the inputs.
 void Fractions::resetBoard(std::string_view label) {
-    calc.s.Xreg = ValueCell::zero();
+    calc.s.stack.Xreg = ValueCell::zero();
     board.press();
-    calc.s.FnLabel = label;
+    calc.s.delivery.FnLabel = label;
 }
 
 void Fractions::refuseFraction() {

@@ -117,23 +117,23 @@ double MathFunctions::gammaOf(double x) {
 
 void factorialGamma(Engine& calc) {
     const auto onFailure = [&](const Failure& failure) {
-        if (failure.number() == FailureNumber::TypeMismatch && calc.s.Xreg.isTagged()) {
+        if (failure.number() == FailureNumber::TypeMismatch && calc.s.stack.Xreg.isTagged()) {
             // A number of a base stays where it is, as with every other function.
             throw failure;
         }
         showFailure(calc, failure);
     };
     goOn(onFailure, [&] {
-        switch (calc.s.ModifierMask) {
+        switch (calc.s.modifiers.ModifierMask) {
             case 0:
             case kShift:
-                factorial(calc, calc.s.ModifierMask == kShift);
+                factorial(calc, calc.s.modifiers.ModifierMask == kShift);
                 break;
             case kCtrl:
                 gamma(calc);
                 break;
             default:
-                calc.s.FnLabel.clear();
+                calc.s.delivery.FnLabel.clear();
                 refuseModifiers(calc);
         }
     });

@@ -65,7 +65,7 @@ double hoursMinutesSeconds(const Hours& hours) {
 void deliverHms(Engine& calc, int operands, double decimal, const char* label) {
     const double value = MathFunctions::HmsConvert(decimal, false);
     calc.display.SaveDisplay(kHmsDigits);
-    calc.s.DmsDisplay = true;
+    calc.s.delivery.DmsDisplay = true;
     replaceOperands(calc, operands, {value, label});
 }
 
@@ -78,7 +78,7 @@ double MathFunctions::HmsConvert(double value, bool toDecimal) {
 }
 
 void hoursMinutes(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             replaceX(calc, {MathFunctions::HmsConvert(calc.xNumber(), true), "h.ddd"});
             break;

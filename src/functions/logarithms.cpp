@@ -23,7 +23,7 @@ double expLessOne(double x) {
 }  // namespace
 
 void powers(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             replaceOperands(calc, 2, {power(operandBelow(calc, 1), calc.xNumber()), "y^x"});
             break;
@@ -42,7 +42,7 @@ void powers(Engine& calc) {
 }
 
 void naturalLogarithm(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0: {
             const double x = calc.xNumber();
             if (x < 0.0) {
@@ -62,7 +62,7 @@ void naturalLogarithm(Engine& calc) {
 }
 
 void logarithmOfOnePlus(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0: {
             const double x = calc.xNumber();
             if (x + 1.0 <= 0.0) {
@@ -82,7 +82,7 @@ void logarithmOfOnePlus(Engine& calc) {
 }
 
 void commonLogarithm(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0: {
             const double x = calc.xNumber();
             if (x < 0.0) {

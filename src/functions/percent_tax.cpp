@@ -22,7 +22,7 @@ constexpr std::string_view kRateLabel = "Rate(%)";
 // The rate is a single; its decimal digits are what the user entered.
 double rate(const Engine& calc) {
     constexpr int kDigitsOfSingle = 5;
-    return roundHalfEven(static_cast<double>(calc.s.TaxRate), kDigitsOfSingle);
+    return roundHalfEven(static_cast<double>(calc.s.functions.TaxRate), kDigitsOfSingle);
 }
 
 void plusAndMinus(Engine& calc) {
@@ -39,7 +39,7 @@ void taxAndTotal(Engine& calc) {
     // The tax stands on the tape only; the total takes the place of the subtotal.
     pushAtOnce(calc, {tax, "tax"}, true);
     replaceOperands(calc, 2, {total, "Total"});
-    calc.s.LastX = tax;
+    calc.s.stack.LastX = tax;
 }
 
 void changeRate(Engine& calc) {
@@ -47,7 +47,7 @@ void changeRate(Engine& calc) {
     const double wanted = roundHalfEven(calc.xNumber(), kMoneyDigits);
     if (calc.xNumber() >= kTooMuch) {
         calc.message(BoxKind::Stop, "Error!", "Tax Rate must be less than 100!");
-        calc.s.FnLabel = "Error!";
+        calc.s.delivery.FnLabel = "Error!";
         return;
     }
     constexpr int kOptionsRecord = 2;
@@ -62,14 +62,14 @@ void changeRate(Engine& calc) {
     SettingsRecord record = settings.read(kOptionsRecord);
     record.setTextB(kRateColumn, kRateWidth, text);
     settings.write(kOptionsRecord, record);
-    calc.s.TaxRate = static_cast<float>(wanted);
-    calc.s.FnLabel = kRateLabel;
+    calc.s.functions.TaxRate = static_cast<float>(wanted);
+    calc.s.delivery.FnLabel = kRateLabel;
 }
 
 }  // namespace
 
 void percent(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0: {
             const double part = checked(operandBelow(calc, 1) * calc.xNumber()) / 100.0;
             calc.display.SaveDisplay(kPercentDigits);
@@ -92,7 +92,7 @@ void percent(Engine& calc) {
 }
 
 void salesTax(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             taxAndTotal(calc);
             break;

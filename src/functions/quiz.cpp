@@ -62,7 +62,7 @@ std::vector<Control*> disturbing(MainForm& form) {
 }  // namespace
 
 void Quiz::quizKey() {
-    const std::uint8_t mask = calc.s.ModifierMask;
+    const std::uint8_t mask = calc.s.modifiers.ModifierMask;
     if (!running_) {
         return mask <= kShift ? start(mask == 0 ? kAdd : kSubtract) : refuseModifiers(calc);
     }
@@ -76,7 +76,7 @@ void Quiz::quizKey() {
 }
 
 void Quiz::productKey() {
-    const std::uint8_t mask = calc.s.ModifierMask;
+    const std::uint8_t mask = calc.s.modifiers.ModifierMask;
     if (running_) {
         ignore();
     } else if (mask <= kShift) {
@@ -88,12 +88,12 @@ void Quiz::productKey() {
 
 // X stays what it is.
 void Quiz::ignore() {
-    calc.s.KeepX = calc.s.Xreg;
+    calc.s.stack.KeepX = calc.s.stack.Xreg;
     leaveNothing(calc);
 }
 
 void Quiz::start(int operation) {
-    calc.s.FunctionResetMask &= ~kResetBit;
+    calc.s.functions.FunctionResetMask &= ~kResetBit;
     QuizAsked = 0;
     QuizRight = 0;
     QuizWrong = 0;
@@ -101,17 +101,17 @@ void Quiz::start(int operation) {
     QuizOp = operation + kAwaitsMaximum;
     dressKey("max", operation == kDivide ? "Enter Max. answer [Click]" : "Enter Max. number used [Click]");
     calc.form.lblName.text = textsOf(operation).name;
-    ownTop_ = calc.s.StackPtr;
+    ownTop_ = calc.s.stack.StackPtr;
     ignore();
 }
 
 void Quiz::takeOver() {
     EngineState& s = calc.s;
     running_ = true;
-    s.QuizMode = true;
-    keptNoKeyPaint_ = std::exchange(s.NoKeyPaint, true);
-    keptMode_ = s.Mode;
-    keptDigits_ = s.DisplayDigits;
+    s.modes.QuizMode = true;
+    keptNoKeyPaint_ = std::exchange(s.modifiers.NoKeyPaint, true);
+    keptMode_ = s.format.Mode;
+    keptDigits_ = s.format.DisplayDigits;
     calc.display.useFormat(DisplayMode::Fixed, 0);
     kept_.clear();
     for (Control* control : disturbing(calc.form)) {
@@ -134,7 +134,7 @@ void Quiz::dressKey(std::string_view caption, std::string_view tip) {
 
 // Without a number of its own a press would take the problem for the answer.
 void Quiz::takeNumber() {
-    if (calc.s.StackPtr <= ownTop_) {
+    if (calc.s.stack.StackPtr <= ownTop_) {
         ignore();
     } else if (QuizOp > kAwaitsMaximum) {
         takeMaximum();
@@ -145,7 +145,7 @@ void Quiz::takeNumber() {
 
 void Quiz::takeMaximum() {
     const double wanted = calc.xNumber();
-    calc.s.StackPtr = ownTop_;
+    calc.s.stack.StackPtr = ownTop_;
     if (wanted < 1.0 || wanted > kLargestMaximum) {
         calc.message(BoxKind::Plain, "Error!", "Number must be between 1 and 99!");
         ignore();
@@ -185,15 +185,15 @@ void Quiz::makeProblem() {
 
 void Quiz::poseProblem() {
     // Rounded to whole numbers the two would be one, and a wrong one.
-    calc.s.ShowRawOnce = true;
+    calc.s.delivery.ShowRawOnce = true;
     pushOnX(calc, {bothNumbers(QuizA, QuizB), QuizText});
-    ownTop_ = calc.s.StackPtr + 1;
+    ownTop_ = calc.s.stack.StackPtr + 1;
 }
 
 void Quiz::takeAnswer() {
     const double answer = calc.xNumber();
     const bool right = answer == QuizAnswer;
-    calc.s.StackPtr = ownTop_;
+    calc.s.stack.StackPtr = ownTop_;
     ++QuizAsked;
     ++(right ? QuizRight : QuizWrong);
     pushAtOnce(calc, {answer, right ? "You are right!" : "Try again"}, true);
@@ -216,14 +216,14 @@ void Quiz::sayScore() {
 
 void Quiz::stop() {
     const bool problemStood = QuizOp < kAwaitsMaximum;
-    calc.s.StackPtr = ownTop_;
+    calc.s.stack.StackPtr = ownTop_;
     end();
     if (problemStood) {
         pushOnX(calc, {static_cast<double>(QuizRight), "Correct!"});
     } else {
         // A maximum that was typed counts no more; X is the stack's again.
-        calc.s.Xreg = cellBelow(calc, 0);
-        calc.s.Yreg = cellBelow(calc, 1);
+        calc.s.stack.Xreg = cellBelow(calc, 0);
+        calc.s.stack.Yreg = cellBelow(calc, 1);
         ignore();
     }
 }
@@ -233,14 +233,14 @@ void Quiz::end() {
         return;
     }
     EngineState& s = calc.s;
-    s.QuizMode = false;
-    s.ModifierMask = 0;
+    s.modes.QuizMode = false;
+    s.modifiers.ModifierMask = 0;
     for (const Kept& before : kept_) {
         before.control->visible = before.visible;
         before.control->enabled = before.enabled;
     }
     kept_.clear();
-    s.NoKeyPaint = keptNoKeyPaint_;
+    s.modifiers.NoKeyPaint = keptNoKeyPaint_;
     calc.form.lblName.text.clear();
     calc.display.useFormat(keptMode_, keptDigits_);
     calc.keypads().ShowKeypad(Keypad::Standard);

@@ -7,19 +7,19 @@
 namespace tallyforge {
 
 void reciprocal(Engine& calc) {
-    calc.s.FnLabel = "1/X";
-    calc.s.Xreg = quotient(1.0, calc.xNumber());
+    calc.s.delivery.FnLabel = "1/X";
+    calc.s.stack.Xreg = quotient(1.0, calc.xNumber());
 }
 
 void square(Engine& calc) {
-    calc.s.FnLabel = "Xý"_t;
+    calc.s.delivery.FnLabel = "Xý"_t;
     const double x = calc.xNumber();
-    calc.s.Xreg = checked(x * x);
+    calc.s.stack.Xreg = checked(x * x);
 }
 
 void squareRoot(Engine& calc) {
-    calc.s.FnLabel = "ûx"_t;
-    calc.s.Xreg = rootOf(calc.xNumber());
+    calc.s.delivery.FnLabel = "ûx"_t;
+    calc.s.stack.Xreg = rootOf(calc.xNumber());
 }
 
 }  // namespace tallyforge

@@ -32,7 +32,7 @@ double MathFunctions::Ceiling(double x) {
 }
 
 void rounding(Engine& calc) {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             replaceOperands(calc, 2, {roundAt(operandBelow(calc, 1), calc.xNumber()), "Rnd"});
             break;

@@ -57,7 +57,7 @@ constexpr std::array<Quantity, 8> kQuantities{
 }  // namespace
 
 void solid(Engine& calc) {
-    const Quantity& chosen = kQuantities.at(calc.s.ModifierMask);
+    const Quantity& chosen = kQuantities.at(calc.s.modifiers.ModifierMask);
     Sizes sizes{.x = calc.xNumber()};
     if (chosen.operands > 1) {
         sizes.radius = operandBelow(calc, 1) / 2.0;

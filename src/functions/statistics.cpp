@@ -22,13 +22,13 @@ constexpr std::uint32_t kResetBit = 0x2000000;
 
 void Statistics::key() {
     EngineState& s = calc.s;
-    if ((s.FunctionResetMask & kResetBit) != 0) {
-        s.FunctionResetMask &= ~kResetBit;
+    if ((s.functions.FunctionResetMask & kResetBit) != 0) {
+        s.functions.FunctionResetMask &= ~kResetBit;
         clear();
         pressed_ = false;
     }
     const Sums& sums = Stats;
-    switch (s.ModifierMask) {
+    switch (s.modifiers.ModifierMask) {
         case kShift:
             show(sums.StatSumY, "äy"_t, sums.StatSumX, "äx"_t);
             break;
@@ -50,13 +50,13 @@ void Statistics::key() {
             clear();
             pushOnX(calc, {ValueCell::zero(), "Reset ä"_t});
             // The next entry takes the place of this 0.
-            entrySlot_ = s.StackPtr;
+            entrySlot_ = s.stack.StackPtr;
             break;
         default:
             return enter(1.0);
     }
     pressed_ = true;
-    s.LowestStackPtr = s.StackPtr + 1;
+    s.stack.LowestStackPtr = s.stack.StackPtr + 1;
 }
 
 // Before the first press nobody knows what stood on the stack already: a typed number under X is
@@ -64,9 +64,9 @@ void Statistics::key() {
 bool Statistics::yIsPartOfEntry() const {
     const EngineState& s = calc.s;
     if (!pressed_) {
-        return s.depth() >= 2 && cellBelow(calc, 1).isText();
+        return s.stack.depth() >= 2 && cellBelow(calc, 1).isText();
     }
-    return s.StackPtr - s.LowestStackPtr >= 2;
+    return s.stack.StackPtr - s.stack.LowestStackPtr >= 2;
 }
 
 void Statistics::enter(double sign) {
@@ -83,18 +83,18 @@ void Statistics::enter(double sign) {
     next.StatSumXY = checked(next.StatSumXY + sign * x * y);
     Stats = next;
 
-    s.StackPtr = std::max(s.StackPtr - (pair ? 2 : 1), 1);
-    if (entrySlot_ > 0 && entrySlot_ == s.StackPtr - 1) {
-        s.StackPtr = entrySlot_;
+    s.stack.StackPtr = std::max(s.stack.StackPtr - (pair ? 2 : 1), 1);
+    if (entrySlot_ > 0 && entrySlot_ == s.stack.StackPtr - 1) {
+        s.stack.StackPtr = entrySlot_;
     }
-    entrySlot_ = s.StackPtr;
+    entrySlot_ = s.stack.StackPtr;
     pressed_ = true;
-    s.LowestStackPtr = s.StackPtr + 1;
+    s.stack.LowestStackPtr = s.stack.StackPtr + 1;
     std::string label{sign > 0.0 ? "ä+("_t : "ä-("_t};
     label += NumberDisplay::shownNumber(Stats.StatCount,
-                                        {.mode = DisplayMode::Fixed, .digits = 0, .decimal = s.DecimalChar}, 0) +
+                                        {.mode = DisplayMode::Fixed, .digits = 0, .decimal = s.format.DecimalChar}, 0) +
              ")";
-    pushOnX(calc, {s.Xreg, label});
+    pushOnX(calc, {s.stack.Xreg, label});
 }
 
 void Statistics::show(double ofY, std::string_view labelY, double ofX, std::string_view labelX) {

@@ -67,20 +67,20 @@ Triangles::Triangles(Engine& calculator)
     : calc(calculator), right(calculator, kRightShape), general(calculator, kGeneralShape) {}
 
 double Triangles::angleShown(double radians) const {
-    return fromRadians(radians, calc.s.Angle);
+    return fromRadians(radians, calc.s.format.Angle);
 }
 
 void Triangles::RightTriangle(int key) {
-    const std::uint8_t name = inputName(key - kFirstRightKey, calc.s.ModifierMask);
+    const std::uint8_t name = inputName(key - kFirstRightKey, calc.s.modifiers.ModifierMask);
     const std::uint8_t bit = bitOf(kRightInputs, name);
     switch (right.press(name)) {
         case MultiInput::Outcome::Reset:
-            calc.s.RightTriangleHasAngle = false;
+            calc.s.functions.RightTriangleHasAngle = false;
             break;
         case MultiInput::Outcome::Stored:
             if ((bit & kRightAngles) != 0) {
-                right.revise(bit, toRadians(calc.xNumber(), calc.s.Angle));
-                calc.s.RightTriangleHasAngle = true;
+                right.revise(bit, toRadians(calc.xNumber(), calc.s.format.Angle));
+                calc.s.functions.RightTriangleHasAngle = true;
             }
             if (determinesRightTriangle(right.received())) {
                 solveRight(bit);
@@ -102,7 +102,7 @@ void Triangles::solveRight(std::uint8_t last) {
         area = checked(t.x / 2.0 * t.y);
     } catch (const Failure&) {
         right.takeBack(last);
-        calc.s.RightTriangleHasAngle = (right.received() & kRightAngles) != 0;
+        calc.s.functions.RightTriangleHasAngle = (right.received() & kRightAngles) != 0;
         throw;
     }
     struct Quantity {
@@ -122,18 +122,18 @@ void Triangles::solveRight(std::uint8_t last) {
             findings.push_back({.value = quantity.value, .label = std::string(quantity.label)});
         }
     }
-    calc.s.RightTriangleHasAngle = false;
+    calc.s.functions.RightTriangleHasAngle = false;
     deliver(right, findings);
 }
 
 void Triangles::Triangle(int key) {
-    const std::uint8_t name = inputName(sideNumber(key), calc.s.ModifierMask);
+    const std::uint8_t name = inputName(sideNumber(key), calc.s.modifiers.ModifierMask);
     if (general.press(name) != MultiInput::Outcome::Stored) {
         return;
     }
     const std::uint8_t bit = bitOf(kGeneralInputs, name);
     if ((bit & kGeneralAngles) != 0) {
-        general.revise(bit, toRadians(calc.xNumber(), calc.s.Angle));
+        general.revise(bit, toRadians(calc.xNumber(), calc.s.format.Angle));
     }
     if (std::popcount(general.received()) == kInputsOfATriangle) {
         solveGeneral(bit);
@@ -171,7 +171,7 @@ void Triangles::solveGeneral(std::uint8_t last) {
 // takes its place on the stack.
 void Triangles::deliver(MultiInput& set, const std::vector<Finding>& findings) {
     set.complete();
-    calc.s.ValueInXreg = true;
+    calc.s.delivery.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
     replaceX(calc, {findings.front().value, findings.front().label});
     for (std::size_t i = 1; i < findings.size(); ++i) {

@@ -54,19 +54,19 @@ constexpr double kRefused = 1.0;
 // The refused number stays on the stack, under a 0 that says so.
 void refuse(Engine& calc, std::string_view title) {
     calc.message(BoxKind::Stop, title, "Number outside of range: ± 1"_t);
-    calc.s.Xnum = kRefused;
+    calc.s.stack.Xnum = kRefused;
     pushOnX(calc, {ValueCell::zero(), "Error"});
 }
 
 void circular(Engine& calc, const CircularKey& key) {
-    const AngleMode mode = calc.s.Angle;
-    switch (calc.s.ModifierMask) {
+    const AngleMode mode = calc.s.format.Angle;
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             replaceX(calc, {key.function(toRadians(calc.xNumber(), mode)), key.label});
             break;
         case kShift: {
             const double x = calc.xNumber();
-            calc.s.Xnum = 0.0;
+            calc.s.stack.Xnum = 0.0;
             if (const auto angle = key.inverse(x)) {
                 replaceX(calc, {fromRadians(*angle, mode), ofUnit(key.inverseLabels, mode)});
             } else {
@@ -94,9 +94,9 @@ constexpr ReciprocalKey kCosecant{
     .head = "Csc(", .units = {"ø"_t, "rad", "Grad"}, .function = MathFunctions::Csc, .inverse = MathFunctions::ArcCsc};
 
 void reciprocalCircular(Engine& calc, const ReciprocalKey& key) {
-    const AngleMode mode = calc.s.Angle;
+    const AngleMode mode = calc.s.format.Angle;
     const std::string unit{ofUnit(key.units, mode)};
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0: {
             const std::string label = std::string(key.head) + unit + ")";
             replaceX(calc, {key.function(toRadians(calc.xNumber(), mode)), label});
@@ -118,11 +118,11 @@ struct MaskedFunction {
 
 template <std::size_t Count>
 void byMask(Engine& calc, const std::array<MaskedFunction, Count>& functions) {
-    if (calc.s.ModifierMask >= Count) {
+    if (calc.s.modifiers.ModifierMask >= Count) {
         refuseModifiers(calc);
         return;
     }
-    const MaskedFunction& chosen = functions.at(calc.s.ModifierMask);
+    const MaskedFunction& chosen = functions.at(calc.s.modifiers.ModifierMask);
     replaceX(calc, {chosen.function(calc.xNumber()), chosen.label});
 }
 
@@ -192,8 +192,8 @@ void convertAngle(Engine& calc) {
 }
 
 void polarRectangular(Engine& calc) {
-    const AngleMode mode = calc.s.Angle;
-    switch (calc.s.ModifierMask) {
+    const AngleMode mode = calc.s.format.Angle;
+    switch (calc.s.modifiers.ModifierMask) {
         case 0: {
             const auto point = MathFunctions::PolarToRect(calc.xNumber(), operandBelow(calc, 1), mode);
             replaceWithPair(calc, 2, {point.jy, "P>R(jy)"}, {point.x, "P>R(x)"}, true);

@@ -45,26 +45,26 @@ void ArithmeticKeys::cmdMath_Click(int index) {
         return;
     }
     s.CurrentProc = "cmdMath";
-    s.LastX = s.Xreg;
+    s.stack.LastX = s.stack.Xreg;
     const Operands operands = choose(index);
     const bool tagged = operands.valid && (operands.left->isTagged() || operands.right->isTagged());
     if (!operands.valid || (tagged && bases == nullptr)) {
         abandon();
         return;
     }
-    const bool intoRegister = s.ModifierMask == kCtrl;
-    s.FnLabel = s.ModifierMask == kAlt ? "m" : "";
-    s.FnLabel += kOperators.at(static_cast<std::size_t>(index));
+    const bool intoRegister = s.modifiers.ModifierMask == kCtrl;
+    s.delivery.FnLabel = s.modifiers.ModifierMask == kAlt ? "m" : "";
+    s.delivery.FnLabel += kOperators.at(static_cast<std::size_t>(index));
     const std::optional<FailureNumber> failed = compute(index, operands);
     const bool noNumber = failed == FailureNumber::TypeMismatch;
     if (noNumber || (tagged && failed && *failed != FailureNumber::DivisionByZero)) {
         // What cannot be computed with stays where it is, X as last x.
-        const ValueCell operand = s.LastX;
+        const ValueCell operand = s.stack.LastX;
         const bool emptiesX = *failed == FailureNumber::SubtrahendGreater && !intoRegister;
         abandon();
-        s.LastX = operand;
+        s.stack.LastX = operand;
         if (emptiesX) {
-            s.Xreg = "";
+            s.stack.Xreg = "";
         }
         calc.commit.ShowSmallRegs();
         return;
@@ -77,26 +77,26 @@ void ArithmeticKeys::cmdMath_Click(int index) {
         abandon();
         return;
     }
-    if (s.ModifierMask == 0) {
+    if (s.modifiers.ModifierMask == 0) {
         calc.commit.lowerStack(2);
     }
     calc.ClearOptKeys();
-    s.ValueInXreg = true;
+    s.delivery.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
 }
 
 ArithmeticKeys::Operands ArithmeticKeys::choose(int index) {
     EngineState& s = calc.s;
-    const ValueCell& x = s.Xreg;
-    switch (s.ModifierMask) {
+    const ValueCell& x = s.stack.Xreg;
+    switch (s.modifiers.ModifierMask) {
         case 0:
-            return {.valid = true, .left = &s.slot(s.StackPtr - 2), .right = &x};
+            return {.valid = true, .left = &s.stack.slot(s.stack.StackPtr - 2), .right = &x};
         case kCtrl:
-            s.RegistersUsed = true;
-            return {.valid = true, .left = &s.Registers.at(kArithmeticRegister), .right = &x};
+            s.memory.RegistersUsed = true;
+            return {.valid = true, .left = &s.memory.Registers.at(kArithmeticRegister), .right = &x};
         case kAlt: {
-            s.RegistersUsed = true;
-            const ValueCell& constant = s.Registers.at(kConstantRegister);
+            s.memory.RegistersUsed = true;
+            const ValueCell& constant = s.memory.Registers.at(kConstantRegister);
             const bool constantIsLeft = index == kMultiply || index == kAdd;
             return {.valid = true, .left = constantIsLeft ? &constant : &x, .right = constantIsLeft ? &x : &constant};
         }
@@ -121,8 +121,8 @@ std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& 
     };
     const bool tagged = operands.left->isTagged() || operands.right->isTagged();
     goOn(onFailure, [&] {
-        s.Xreg = tagged ? bases->compute(index, ValueCell(*operands.left), ValueCell(*operands.right))
-                        : ValueCell{apply(index, calc.number(*operands.left), calc.number(*operands.right))};
+        s.stack.Xreg = tagged ? bases->compute(index, ValueCell(*operands.left), ValueCell(*operands.right))
+                              : ValueCell{apply(index, calc.number(*operands.left), calc.number(*operands.right))};
     });
     return failed;
 }
@@ -130,21 +130,21 @@ std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& 
 // X and the stack stay as they were, no line is written.
 void ArithmeticKeys::abandon() {
     EngineState& s = calc.s;
-    s.Xreg = s.LastX;
-    s.LastX = s.slot(s.StackPtr - 2);
-    if (s.LastX.isEmpty()) {
-        s.LastX = ValueCell::zero();
+    s.stack.Xreg = s.stack.LastX;
+    s.stack.LastX = s.stack.slot(s.stack.StackPtr - 2);
+    if (s.stack.LastX.isEmpty()) {
+        s.stack.LastX = ValueCell::zero();
     }
-    s.FnLabel.clear();
+    s.delivery.FnLabel.clear();
     calc.stackList.refresh();
     calc.commit.ShowSmallRegs();
-    s.ValueInXreg = false;
+    s.delivery.ValueInXreg = false;
     calc.ClearOptKeys();
 }
 
 void ArithmeticKeys::storeRegisterOne() {
-    calc.s.Registers.at(kArithmeticRegister) = calc.s.Xreg;
-    calc.form.txtReg_m.front().text = calc.patternText(calc.s.Xreg, kFieldPattern);
+    calc.s.memory.Registers.at(kArithmeticRegister) = calc.s.stack.Xreg;
+    calc.form.txtReg_m.front().text = calc.patternText(calc.s.stack.Xreg, kFieldPattern);
 }
 
 }  // namespace tallyforge

@@ -18,16 +18,16 @@ constexpr int kPercentKey = 4;
 }  // namespace
 
 const KeyRow& Dispatch::row(int index) const {
-    return keypadTable(calc.s.ActiveKeypad).rows.at(static_cast<std::size_t>(index));
+    return keypadTable(calc.s.modes.ActiveKeypad).rows.at(static_cast<std::size_t>(index));
 }
 
 // A short cut of the keyboard borrows a keypad for one key; that key is no register key.
 bool Dispatch::takenByMode(int index) {
     const EngineState& s = calc.s;
-    if (s.ProgramMode) {
+    if (s.modes.ProgramMode) {
         return !programKey || programKey(index);
     }
-    if (s.MemoryArrayMode && s.ActiveKeypad == Keypad::MemoryArray) {
+    if (s.modes.MemoryArrayMode && s.modes.ActiveKeypad == Keypad::MemoryArray) {
         if (registerKey) {
             registerKey(index);
         }
@@ -39,14 +39,14 @@ bool Dispatch::takenByMode(int index) {
 void Dispatch::cmdFunctions_Click(int index) {
     EngineState& s = calc.s;
     const bool inertInQuiz = subjects.quiz.running() && index != Quiz::kKey;
-    if (inertInQuiz || s.ActiveKeypad == Keypad::LetterDrill) {
+    if (inertInQuiz || s.modes.ActiveKeypad == Keypad::LetterDrill) {
         calc.focusEntry();
         return;
     }
     if (takenByMode(index)) {
         return;
     }
-    const bool foreign = s.ActiveKeypad == Keypad::Percent && index != kPercentKey;
+    const bool foreign = s.modes.ActiveKeypad == Keypad::Percent && index != kPercentKey;
     const KeyRow& key = row(index);
     if (key.types.plain != '\0' && !foreign) {
         typeWith(key);
@@ -65,12 +65,12 @@ void Dispatch::press(const KeyRow& key) {
         if (bringXUpToDate(key)) {
             key.does(subjects);
         } else {
-            s.KeepX = std::exchange(s.Xreg, kNothingDone);
+            s.stack.KeepX = std::exchange(s.stack.Xreg, kNothingDone);
         }
     });
     leaveKey();
-    s.EntryTouched = false;
-    if (s.Xreg.textView() == kNoMeaning || s.Xreg.textView() == kNothingDone) {
+    s.entry.EntryTouched = false;
+    if (s.stack.Xreg.textView() == kNoMeaning || s.stack.Xreg.textView() == kNothingDone) {
         leaveNothing(key.key);
     } else {
         commitResult();
@@ -89,7 +89,7 @@ void Dispatch::nameProcedure() {
 
 // A number that is still typed stays open for its next digit, whatever the modifier.
 void Dispatch::typeWith(const KeyRow& key) {
-    const std::uint8_t mask = calc.s.ModifierMask;
+    const std::uint8_t mask = calc.s.modifiers.ModifierMask;
     const char character = mask == 0 ? key.types.plain : mask == kShift ? key.types.shift : '\0';
     nameProcedure();
     leaveKey();
@@ -104,9 +104,9 @@ void Dispatch::typeWith(const KeyRow& key) {
 // Returns whether there is an operand to work on.
 bool Dispatch::bringXUpToDate(const KeyRow& key) {
     EngineState& s = calc.s;
-    s.SkipCommitTail = key.silentOperand && s.EntryOpen;
+    s.delivery.SkipCommitTail = key.silentOperand && s.entry.EntryOpen;
     const bool fetched = calc.commit.FetchX();
-    s.SkipCommitTail = false;
+    s.delivery.SkipCommitTail = false;
     if (!fetched) {
         return false;
     }
@@ -114,31 +114,31 @@ bool Dispatch::bringXUpToDate(const KeyRow& key) {
         // The commit has put its own name there; messages of a program carry the program's.
         nameProcedure();
     }
-    s.LastX = s.Xreg;
-    s.Xnum = s.Xreg.isTagged() ? 0.0 : calc.xNumber();
+    s.stack.LastX = s.stack.Xreg;
+    s.stack.Xnum = s.stack.Xreg.isTagged() ? 0.0 : calc.xNumber();
     return true;
 }
 
 void Dispatch::onFailure(const Failure& failure, int index) {
     EngineState& s = calc.s;
-    if (failure.number() == FailureNumber::TypeMismatch && s.Xreg.isTagged()) {
+    if (failure.number() == FailureNumber::TypeMismatch && s.stack.Xreg.isTagged()) {
         // A number of a base where a plain one is wanted: it stays on the stack, nothing is said.
-        s.Xnum = 0.0;
-        s.Xreg = kNothingDone;
+        s.stack.Xnum = 0.0;
+        s.stack.Xreg = kNothingDone;
         return;
     }
     if (failure.number() == FailureNumber::ModifierNotValid) {
-        s.Xreg = kNoMeaning;
+        s.stack.Xreg = kNoMeaning;
         return;
     }
     showMessage(failure.number(), index);
     if (failure.number() == FailureNumber::BaseRange) {
         // More bits than a word has: the number stays for another try.
-        s.KeepX = std::exchange(s.Xreg, kNothingDone);
+        s.stack.KeepX = std::exchange(s.stack.Xreg, kNothingDone);
         return;
     }
-    s.Xreg = ValueCell::zero();
-    s.FnLabel = "No Data!";
+    s.stack.Xreg = ValueCell::zero();
+    s.delivery.FnLabel = "No Data!";
 }
 
 void Dispatch::showMessage(FailureNumber number, int index) {
@@ -149,28 +149,28 @@ void Dispatch::showMessage(FailureNumber number, int index) {
 void Dispatch::leaveKey() {
     EngineState& s = calc.s;
     calc.ClearOptKeys();
-    if (!s.QuizMode) {
+    if (!s.modes.QuizMode) {
         calc.form.setFocus(calc.form.cmdEnter);
-        if (s.ActiveKeypad != Keypad::Convert && s.ActiveKeypad != Keypad::Percent) {
+        if (s.modes.ActiveKeypad != Keypad::Convert && s.modes.ActiveKeypad != Keypad::Percent) {
             model.repaint();
         }
     }
-    s.CtrlHeld = false;
-    s.ShiftCtrlHeld = false;
+    s.modifiers.CtrlHeld = false;
+    s.modifiers.ShiftCtrlHeld = false;
 }
 
 void Dispatch::leaveNothing(int index) {
     EngineState& s = calc.s;
     calc.setEntry({});
-    s.ValueInXreg = false;
-    s.EntryOpen = false;
-    s.EexActive = false;
-    s.FnLabel.clear();
-    if (s.Xreg.textView() == kNoMeaning) {
+    s.delivery.ValueInXreg = false;
+    s.entry.EntryOpen = false;
+    s.entry.EexActive = false;
+    s.delivery.FnLabel.clear();
+    if (s.stack.Xreg.textView() == kNoMeaning) {
         showMessage(FailureNumber::ModifierNotValid, index);
     }
-    const ValueCell kept = std::exchange(s.KeepX, ValueCell{});
-    s.Xreg = kept.isEmpty() ? ValueCell{""} : kept;
+    const ValueCell kept = std::exchange(s.stack.KeepX, ValueCell{});
+    s.stack.Xreg = kept.isEmpty() ? ValueCell{""} : kept;
     calc.stackList.refresh();
     calc.commit.ShowSmallRegs();
     calc.focusEntry();
@@ -178,13 +178,13 @@ void Dispatch::leaveNothing(int index) {
 
 void Dispatch::commitResult() {
     EngineState& s = calc.s;
-    if (s.KeepEntryText || s.SkipCommitTail) {
-        calc.setEntry(calc.text(s.Xreg));
+    if (s.delivery.KeepEntryText || s.delivery.SkipCommitTail) {
+        calc.setEntry(calc.text(s.stack.Xreg));
     }
     // Not by way of the text, which has fewer digits than the number.
-    s.ValueInXreg = true;
+    s.delivery.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
-    if (!s.BaseMode && s.BaseSuspended != kBaseSuspended) {
+    if (!s.modes.BaseMode && s.modes.BaseSuspended != kBaseSuspended) {
         calc.display.RestoreDisplay();
     }
     calc.focusEntry();
@@ -195,7 +195,7 @@ void Dispatch::cmdFunctions_MouseDown(int index, MouseButton button, std::uint8_
         return;
     }
     const KeyRow& key = row(index);
-    if (calc.s.ProgramMode || calc.s.MemoryArrayMode) {
+    if (calc.s.modes.ProgramMode || calc.s.modes.MemoryArrayMode) {
         constexpr int kModesTopic = 650;
         calc.platform.helpTopic(kModesTopic);
     } else if (shift == 0) {

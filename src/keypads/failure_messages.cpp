@@ -17,17 +17,17 @@ constexpr int kOctalKey = 21;
 std::string failureMessage(FailureNumber number, int index, const EngineState& state) {
     switch (number) {
         case FailureNumber::InvalidArgument:
-            if (state.FnLabel == "ûx"_t) {
+            if (state.delivery.FnLabel == "ûx"_t) {
                 return "Illegal operation (square root of negitive number)!";
             }
             return index == kPowerKey ? "Illegal operation - check for negitive numbers!" : "Error number 5";
         case FailureNumber::Overflow:
             // Kept from a numbering in which key 21 of the Convert keypad was the octal key.
-            if (index == kOctalKey && state.ActiveKeypad == Keypad::Convert) {
+            if (index == kOctalKey && state.modes.ActiveKeypad == Keypad::Convert) {
                 return "Octal number outside of range: 17777777777 octal maximum";
             }
-            if (index == kBaseConversionKey && state.ActiveKeypad == Keypad::Binary && state.BaseMode) {
-                return state.Xreg.isTagged() ? "Real number required!" : "Exceeded maximum number (1.845e19)!";
+            if (index == kBaseConversionKey && state.modes.ActiveKeypad == Keypad::Binary && state.modes.BaseMode) {
+                return state.stack.Xreg.isTagged() ? "Real number required!" : "Exceeded maximum number (1.845e19)!";
             }
             return std::string(kOutOfRange);
         case FailureNumber::DivisionByZero:

@@ -49,7 +49,7 @@ bool unitsMatter(Keypad keypad) {
 KeypadModel::KeypadModel(Engine& calculator) : calc(calculator) {}
 
 void KeypadModel::show(Keypad keypad) {
-    if (calc.s.MemoryArrayMode || calc.s.ProgramMode) {
+    if (calc.s.modes.MemoryArrayMode || calc.s.modes.ProgramMode) {
         return;
     }
     lay(keypad);
@@ -59,13 +59,13 @@ void KeypadModel::show(Keypad keypad) {
 
 void KeypadModel::lay(Keypad keypad) {
     EngineState& s = calc.s;
-    s.TablesShown = false;
+    s.modes.TablesShown = false;
     calc.form.cmdF11.enabled = true;
     calc.form.cmdF12.enabled = true;
-    s.ActiveKeypad = keypad;
-    if (s.BaseMode && keypad != Keypad::Binary) {
+    s.modes.ActiveKeypad = keypad;
+    if (s.modes.BaseMode && keypad != Keypad::Binary) {
         leaveBinary();
-    } else if (!s.BaseMode && keypad == Keypad::Binary) {
+    } else if (!s.modes.BaseMode && keypad == Keypad::Binary) {
         enterBinary();
     }
     const bool convert = keypad == Keypad::Convert;
@@ -78,12 +78,12 @@ void KeypadModel::lay(Keypad keypad) {
     assign(calc.form.lblBank.text, keypadTable(keypad).name);
     paintPlain();
     tickMenu(keypad);
-    s.TablesShown = keypad == Keypad::Tables;
+    s.modes.TablesShown = keypad == Keypad::Tables;
 }
 
 void KeypadModel::paintPlain() {
-    const Keypad keypad = calc.s.ActiveKeypad;
-    calc.display.enableByteKeys(keypad != Keypad::Binary || calc.s.WordSize >= kSmallestByteWord);
+    const Keypad keypad = calc.s.modes.ActiveKeypad;
+    calc.display.enableByteKeys(keypad != Keypad::Binary || calc.s.format.WordSize >= kSmallestByteWord);
     for (const KeyRow& row : keypadTable(keypad).rows) {
         Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
         look(key, row.caption, row.tip, row.colour);
@@ -96,7 +96,7 @@ void KeypadModel::paintPlain() {
 
 void KeypadModel::enterBinary() {
     EngineState& s = calc.s;
-    s.BaseMode = true;
+    s.modes.BaseMode = true;
     calc.display.SaveDisplay(0);
     calc.display.writeDigitsCaption();
     calc.form.cmdChs.text = "Mod";
@@ -104,20 +104,21 @@ void KeypadModel::enterBinary() {
 }
 
 void KeypadModel::leaveBinary() {
-    calc.s.BaseMode = false;
+    calc.s.modes.BaseMode = false;
     calc.display.RestoreDisplay();
     calc.display.writeDigitsCaption();
 }
 
 bool KeypadModel::bankIsLent() const {
     const EngineState& s = calc.s;
-    return s.MemoryArrayMode || s.ProgramMode || s.QuizMode || s.ActiveKeypad == Keypad::LetterDrill;
+    return s.modes.MemoryArrayMode || s.modes.ProgramMode || s.modes.QuizMode ||
+           s.modes.ActiveKeypad == Keypad::LetterDrill;
 }
 
 // Looks only: a short cut lends a function of another keypad for one key, and neither the base
 // mode nor the menu may notice.
 void KeypadModel::repaint() {
-    if (calc.s.MemoryArrayMode) {
+    if (calc.s.modes.MemoryArrayMode) {
         paintRegisterNames();
     } else if (!bankIsLent()) {
         paintPlain();
@@ -126,8 +127,8 @@ void KeypadModel::repaint() {
 }
 
 void KeypadModel::paint(std::uint8_t mask) {
-    const KeypadTable& table = keypadTable(calc.s.ActiveKeypad);
-    if (calc.s.NoKeyPaint || bankIsLent() || !table.paintsUnderModifiers) {
+    const KeypadTable& table = keypadTable(calc.s.modes.ActiveKeypad);
+    if (calc.s.modifiers.NoKeyPaint || bankIsLent() || !table.paintsUnderModifiers) {
         return;
     }
     if (mask == 0) {
@@ -149,7 +150,7 @@ void KeypadModel::paint(std::uint8_t mask) {
 void KeypadModel::paintRegisterNames() {
     calc.display.enableByteKeys(true);
     for (std::size_t i = 0; i < calc.form.cmdFunctions.size(); ++i) {
-        const KeyCaption caption{calc.s.RegisterNames.at(i), Face::SmallFonts, 7.0F};
+        const KeyCaption caption{calc.s.memory.RegisterNames.at(i), Face::SmallFonts, 7.0F};
         look(calc.form.cmdFunctions.at(i), caption, " Click: recall | Shift+: save | Ctrl+: name ", KeyColour::Plain);
     }
 }
@@ -157,15 +158,15 @@ void KeypadModel::paintRegisterNames() {
 // The bank is plain already when the arrow key comes up. The Tables keypad ignores key-ups, so there
 // the flag would wait for a modifier's.
 void KeypadModel::skipNextRelease() {
-    calc.s.SkipModifierRelease = !calc.s.TablesShown;
+    calc.s.modifiers.SkipModifierRelease = !calc.s.modes.TablesShown;
 }
 
 void KeypadModel::step(int direction) {
-    if (calc.s.MemoryArrayMode) {
+    if (calc.s.modes.MemoryArrayMode) {
         return;
     }
     const auto tables = keypadTables();
-    const auto* const present = &keypadTable(calc.s.ActiveKeypad);
+    const auto* const present = &keypadTable(calc.s.modes.ActiveKeypad);
     const auto at = std::find(tables.begin(), tables.end(), present) - tables.begin();
     const auto count = static_cast<std::ptrdiff_t>(tables.size());
     show(tables[static_cast<std::size_t>((at + direction + count) % count)]->id);
@@ -191,7 +192,7 @@ void KeypadModel::remember(Keypad keypad) {
 }
 
 void KeypadModel::rotateHistory(bool back) {
-    if (history_.size() < 2 || calc.s.MemoryArrayMode) {
+    if (history_.size() < 2 || calc.s.modes.MemoryArrayMode) {
         return;
     }
     const auto pivot = back ? history_.begin() + 1 : history_.end() - 1;

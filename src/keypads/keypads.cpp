@@ -71,21 +71,21 @@ void Keypads::optKey_Click(int index) {
         calc.form.optKey.at(static_cast<std::size_t>(i)).checked = i == index;
     }
     if (index != kNone) {
-        s.ModifierMask = static_cast<std::uint8_t>(index + 1);
-        s.ModifierLatched = true;
-        model.paint(s.ModifierMask);
+        s.modifiers.ModifierMask = static_cast<std::uint8_t>(index + 1);
+        s.modifiers.ModifierLatched = true;
+        model.paint(s.modifiers.ModifierMask);
     }
-    calc.LightModifiers(s.ModifierMask);
+    calc.LightModifiers(s.modifiers.ModifierMask);
     calc.focusEntry();
 }
 
 void Keypads::PerformConvertFn() {
     EngineState& s = calc.s;
-    const Keypad shown = s.ActiveKeypad;
+    const Keypad shown = s.modes.ActiveKeypad;
     const bool bankIsLent = shown == Keypad::Program || shown == Keypad::MemoryArray;
     if (model.markedConvertKey && !bankIsLent) {
         model.lay(Keypad::Convert);
-        s.ModifierMask = 0;
+        s.modifiers.ModifierMask = 0;
         dispatch.cmdFunctions_Click(*model.markedConvertKey);
         model.lay(shown);
     }
@@ -125,7 +125,7 @@ bool Keypads::ShowTips() {
 bool Keypads::CheckBaseDigits() {
     const std::string& typed = calc.entryText();
     for (const BaseDigits& base : kBaseDigits) {
-        if (calc.s.BaseLetter != std::string_view{&base.letter, 1}) {
+        if (calc.s.entry.BaseLetter != std::string_view{&base.letter, 1}) {
             continue;
         }
         if (typed.find_first_not_of(base.digits, 1) == std::string::npos) {
@@ -142,7 +142,7 @@ void Keypads::EndQuiz() {
 }
 
 void Keypads::cmdEnter_Click() {
-    const bool nothingKeyed = calc.entryText().empty() && calc.s.ModifierMask == 0;
+    const bool nothingKeyed = calc.entryText().empty() && calc.s.modifiers.ModifierMask == 0;
     if (!keys.quiz.running()) {
         calc.commit.cmdEnter_Click();
     } else if (!nothingKeyed) {
@@ -151,7 +151,7 @@ void Keypads::cmdEnter_Click() {
 }
 
 void Keypads::ClearPartialStates() {
-    calc.s.FunctionResetMask = 0x7FFFFFFF;
+    calc.s.functions.FunctionResetMask = 0x7FFFFFFF;
 }
 
 void Keypads::ResetProgram() {

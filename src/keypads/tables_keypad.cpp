@@ -14,8 +14,8 @@ void boardFootCalculator(Keys& keys) {
     if (keys.runProgram) {
         keys.runProgram("Board feet.rec");
     }
-    keys.calc.s.KeepX = keys.calc.s.Xreg;
-    keys.calc.s.Xreg = kNothingDone;
+    keys.calc.s.stack.KeepX = keys.calc.s.stack.Xreg;
+    keys.calc.s.stack.Xreg = kNothingDone;
 }
 
 }  // namespace

@@ -92,7 +92,7 @@ const KeypadTable kTrigonometryKeypad{
          .caption = {"Ø"_t},
          .tip = " Rt. Triangle: Angle opposite X(Ø), OR Shift: Angle opposite Y "_t,
          .under = {.shift = {"F", Face::Symbol}},
-         .hidden = [](const EngineState& s) { return s.RightTriangleHasAngle; },
+         .hidden = [](const EngineState& s) { return s.functions.RightTriangleHasAngle; },
          .silentOperand = true,
          .helpTopic = 1213,
          .does = [](Keys& keys) { keys.triangles.RightTriangle(13); }},

@@ -14,7 +14,7 @@ namespace tallyforge {
 void KeyWords::DoProgramWord(const FunctionWord& word, int registerNumber) {
     if (word.direct == DirectKey::None) {
         if (word.mask != kMaskAsItStands) {
-            calc.s.ModifierMask = static_cast<std::uint8_t>(word.mask);
+            calc.s.modifiers.ModifierMask = static_cast<std::uint8_t>(word.mask);
         }
         PressProgramKey(word.keypad, word.key);
         return;
@@ -27,19 +27,19 @@ void KeyWords::DoProgramWord(const FunctionWord& word, int registerNumber) {
 
 void KeyWords::PressProgramKey(Keypad keypad, int index) {
     EngineState& s = calc.s;
-    const bool programMode = std::exchange(s.ProgramMode, false);
-    const bool quiz = std::exchange(s.QuizMode, true);
-    const Keypad active = std::exchange(s.ActiveKeypad, keypad);
+    const bool programMode = std::exchange(s.modes.ProgramMode, false);
+    const bool quiz = std::exchange(s.modes.QuizMode, true);
+    const Keypad active = std::exchange(s.modes.ActiveKeypad, keypad);
     parts.keypads.cmdFunctions_Click(index);
-    s.ActiveKeypad = active;
-    s.ProgramMode = programMode;
-    s.QuizMode = quiz;
+    s.modes.ActiveKeypad = active;
+    s.modes.ProgramMode = programMode;
+    s.modes.QuizMode = quiz;
 }
 
 void KeyWords::pressDirect(DirectKey key, int registerNumber) {
     switch (key) {
         case DirectKey::ProgramMode:
-            return calc.s.ProgramMode ? mode.ToggleProgramMode() : void();
+            return calc.s.modes.ProgramMode ? mode.ToggleProgramMode() : void();
         case DirectKey::Reset:
             return pressReset(registerNumber == 1 ? kShift : kNoModifier, registerNumber != 1);
         case DirectKey::ClearRegisters:
@@ -83,21 +83,21 @@ void KeyWords::pressDirect(DirectKey key, int registerNumber) {
 }
 
 void KeyWords::pressReset(std::uint8_t mask, bool modeComesBack) {
-    calc.s.ModifierMask = mask;
-    state.resetLatch = modeComesBack && calc.s.ProgramMode;
+    calc.s.modifiers.ModifierMask = mask;
+    state.resetLatch = modeComesBack && calc.s.modes.ProgramMode;
     parts.resetKey.cmdReset_Click();
 }
 
 void KeyWords::pressRegister(std::uint8_t mask, int registerNumber) {
     EngineState& s = calc.s;
     if (mask == kShift) {
-        if (const auto x = s.Xreg.tryNumber(s.DecimalChar); x && !s.Xreg.isEmptyText()) {
-            s.Xreg = fifteenDigits(*x);
+        if (const auto x = s.stack.Xreg.tryNumber(s.format.DecimalChar); x && !s.stack.Xreg.isEmptyText()) {
+            s.stack.Xreg = fifteenDigits(*x);
         }
     }
-    s.ModifierMask = mask;
+    s.modifiers.ModifierMask = mask;
     // An open entry, so that the number reaches the key whole.
-    s.EntryOpen = true;
+    s.entry.EntryOpen = true;
     calc.setEntry(std::to_string(registerNumber));
     parts.registers.cmdSTO_Click();
 }

@@ -47,17 +47,17 @@ std::string_view complaint(const std::string& name) {
 }  // namespace
 
 void Programs::mnuProgram_Click() {
-    calc.s.ModifierMask = 0;
+    calc.s.modifiers.ModifierMask = 0;
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     if (running()) {
         return;
     }
-    const bool atStart = std::exchange(calc.s.AutoLoadProgram, false);
-    std::string name = calc.s.DefaultProgram;
+    const bool atStart = std::exchange(calc.s.files.AutoLoadProgram, false);
+    std::string name = calc.s.files.DefaultProgram;
     if (!atStart) {
         const std::string answer = calc.platform.inputBox(
-            {.title = "Load Program", .prompt = std::string(kPrompt), .preset = calc.s.DefaultProgram});
+            {.title = "Load Program", .prompt = std::string(kPrompt), .preset = calc.s.files.DefaultProgram});
         if (answer.empty()) {
             return calc.focusEntry();
         }
@@ -76,7 +76,7 @@ void Programs::mnuProgram_Click() {
     if (!agreed(name)) {
         return calc.focusEntry();
     }
-    calc.s.DefaultProgram = name;
+    calc.s.files.DefaultProgram = name;
     loadingAtStart_ = atStart;
     load(file->parent_path(), name);
     loadingAtStart_ = false;
@@ -90,7 +90,8 @@ bool Programs::agreed(const std::string& name) {
     if (state.ProgramLoaded && !ask("Overwrite?", "This will overwrite your current program, continue?")) {
         return false;
     }
-    if (calc.s.DefaultProgram != name && ask("Replace file?", "Do you want to replace the default file with this?")) {
+    if (calc.s.files.DefaultProgram != name &&
+        ask("Replace file?", "Do you want to replace the default file with this?")) {
         rememberDefault(name);
     }
     return true;
@@ -139,9 +140,9 @@ void Programs::load(const std::filesystem::path& folder, const std::string& name
     state.ProgramLoaded = true;
     state.ProgramKeyNames.fill({});
     state.variables.forgetNames();
-    if (calc.s.MemoryArrayMode) {
+    if (calc.s.modes.MemoryArrayMode) {
         parts.registers.MemoryArray();
-    } else if (calc.s.ProgramMode) {
+    } else if (calc.s.modes.ProgramMode) {
         mode.ToggleProgramMode();
     }
     mode.ToggleProgramMode();
@@ -155,7 +156,7 @@ void Programs::readDeclarations(const ProgramText& text) {
     for (int number = 1;; ++number) {
         if (std::exchange(runInit, false)) {
             RunProgramKey(kInitKey);
-            if (state.variableMissing || !calc.s.ProgramMode) {
+            if (state.variableMissing || !calc.s.modes.ProgramMode) {
                 return;
             }
         }

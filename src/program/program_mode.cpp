@@ -47,12 +47,12 @@ int keyOfProgramLetter(int letter) {
 
 void ProgramMode::ToggleProgramMode() {
     EngineState& s = calc.s;
-    if (s.MemoryArrayMode || (!s.ProgramMode && !calc.form.cmdF11.enabled)) {
+    if (s.modes.MemoryArrayMode || (!s.modes.ProgramMode && !calc.form.cmdF11.enabled)) {
         return;
     }
-    s.ModifierLatched = false;
-    calc.form.enableKeypadMenu(s.ProgramMode);
-    if (s.ProgramMode) {
+    s.modifiers.ModifierLatched = false;
+    calc.form.enableKeypadMenu(s.modes.ProgramMode);
+    if (s.modes.ProgramMode) {
         leave();
     } else {
         enter();
@@ -61,25 +61,25 @@ void ProgramMode::ToggleProgramMode() {
 
 void ProgramMode::leave() {
     EngineState& s = calc.s;
-    s.ProgramMode = false;
+    s.modes.ProgramMode = false;
     calc.form.cmdF12.enabled = true;
-    if (s.ActiveKeypad == Keypad::Program) {
-        s.ActiveKeypad = keypadBefore_;
+    if (s.modes.ActiveKeypad == Keypad::Program) {
+        s.modes.ActiveKeypad = keypadBefore_;
     }
     for (Control& bankKey : calc.form.cmdFunctions) {
         bankKey.font.bold = false;
     }
     calc.form.lblName.text = nameBefore_;
     calc.form.lblBank.visible = true;
-    parts.keypads.ShowKeypad(s.ActiveKeypad);
+    parts.keypads.ShowKeypad(s.modes.ActiveKeypad);
     calc.form.cmdF11.tip = "Enter Program Mode";
 }
 
 void ProgramMode::enter() {
     EngineState& s = calc.s;
-    keypadBefore_ = s.ActiveKeypad;
+    keypadBefore_ = s.modes.ActiveKeypad;
     nameBefore_ = calc.form.lblName.text;
-    if (s.BaseMode) {
+    if (s.modes.BaseMode) {
         // Programs count with plain numbers; the numbers of a base come back with their keypad.
         parts.keypads.model.lay(Keypad::Standard);
     }
@@ -87,8 +87,8 @@ void ProgramMode::enter() {
     calc.form.cmdF12.enabled = false;
     calc.form.lblName.text = state.ProgramFile.empty() ? "Program Mode" : state.ProgramFile;
     calc.form.lblBank.visible = false;
-    s.ProgramMode = true;
-    s.ActiveKeypad = Keypad::Program;
+    s.modes.ProgramMode = true;
+    s.modes.ActiveKeypad = Keypad::Program;
     calc.form.cmdF11.tip = "Leave Program Mode";
     calc.form.cmdF12.tip = "Enter Memory Array";
     paintKeys();
@@ -112,7 +112,7 @@ void ProgramMode::paintKeys() {
 }
 
 void ProgramMode::RefreshProgramKeyTips() {
-    if (!calc.s.ProgramMode) {
+    if (!calc.s.modes.ProgramMode) {
         return;
     }
     for (int i = 0; i < kBankKeys; ++i) {
@@ -130,7 +130,7 @@ void ProgramMode::RefreshProgramKeyTips() {
 
 void ProgramMode::setBold(int index, bool bold) {
     state.ProgramKeyBold.at(static_cast<std::size_t>(index)) = bold;
-    if (calc.s.ProgramMode) {
+    if (calc.s.modes.ProgramMode) {
         key(index).font.bold = bold;
     }
 }
@@ -142,7 +142,7 @@ void ProgramMode::ClearKeyBold(int first, int last) {
 }
 
 int ProgramMode::keyWithCaption(std::string_view caption) const {
-    for (int i = 0; i < kBankKeys && calc.s.ProgramMode; ++i) {
+    for (int i = 0; i < kBankKeys && calc.s.modes.ProgramMode; ++i) {
         if (key(i).text == caption) {
             return i;
         }
@@ -172,13 +172,13 @@ bool ProgramMode::specialKey(std::string_view label) {
     } else {
         return false;
     }
-    calc.s.ModifierMask = 0;
+    calc.s.modifiers.ModifierMask = 0;
     calc.ClearOptKeys();
     return true;
 }
 
 void ProgramMode::openFolder(const std::filesystem::path& folder) {
-    if (calc.s.ModifierMask == 0) {
+    if (calc.s.modifiers.ModifierMask == 0) {
         std::error_code ignored;
         std::filesystem::create_directories(folder, ignored);
         calc.platform.openFolder(folder);
@@ -187,13 +187,13 @@ void ProgramMode::openFolder(const std::filesystem::path& folder) {
 
 void ProgramMode::toggleTrace(KeyColour colour) {
     state.TraceOn = !state.TraceOn;
-    if (calc.s.ProgramMode) {
+    if (calc.s.modes.ProgramMode) {
         key(kTraceKey).colour = state.TraceOn ? colour : KeyColour::Plain;
     }
 }
 
 void ProgramMode::traceKey() {
-    switch (calc.s.ModifierMask) {
+    switch (calc.s.modifiers.ModifierMask) {
         case 0:
             return toggleTrace(KeyColour::Yellow);
         case kShift:
@@ -206,7 +206,7 @@ void ProgramMode::traceKey() {
 }
 
 void ProgramMode::listVariables() {
-    calc.s.ModifierMask = 0;
+    calc.s.modifiers.ModifierMask = 0;
     for (int i = 0; i <= state.variables.ProgramVarCount; ++i) {
         listVariable(i);
     }
@@ -216,8 +216,8 @@ void ProgramMode::listVariable(int index) {
     const Variables& variables = state.variables;
     const auto at = static_cast<std::size_t>(index);
     if (at < variables.ProgramVarValues.size() && variables.ProgramVarValues[at] != 0.0) {
-        calc.s.Xreg = variables.ProgramVarValues[at];
-        calc.s.FnLabel = " " + variables.ProgramVarNames[at] + "- ";
+        calc.s.stack.Xreg = variables.ProgramVarValues[at];
+        calc.s.delivery.FnLabel = " " + variables.ProgramVarNames[at] + "- ";
         calc.commit.cmdEnter_Click();
     }
 }

@@ -130,7 +130,7 @@ void ProgramRun::runIf(const ProgramLine& line) {
 
 // An X that a key has left empty counts as 0.
 double ProgramRun::numberInX() const {
-    return calc.s.Xreg.isEmptyText() ? 0.0 : calc.xNumber();
+    return calc.s.stack.Xreg.isEmptyText() ? 0.0 : calc.xNumber();
 }
 
 void ProgramRun::executeWord(const ProgramWord& word) {
@@ -161,46 +161,46 @@ void ProgramRun::executeWord(const ProgramWord& word) {
 }
 
 void ProgramRun::pushNumber(double number) {
-    calc.s.RoundTripCheck = true;
+    calc.s.entry.RoundTripCheck = true;
     calc.commit.enterStored(number);
-    calc.s.RoundTripCheck = false;
+    calc.s.entry.RoundTripCheck = false;
     // A number of fifteen digits needs no trip; a copy of X that has more does.
-    if (const double* const x = calc.s.Xreg.asDouble(); x == nullptr || *x != number) {
+    if (const double* const x = calc.s.stack.Xreg.asDouble(); x == nullptr || *x != number) {
         roundTrip();
     }
 }
 
 void ProgramRun::pushVariable(double value) {
-    calc.s.RoundTripCheck = true;
-    calc.s.Xreg = value;
+    calc.s.entry.RoundTripCheck = true;
+    calc.s.stack.Xreg = value;
     calc.commit.cmdEnter_Click();
-    calc.s.RoundTripCheck = false;
+    calc.s.entry.RoundTripCheck = false;
 }
 
 // A number of a base stays one.
 void ProgramRun::pushCopy(const ValueCell& cell) {
-    if (const auto number = cell.tryNumber(calc.s.DecimalChar); number && !cell.isEmptyText()) {
+    if (const auto number = cell.tryNumber(calc.s.format.DecimalChar); number && !cell.isEmptyText()) {
         pushNumber(fifteenDigits(*number));
     } else if (cell.isEmpty() || cell.isEmptyText()) {
         pushVariable(0.0);
     } else {
-        calc.s.LastX = std::exchange(calc.s.Xreg, ValueCell(cell));
-        calc.s.EntryOpen = true;
-        calc.s.ValueInXreg = true;
+        calc.s.stack.LastX = std::exchange(calc.s.stack.Xreg, ValueCell(cell));
+        calc.s.entry.EntryOpen = true;
+        calc.s.delivery.ValueInXreg = true;
         calc.commit.cmdEnter_Click();
     }
 }
 
 void ProgramRun::pressFunction(const FunctionWord& word, int registerNumber) {
-    calc.s.RoundTripCheck = true;
+    calc.s.entry.RoundTripCheck = true;
     tools.keys.DoProgramWord(word, registerNumber);
-    calc.s.RoundTripCheck = false;
+    calc.s.entry.RoundTripCheck = false;
     roundTrip();
 }
 
 // X carries the fifteen digits of its text; the element on the stack keeps them all.
 void ProgramRun::roundTrip() {
-    ValueCell& x = calc.s.Xreg;
+    ValueCell& x = calc.s.stack.Xreg;
     if (const double* const held = x.asDouble()) {
         x = fifteenDigits(*held);
         return;
@@ -208,21 +208,21 @@ void ProgramRun::roundTrip() {
     if (x.isEmptyText()) {
         return;
     }
-    if (const auto number = x.tryNumber(calc.s.DecimalChar)) {
+    if (const auto number = x.tryNumber(calc.s.format.DecimalChar)) {
         x = fifteenDigits(*number);
     }
 }
 
 void ProgramRun::restoreFormat() {
     EngineState& s = calc.s;
-    if (s.BaseMode) {
+    if (s.modes.BaseMode) {
         // The run has brought the Binary keypad back, under which the format lies aside.
-        s.SavedMode = formatBefore_.value_or(s.SavedMode);
-        s.SavedDigits = digitsBefore_.value_or(s.SavedDigits);
+        s.format.SavedMode = formatBefore_.value_or(s.format.SavedMode);
+        s.format.SavedDigits = digitsBefore_.value_or(s.format.SavedDigits);
         return;
     }
     if (formatBefore_ || digitsBefore_) {
-        calc.display.useFormat(formatBefore_.value_or(s.Mode), digitsBefore_.value_or(s.DisplayDigits));
+        calc.display.useFormat(formatBefore_.value_or(s.format.Mode), digitsBefore_.value_or(s.format.DisplayDigits));
     }
 }
 
@@ -260,7 +260,7 @@ std::string ProgramRun::nearLine() const {
 }
 
 std::string ProgramRun::shown(const ValueCell& cell) const {
-    const auto number = cell.tryNumber(calc.s.DecimalChar);
+    const auto number = cell.tryNumber(calc.s.format.DecimalChar);
     return number && !cell.isEmptyText() ? calc.display.numDisplay(cell) : calc.text(cell);
 }
 

@@ -45,7 +45,7 @@ void ProgramRun::executeStatement(const ProgramWord& word) {
             return pause(word);
         case Statement::Format:
             if (!formatBefore_) {
-                formatBefore_ = calc.s.Mode;
+                formatBefore_ = calc.s.format.Mode;
             }
             return pressFunction(*word.function);
         case Statement::Dsp:
@@ -65,9 +65,9 @@ void ProgramRun::executeStatement(const ProgramWord& word) {
         case Statement::Rcl:
             return memory(word);
         case Statement::X:
-            return pushCopy(ValueCell(calc.s.Xreg));
+            return pushCopy(ValueCell(calc.s.stack.Xreg));
         case Statement::Y:
-            return pushCopy(ValueCell(calc.s.Yreg));
+            return pushCopy(ValueCell(calc.s.stack.Yreg));
         case Statement::Seed: {
             const LocalTime now = calc.platform.now();
             return pushNumber((now.hour * 60.0 + now.minute) * 60.0 + now.second);
@@ -124,7 +124,7 @@ void ProgramRun::showMessage() {
     }
     calc.message(BoxKind::Info, "Attention!",
                  messageText(
-                     whole, last, [&] { return shown(calc.s.Xreg); }, [&] { return shown(calc.s.Yreg); }));
+                     whole, last, [&] { return shown(calc.s.stack.Xreg); }, [&] { return shown(calc.s.stack.Yreg); }));
     breathe();
 }
 
@@ -206,7 +206,7 @@ void ProgramRun::testFlag(int number) {
         held = false;
     }
     if (number == kDigitFlag) {
-        calc.s.DigitTyped = false;
+        calc.s.entry.DigitTyped = false;
     }
 }
 
@@ -226,7 +226,7 @@ void ProgramRun::pause(const ProgramWord& word) {
 
 void ProgramRun::digits(const ProgramWord& word) {
     if (!digitsBefore_) {
-        digitsBefore_ = calc.s.DisplayDigits;
+        digitsBefore_ = calc.s.format.DisplayDigits;
     }
     calc.setEntry(trimmed(from(word.text, 5)));
     calc.display.cmdDigits_Click();

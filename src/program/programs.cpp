@@ -29,7 +29,7 @@ public:
     }
     ~Running() {
         --control.running;
-        calc.s.RoundTripCheck = false;
+        calc.s.entry.RoundTripCheck = false;
         calc.unwatched = watched_;
         if (!calc.unwatched) {
             calc.showPending();
@@ -71,14 +71,14 @@ void Programs::RunProgramKey(int index) {
     if (mode.specialKey(label)) {
         return;
     }
-    if (calc.s.DigitTyped) {
+    if (calc.s.entry.DigitTyped) {
         state.ProgramFlags.at(kDigitFlag) = true;
     }
     runSection(index, label);
 }
 
 bool Programs::mayStart(int index, const std::string& label) {
-    if (calc.s.ModifierMask == 0 || (!runsSection(index) && label != "init")) {
+    if (calc.s.modifiers.ModifierMask == 0 || (!runsSection(index) && label != "init")) {
         return true;
     }
     calc.ClearOptKeys();
@@ -153,7 +153,7 @@ void Programs::runSection(int index, const std::string& label) {
     }
     if (run) {
         run->restoreFormat();
-        if (calc.s.depth() > 0) {
+        if (calc.s.stack.depth() > 0) {
             // The keys' own commits leave them alone while a program presses.
             calc.commit.enableStackKeys();
         }
@@ -180,7 +180,7 @@ void Programs::resetProgram() {
         RunProgramKey(kInitKey);
         state.resetting = before;
     }
-    if (calc.s.ProgramMode) {
+    if (calc.s.modes.ProgramMode) {
         mode.ToggleProgramMode();
     }
 }

@@ -47,7 +47,7 @@ void Trace::write(int line, std::string_view word) {
         file_ << '\n' << dateAndTime(calc.platform.now()) << '\n';
     }
     // Written out at once: a trace is read while its program waits, or after it was cut off.
-    file_ << ' ' << line << ' ' << word << printed(calc.s.Xreg, calc.s.DecimalChar) << std::endl;
+    file_ << ' ' << line << ' ' << word << printed(calc.s.stack.Xreg, calc.s.format.DecimalChar) << std::endl;
     if (!file_) {
         throw Failure{FailureNumber::PathAccess};
     }

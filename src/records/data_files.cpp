@@ -58,7 +58,7 @@ bool askForDefaultName(Engine& calc, const std::filesystem::path& path) {
 void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, const std::filesystem::path& path) {
     const std::string name = nameOf(path);
     const bool tape = which == DefaultName::Tape;
-    (tape ? calc.s.TapeFileName : calc.s.MemoryFileName) = name;
+    (tape ? calc.s.files.TapeFileName : calc.s.files.MemoryFileName) = name;
     const std::string_view procedure = tape ? "mnuSaveTape_Click" : "mnuSaveMem_Click";
     const auto report = [&](const Failure& failure) {
         calc.reportIn(procedure, failure.code(), description(failure.number()));

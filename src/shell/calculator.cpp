@@ -62,7 +62,7 @@ void Calculator::hangKeys() {
     form.cmdReset.click = [this] { resetKey_.cmdReset_Click(); };
     form.cmdView.click = [this] { viewKeys_.cmdView_Click(); };
     form.cmdDigits.click = [this] {
-        if (engine_.s.ModifierMask == kCtrl) {
+        if (engine_.s.modifiers.ModifierMask == kCtrl) {
             viewKeys_.toggleTall();
             engine_.ClearOptKeys();
         } else {
@@ -87,7 +87,7 @@ void Calculator::hangOptions() {
         {&form.optDeg, AngleMode::Degrees}, {&form.optRad, AngleMode::Radians}, {&form.optGrad, AngleMode::Grads}};
     for (const auto& [option, mode] : angles) {
         option->click = [this, chosen = mode] {
-            engine_.s.Angle = chosen;
+            engine_.s.format.Angle = chosen;
             engine_.focusEntry();
         };
     }
@@ -130,7 +130,7 @@ void Calculator::hangPrograms() {
     above.loadProgram = [this] { programs_.mnuProgram_Click(); };
     above.resetProgram = [this] { programs_.resetProgram(); };
     above.toggleMemoryArray = [this] {
-        if (engine_.s.ProgramMode) {
+        if (engine_.s.modes.ProgramMode) {
             programs_.ToggleProgramMode();
         }
         registers_.MemoryArray();

@@ -27,7 +27,7 @@ bool isBaseNumber(std::string_view text) {
 void Clipboard::mnuCopy_Click() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
-    calc.platform.setClipboardText(calc.text(calc.s.Xreg));
+    calc.platform.setClipboardText(calc.text(calc.s.stack.Xreg));
 }
 
 void Clipboard::mnuPaste_Click() {
@@ -39,22 +39,22 @@ void Clipboard::mnuPaste_Click() {
         calc.commit.cmdEnter_Click();
     }
     const std::string clipped = calc.platform.clipboardText();
-    const ValueCell before = std::exchange(s.Xreg, withoutMargins(clipped));
+    const ValueCell before = std::exchange(s.stack.Xreg, withoutMargins(clipped));
     const auto report = [&](const Failure& failure) {
         if (failure.number() != FailureNumber::TypeMismatch) {
             calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
         }
     };
-    const bool isNumber = goOn(report, [&] { s.Xnum = calc.xNumber(); });
-    if (!isNumber && !isBaseNumber(s.Xreg.textView())) {
+    const bool isNumber = goOn(report, [&] { s.stack.Xnum = calc.xNumber(); });
+    if (!isNumber && !isBaseNumber(s.stack.Xreg.textView())) {
         // X keeps the text, but for one that a function could have left as a sign.
-        if (s.Xreg.textView() == kNoMeaning || s.Xreg.textView() == kNothingDone) {
-            s.Xreg = before;
+        if (s.stack.Xreg.textView() == kNoMeaning || s.stack.Xreg.textView() == kNothingDone) {
+            s.stack.Xreg = before;
         }
-        s.EntryOpen = false;
+        s.entry.EntryOpen = false;
         return;
     }
-    s.FnLabel = "Paste";
+    s.delivery.FnLabel = "Paste";
     calc.commit.pushRecalled();
 }
 

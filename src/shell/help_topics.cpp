@@ -57,7 +57,7 @@ void hangHelpTopics(Engine& calc) {
     constexpr int kDisplayDigits = 890;
     constexpr int kWordSize = 1330;
     hang(
-        calc, one(form.cmdDigits), [&calc] { return calc.s.BaseMode ? kWordSize : kDisplayDigits; }, false);
+        calc, one(form.cmdDigits), [&calc] { return calc.s.modes.BaseMode ? kWordSize : kDisplayDigits; }, false);
 }
 
 }  // namespace tallyforge

@@ -60,12 +60,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Engine& calc = calculator.engine();
     click(calc.form, calc.form.mnuProgram);
     for (Control& key : calc.form.cmdFunctions) {
-        if (calc.s.ProgramMode) {
+        if (calc.s.modes.ProgramMode) {
             click(calc.form, key);
         }
     }
-    require(calc.s.StackPtr >= 1);
-    require(calc.s.Stack.size() >= static_cast<std::size_t>(calc.s.StackPtr) + 1);
-    require(!calculator.programs().running() && !calc.unwatched && !calc.s.RoundTripCheck);
+    require(calc.s.stack.StackPtr >= 1);
+    require(calc.s.stack.Stack.size() >= static_cast<std::size_t>(calc.s.stack.StackPtr) + 1);
+    require(!calculator.programs().running() && !calc.unwatched && !calc.s.entry.RoundTripCheck);
     return 0;
 }

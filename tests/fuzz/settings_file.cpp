@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     hand.writeFile(tallyforge::SettingsFile::kName, bytes);
     hand.start();
     const tallyforge::EngineState& s = hand.s();
-    if (s.DisplayDigits < 0 || s.DisplayDigits > 13 || s.WordSize < 4 || s.WordSize > 64) {
+    if (s.format.DisplayDigits < 0 || s.format.DisplayDigits > 13 || s.format.WordSize < 4 || s.format.WordSize > 64) {
         std::abort();
     }
     return 0;

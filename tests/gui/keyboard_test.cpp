@@ -29,7 +29,7 @@ TEST_F(WindowKeyboard, TypesACalculation) {
     strike(Qt::Key_Return, "\r");
     type("3+");
     EXPECT_EQ(engine().xNumber(), 5.0);
-    EXPECT_EQ(engine().s.depth(), 1);
+    EXPECT_EQ(engine().s.stack.depth(), 1);
     EXPECT_EQ(engine().tape.row(engine().tape.count() - 1), "+                  5.00");
 }
 
@@ -66,7 +66,7 @@ TEST_F(WindowKeyboard, PassesTheOwnShiftOfACharacterAsNoModifier) {
         std::vector<int> masks;
         const auto plain = form().txtXreg.keyPress;
         form().txtXreg.keyPress = [&](int& character) {
-            masks.push_back(engine().s.ModifierMask);
+            masks.push_back(engine().s.modifiers.ModifierMask);
             plain(character);
         };
         type("6");
@@ -85,19 +85,19 @@ TEST_F(WindowKeyboard, LightsTheLampAndPaintsTheBankWhileShiftIsHeld) {
     const std::string ln = form().cmdFunctions.at(14).text;
     press(Qt::Key_Shift);
     EXPECT_TRUE(widget(form().shaShift).isVisible());
-    EXPECT_EQ(engine().s.ModifierMask, kShift);
+    EXPECT_EQ(engine().s.modifiers.ModifierMask, kShift);
     EXPECT_NE(form().cmdFunctions.at(14).text, ln);
     EXPECT_NE(picture(), before);
     release(Qt::Key_Shift, {}, Qt::ShiftModifier);
     EXPECT_FALSE(widget(form().shaShift).isVisible());
-    EXPECT_EQ(engine().s.ModifierMask, kNoModifier);
+    EXPECT_EQ(engine().s.modifiers.ModifierMask, kNoModifier);
     EXPECT_EQ(picture(), before);
 }
 
 TEST_F(WindowKeyboard, AddsModifiersAndTakesThemAwayOneByOne) {
     press(Qt::Key_Shift);
     press(Qt::Key_Control, {}, Qt::ShiftModifier);
-    EXPECT_EQ(engine().s.ModifierMask, kShift + kCtrl);
+    EXPECT_EQ(engine().s.modifiers.ModifierMask, kShift + kCtrl);
     EXPECT_TRUE(widget(form().shaShift).isVisible());
     EXPECT_TRUE(widget(form().shaCtrl).isVisible());
     release(Qt::Key_Control, {}, Qt::ShiftModifier | Qt::ControlModifier);
@@ -111,7 +111,7 @@ TEST_F(WindowKeyboard, TakesAltBehindShiftUnderItsOtherName) {
     press(Qt::Key_Shift);
     QKeyEvent down(QEvent::KeyPress, Qt::Key_Meta, Qt::ShiftModifier);
     QApplication::sendEvent(&view(), &down);
-    EXPECT_EQ(engine().s.ModifierMask, kShift + kAlt);
+    EXPECT_EQ(engine().s.modifiers.ModifierMask, kShift + kAlt);
     EXPECT_TRUE(widget(form().shaAlt).isVisible());
     QKeyEvent up(QEvent::KeyRelease, Qt::Key_Meta, Qt::ShiftModifier | Qt::AltModifier);
     QApplication::sendEvent(&view(), &up);
@@ -122,9 +122,9 @@ TEST_F(WindowKeyboard, TakesAltBehindShiftUnderItsOtherName) {
 
 TEST_F(WindowKeyboard, LetsModifiersGoWhenTheWindowLosesTheKeyboard) {
     press(Qt::Key_Control);
-    ASSERT_EQ(engine().s.ModifierMask, kCtrl);
+    ASSERT_EQ(engine().s.modifiers.ModifierMask, kCtrl);
     view().clearFocus();
-    EXPECT_EQ(engine().s.ModifierMask, kNoModifier);
+    EXPECT_EQ(engine().s.modifiers.ModifierMask, kNoModifier);
     EXPECT_FALSE(widget(form().shaCtrl).isVisible());
 }
 
@@ -191,7 +191,7 @@ TEST_F(WindowKeyboard, DropsExchangesAndRetrievesByTheEditingKeys) {
     EXPECT_EQ(engine().xNumber(), 8.0);
     strike(Qt::Key_Delete);
     EXPECT_EQ(engine().xNumber(), 2.0);
-    EXPECT_EQ(engine().s.depth(), 1);
+    EXPECT_EQ(engine().s.stack.depth(), 1);
 }
 
 TEST_F(WindowKeyboard, TakesAltWithALetterForItsKeys) {

@@ -60,7 +60,7 @@ TEST_F(WindowMouse, ADisabledKeyTakesNoPress) {
     QTest::mousePress(&drop, Qt::LeftButton);
     EXPECT_FALSE(drop.isPressed());
     QTest::mouseRelease(&drop, Qt::LeftButton);
-    EXPECT_EQ(engine().s.depth(), 0);
+    EXPECT_EQ(engine().s.stack.depth(), 0);
 }
 
 TEST_F(WindowMouse, RetrievesALineOfTheTapeByADoubleClick) {
@@ -69,14 +69,14 @@ TEST_F(WindowMouse, RetrievesALineOfTheTapeByADoubleClick) {
         qt::listMetrics(form().lstDisplayReg, widget(form().lstDisplayReg).height(), view().scale()).visibleRows);
     doubleClickRow(form().lstDisplayReg, shown - 2);
     EXPECT_EQ(engine().xNumber(), 3.0);
-    EXPECT_EQ(engine().s.depth(), 4);
+    EXPECT_EQ(engine().s.stack.depth(), 4);
 }
 
 TEST_F(WindowMouse, AClickBelowTheLastRowOfTheStackRetrievesNothing) {
     stackThree();
     qt::ControlWidget& stack = widget(form().lstStack);
     QTest::mouseClick(&stack, Qt::LeftButton, Qt::NoModifier, QPoint(stack.width() / 2, stack.height() - 4));
-    EXPECT_EQ(engine().s.depth(), 3);
+    EXPECT_EQ(engine().s.stack.depth(), 3);
 }
 
 TEST_F(WindowMouse, RetrievesAnElementOfTheStackByAClick) {
@@ -84,17 +84,17 @@ TEST_F(WindowMouse, RetrievesAnElementOfTheStackByAClick) {
     qt::ControlWidget& stack = widget(form().lstStack);
     QTest::mouseClick(&stack, Qt::LeftButton, Qt::NoModifier, QPoint(stack.width() / 2, 4));
     EXPECT_EQ(engine().xNumber(), 2.0);
-    EXPECT_EQ(engine().s.depth(), 4);
+    EXPECT_EQ(engine().s.stack.depth(), 4);
 }
 
 TEST_F(WindowMouse, HoldsAModifierByAnOptionForTheNextKey) {
     clickOn(form().optKey.at(0));
     EXPECT_TRUE(form().optKey.at(0).checked);
-    EXPECT_EQ(engine().s.ModifierMask, kShift);
-    EXPECT_TRUE(engine().s.ModifierLatched);
+    EXPECT_EQ(engine().s.modifiers.ModifierMask, kShift);
+    EXPECT_TRUE(engine().s.modifiers.ModifierLatched);
     clickOn(form().cmdEsc);
     EXPECT_FALSE(form().optKey.at(0).checked);
-    EXPECT_FALSE(engine().s.ModifierLatched);
+    EXPECT_FALSE(engine().s.modifiers.ModifierLatched);
 }
 
 TEST_F(WindowMouse, ChoosesOneOptionOfEachGroup) {
@@ -104,7 +104,7 @@ TEST_F(WindowMouse, ChoosesOneOptionOfEachGroup) {
     EXPECT_FALSE(form().optDeg.checked);
     EXPECT_TRUE(form().optFix.at(1).checked);
     EXPECT_FALSE(form().optFix.at(0).checked);
-    EXPECT_EQ(engine().s.Angle, AngleMode::Radians);
+    EXPECT_EQ(engine().s.format.Angle, AngleMode::Radians);
 }
 
 TEST_F(WindowMouse, OpensTheHelpTopicOfAKeyByTheRightButton) {

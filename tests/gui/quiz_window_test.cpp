@@ -26,14 +26,14 @@ protected:
         return true;
     }
     void expectAllBack() {
-        EXPECT_FALSE(engine().s.QuizMode);
+        EXPECT_FALSE(engine().s.modes.QuizMode);
         for (const Control& key : form().cmdFunctions) {
             EXPECT_TRUE(widget(key).isVisible());
         }
         EXPECT_EQ(form().cmdFunctions[kQuizKey].tip, " Teach math: Add (+) [Click] | Subtract (-) Shift-Click ");
         EXPECT_TRUE(form().mnuStd.enabled);
         EXPECT_TRUE(form().cmdF11.enabled);
-        EXPECT_EQ(engine().s.DisplayDigits, 2);
+        EXPECT_EQ(engine().s.format.DisplayDigits, 2);
     }
     std::string line(std::size_t fromEnd) { return engine().tape.row(engine().tape.count() - 1 - fromEnd); }
 };

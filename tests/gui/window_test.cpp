@@ -31,7 +31,7 @@ TEST_F(Window, HasTheMenusOfTheForm) {
 
 TEST_F(Window, ChangesTheKeypadByTheMenu) {
     entry("&Engr'g")->trigger();
-    EXPECT_EQ(engine().s.ActiveKeypad, Keypad::Engineering);
+    EXPECT_EQ(engine().s.modes.ActiveKeypad, Keypad::Engineering);
     EXPECT_TRUE(form().mnuEngNormal.checked);
     openMenus();
     EXPECT_TRUE(entry("&Engr'g")->isChecked());
@@ -77,7 +77,7 @@ TEST_F(Window, ShowsTheSmallFieldsBesideTheEntryLine) {
 TEST_F(Window, GrowsTall) {
     const int plain = window.height();
     clickOn(form().cmdDigits, Qt::ControlModifier);
-    EXPECT_TRUE(engine().s.TallForm);
+    EXPECT_TRUE(engine().s.window.TallForm);
     EXPECT_NEAR(window.height() - plain, MainForm::kTallGrowth * qt::FormView::kUsualScale, 1.0);
 }
 

@@ -191,14 +191,14 @@ bool bringsLastxBack(const CalculatorAtHand& hand, const Act& act) {
 /// Whether the act takes a reset back: the tape's lines return without a commit, and the slot below the stack, which
 /// is in no file, stays empty whatever Y was. Asked before the act, which uses a latched modifier up.
 bool takesResetBack(const CalculatorAtHand& hand, const Act& act) {
-    const std::uint8_t mask = hand.s().ModifierLatched ? hand.s().ModifierMask : act.mask;
+    const std::uint8_t mask = hand.s().modifiers.ModifierLatched ? hand.s().modifiers.ModifierMask : act.mask;
     return isClickOn(hand, act, hand.form().cmdReset) && mask == (kShift | kCtrl | kAlt);
 }
 
 /// Whether X is a text from the clipboard that was no number: X keeps it, the stack knows nothing of it.
 bool refusedPaste(const CalculatorAtHand& hand, const Act& act) {
-    const ValueCell& x = hand.s().Xreg;
-    return isKey(act, "Ctrl+V") && !x.isTagged() && !x.tryNumber(hand.s().DecimalChar);
+    const ValueCell& x = hand.s().stack.Xreg;
+    return isKey(act, "Ctrl+V") && !x.isTagged() && !x.tryNumber(hand.s().format.DecimalChar);
 }
 
 /// A cell's number, or its text where it has none, for comparison.
@@ -208,7 +208,7 @@ std::string asRead(const Engine& calc, const ValueCell& cell) {
 
 /// Whether a cell holds a number of the calculator's range, or a text.
 bool isFinite(const Engine& calc, const ValueCell& cell) {
-    return std::isfinite(cell.tryNumber(calc.s.DecimalChar).value_or(0.0));
+    return std::isfinite(cell.tryNumber(calc.s.format.DecimalChar).value_or(0.0));
 }
 
 TEST(Properties, TheFourInvariantsHoldAfterEveryCommit) {
@@ -222,31 +222,31 @@ TEST(Properties, TheFourInvariantsHoldAfterEveryCommit) {
         for (const Act& act : someActs()) {
             const std::size_t lines = calc.tape.lines();
             const std::size_t boxes = hand.platform.boxes.size();
-            const int depth = hand.s().depth();
-            const bool lastxEmpty = hand.s().LastX.isEmpty();
+            const int depth = hand.s().stack.depth();
+            const bool lastxEmpty = hand.s().stack.LastX.isEmpty();
             const bool undoes = takesResetBack(hand, act);
             play(hand, act);
             const EngineState& s = hand.s();
             pushedNothing |= lastxEmpty && bringsLastxBack(hand, act);
-            RC_ASSERT(s.depth() >= 0);
-            RC_ASSERT(s.Stack.size() >= static_cast<std::size_t>(s.StackPtr) + 1);
-            RC_ASSERT(!s.EntryOpen || !calc.form.txtXreg.text.empty());
+            RC_ASSERT(s.stack.depth() >= 0);
+            RC_ASSERT(s.stack.Stack.size() >= static_cast<std::size_t>(s.stack.StackPtr) + 1);
+            RC_ASSERT(!s.entry.EntryOpen || !calc.form.txtXreg.text.empty());
             RC_ASSERT(calc.form.txtXreg.text.size() <= 22U);
-            RC_ASSERT(isFinite(calc, s.Xreg) && isFinite(calc, s.LastX));
-            for (const ValueCell& element : s.Stack) {
+            RC_ASSERT(isFinite(calc, s.stack.Xreg) && isFinite(calc, s.stack.LastX));
+            for (const ValueCell& element : s.stack.Stack) {
                 RC_ASSERT(isFinite(calc, element));
             }
-            wroteBelowTheStack |= s.depth() == 0 && depth <= 1;
+            wroteBelowTheStack |= s.stack.depth() == 0 && depth <= 1;
             const bool committed = calc.tape.lines() > lines && hand.platform.boxes.size() == boxes && !undoes;
-            if (!committed || s.depth() == 0 || s.Xreg.isEmptyText() || refusedPaste(hand, act)) {
+            if (!committed || s.stack.depth() == 0 || s.stack.Xreg.isEmptyText() || refusedPaste(hand, act)) {
                 continue;
             }
-            RC_ASSERT(asRead(calc, s.slot(s.StackPtr - 1)) == asRead(calc, s.Xreg));
-            RC_ASSERT(asRead(calc, s.Yreg) == asRead(calc, s.slot(s.StackPtr - 2)));
-            RC_ASSERT(calc.form.txtXreg.text.empty() == !s.EntryOpen);
-            RC_ASSERT(wroteBelowTheStack || s.slot(0).isEmpty());
-            for (int element = 1; element < s.StackPtr; ++element) {
-                RC_ASSERT(pushedNothing || !s.slot(element).isEmpty());
+            RC_ASSERT(asRead(calc, s.stack.slot(s.stack.StackPtr - 1)) == asRead(calc, s.stack.Xreg));
+            RC_ASSERT(asRead(calc, s.stack.Yreg) == asRead(calc, s.stack.slot(s.stack.StackPtr - 2)));
+            RC_ASSERT(calc.form.txtXreg.text.empty() == !s.entry.EntryOpen);
+            RC_ASSERT(wroteBelowTheStack || s.stack.slot(0).isEmpty());
+            for (int element = 1; element < s.stack.StackPtr; ++element) {
+                RC_ASSERT(pushedNothing || !s.stack.slot(element).isEmpty());
             }
         }
     }));

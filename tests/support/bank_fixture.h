@@ -19,7 +19,7 @@ protected:
     void bank(std::size_t key, std::uint8_t mask = 0) { clickWith(mask, form().cmdFunctions.at(key)); }
     /// The press of a key under modifiers that hide it from the mouse.
     void unseen(std::size_t key, std::uint8_t mask) {
-        s().ModifierMask = mask;
+        s().modifiers.ModifierMask = mask;
         calc().keypads().cmdFunctions_Click(static_cast<int>(key));
     }
     /// Enters the numbers, those with a minus by the key of the sign.
@@ -40,7 +40,7 @@ protected:
     }
     /// X as it reads to a user, as a number.
     double value() { return std::strtod(x().c_str(), nullptr); }
-    std::string element(int below) { return calc().text(s().slot(s().StackPtr - 1 - below)); }
+    std::string element(int below) { return calc().text(s().stack.slot(s().stack.StackPtr - 1 - below)); }
     std::string line(std::size_t fromEnd = 0) {
         const auto lines = tape();
         return fromEnd < lines.size() ? lines.at(lines.size() - 1 - fromEnd) : "";
@@ -57,14 +57,14 @@ protected:
         SCOPED_TRACE("key " + std::to_string(key) + " under mask " + std::to_string(mask));
         platform.boxes.clear();
         const auto lines = tape();
-        const int depth = s().depth();
+        const int depth = s().stack.depth();
         unseen(key, mask);
         ASSERT_EQ(platform.boxes.size(), 1U);
         EXPECT_EQ(lastBox(),
                   "That Extended key (or keys) not valid for that function,\n"
                   "see Help file or tooltip for applicable Extended keys");
         EXPECT_EQ(tape(), lines);
-        EXPECT_EQ(s().depth(), depth);
+        EXPECT_EQ(s().stack.depth(), depth);
         EXPECT_EQ(x(), "");
     }
     void expectNoMeaning(std::size_t key, std::initializer_list<int> masks) {

@@ -50,8 +50,8 @@ public:
     }
     void choose(Control& control) const { clickWith(0, control); }
 
-    [[nodiscard]] std::string x() const { return calc().text(s().Xreg); }
-    [[nodiscard]] std::string reg(std::size_t number) const { return calc().text(s().Registers.at(number)); }
+    [[nodiscard]] std::string x() const { return calc().text(s().stack.Xreg); }
+    [[nodiscard]] std::string reg(std::size_t number) const { return calc().text(s().memory.Registers.at(number)); }
     [[nodiscard]] std::vector<std::string> tape() const {
         std::vector<std::string> lines;
         for (auto row = static_cast<std::size_t>(calc().tape.fillers()); row < calc().tape.count(); ++row) {
@@ -73,10 +73,10 @@ public:
             const std::string text = calc().text(cell);
             return text.empty() ? "0" : text;
         };
-        std::vector<std::string> all{orZero(s().Xreg), orZero(s().Yreg), orZero(s().LastX),
-                                     std::to_string(s().StackPtr)};
-        for (int element = 1; element < s().StackPtr; ++element) {
-            all.push_back(calc().text(s().slot(element)));
+        std::vector<std::string> all{orZero(s().stack.Xreg), orZero(s().stack.Yreg), orZero(s().stack.LastX),
+                                     std::to_string(s().stack.StackPtr)};
+        for (int element = 1; element < s().stack.StackPtr; ++element) {
+            all.push_back(calc().text(s().stack.slot(element)));
         }
         for (std::size_t row = 0; row < calc().tape.count(); ++row) {
             all.push_back(calc().tape.row(row) + "=" + calc().text(calc().tape.value(row)));
@@ -88,10 +88,10 @@ public:
         std::vector<std::string> all;
         for (int number = 1; number <= kRegisters; ++number) {
             // A register that reads as 0 comes back empty.
-            const ValueCell& cell = s().Registers.at(static_cast<std::size_t>(number));
-            all.push_back(cell.tryNumber(s().DecimalChar) == 0.0 ? "" : calc().text(cell));
+            const ValueCell& cell = s().memory.Registers.at(static_cast<std::size_t>(number));
+            all.push_back(cell.tryNumber(s().format.DecimalChar) == 0.0 ? "" : calc().text(cell));
         }
-        for (std::string name : s().RegisterNames) {
+        for (std::string name : s().memory.RegisterNames) {
             // In a file a name is filled up with blanks.
             name.erase(name.find_last_not_of(' ') + 1);
             all.push_back(name);

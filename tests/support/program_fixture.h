@@ -51,7 +51,9 @@ protected:
         return calculator->programs().state.variables.GetProgramVariable(name);
     }
     [[nodiscard]] ProgramState& programState() { return calculator->programs().state; }
-    [[nodiscard]] std::string element(int below) const { return calc().text(s().slot(s().StackPtr - 1 - below)); }
+    [[nodiscard]] std::string element(int below) const {
+        return calc().text(s().stack.slot(s().stack.StackPtr - 1 - below));
+    }
     /// "TITLE: TEXT" of every box since the load.
     [[nodiscard]] std::vector<std::string> said() const {
         std::vector<std::string> all;

@@ -28,8 +28,8 @@ std::string cellText(const Engine& calc, const ValueCell& cell) {
 
 Lines stackLines(const Engine& calc) {
     Lines lines;
-    for (int i = 1; i <= calc.s.depth(); ++i) {
-        lines.push_back(joined("stack " + std::to_string(i), cellText(calc, calc.s.slot(i))));
+    for (int i = 1; i <= calc.s.stack.depth(); ++i) {
+        lines.push_back(joined("stack " + std::to_string(i), cellText(calc, calc.s.stack.slot(i))));
     }
     return lines;
 }
@@ -48,7 +48,7 @@ Lines tapeLines(const Engine& calc, bool values) {
 Lines bankLines(const Engine& calc) {
     Lines lines;
     const auto& marks = calc.form.lblStkReg;
-    const std::size_t top = marks.size() - 1 - (calc.s.CompactForm ? 2 : 0);
+    const std::size_t top = marks.size() - 1 - (calc.s.window.CompactForm ? 2 : 0);
     for (std::size_t row = 0; row < calc.stackList.count(); ++row) {
         std::string line = "bank " + std::to_string(row + 1) + " " + toUnicode(calc.stackList.row(row), Face::Terminal);
         if (row <= top && marks.at(top - row).visible) {
@@ -63,10 +63,10 @@ Lines registerLines(const Engine& calc) {
     Lines lines;
     for (int number = 1; number <= kRegisters; ++number) {
         const auto key = static_cast<std::size_t>(keyOfRegister(number));
-        const std::string& name = calc.s.RegisterNames.at(key);
-        const ValueCell& cell = calc.s.Registers.at(static_cast<std::size_t>(number));
+        const std::string& name = calc.s.memory.RegisterNames.at(key);
+        const ValueCell& cell = calc.s.memory.Registers.at(static_cast<std::size_t>(number));
         const bool renamed = name != defaultRegisterName(static_cast<int>(key));
-        const auto value = cell.tryNumber(calc.s.DecimalChar);
+        const auto value = cell.tryNumber(calc.s.format.DecimalChar);
         const bool filled = !cell.isEmptyText() && (!value || *value != 0.0);
         if (!renamed && !filled) {
             continue;
@@ -109,13 +109,13 @@ Lines tipLines(const Engine& calc) {
 
 std::string formatLine(const EngineState& s) {
     constexpr std::array<std::string_view, 3> kModes{"fixed", "sci", "eng"};
-    return "format " + std::string(kModes.at(static_cast<std::size_t>(s.Mode))) + " " +
-           std::to_string(s.DisplayDigits) + " word " + std::to_string(s.WordSize);
+    return "format " + std::string(kModes.at(static_cast<std::size_t>(s.format.Mode))) + " " +
+           std::to_string(s.format.DisplayDigits) + " word " + std::to_string(s.format.WordSize);
 }
 
 std::string angleLine(const EngineState& s) {
     constexpr std::array<std::string_view, 3> kModes{"deg", "rad", "grad"};
-    return "angle " + std::string(kModes.at(static_cast<std::size_t>(s.Angle)));
+    return "angle " + std::string(kModes.at(static_cast<std::size_t>(s.format.Angle)));
 }
 
 std::string lampsLine(const MainForm& form) {
@@ -127,9 +127,9 @@ std::string lampsLine(const MainForm& form) {
 }
 
 std::string keypadLine(const Engine& calc) {
-    const bool mode = calc.s.ProgramMode || calc.s.MemoryArrayMode;
+    const bool mode = calc.s.modes.ProgramMode || calc.s.modes.MemoryArrayMode;
     const Control& label = mode ? calc.form.lblName : calc.form.lblBank;
-    return "keypad " + std::to_string(static_cast<int>(calc.s.ActiveKeypad)) + " " + inQuotes(label.text);
+    return "keypad " + std::to_string(static_cast<int>(calc.s.modes.ActiveKeypad)) + " " + inQuotes(label.text);
 }
 
 Lines menuLines(const Form& form) {
@@ -169,12 +169,12 @@ std::optional<Lines> readWord(const Engine& calc, const Form& form, std::string_
         Lines (*read)(const Engine&);
     };
     constexpr std::array<Word, 16> kWords{{
-        {"x", [](const Engine& c) { return Lines{joined("x", cellText(c, c.s.Xreg))}; }},
-        {"y", [](const Engine& c) { return Lines{joined("y", cellText(c, c.s.Yreg))}; }},
-        {"lastx", [](const Engine& c) { return Lines{joined("lastx", cellText(c, c.s.LastX))}; }},
+        {"x", [](const Engine& c) { return Lines{joined("x", cellText(c, c.s.stack.Xreg))}; }},
+        {"y", [](const Engine& c) { return Lines{joined("y", cellText(c, c.s.stack.Yreg))}; }},
+        {"lastx", [](const Engine& c) { return Lines{joined("lastx", cellText(c, c.s.stack.LastX))}; }},
         {"entry",
          [](const Engine& c) { return Lines{joined("entry", toUnicode(c.form.txtXreg.text, Face::Terminal))}; }},
-        {"depth", [](const Engine& c) { return Lines{"depth " + std::to_string(c.s.depth())}; }},
+        {"depth", [](const Engine& c) { return Lines{"depth " + std::to_string(c.s.stack.depth())}; }},
         {"stack", stackLines},
         {"tape", [](const Engine& c) { return tapeLines(c, false); }},
         {"tapevalues", [](const Engine& c) { return tapeLines(c, true); }},

@@ -138,7 +138,7 @@ TEST(DigitByDigit, TheCutToAWordIsTheRightEndOfTheBits) {
 class DigitByDigitKeys : public ::testing::Test {
 protected:
     std::string answer(int key, const Operand& left, const Operand& right) {
-        calc.s.Xreg = right.text;
+        calc.s.stack.Xreg = right.text;
         return outcome([&] { return keys.compute(key, left.text, right.text).text('.'); });
     }
     TestPlatform platform;
@@ -173,14 +173,14 @@ TEST_F(DigitByDigitKeys, TheFourOperationsAgreeInAllBases) {
         std::string rest;
         const std::string quotient = digit_text::divide(left.bits, right.bits, rest);
         ASSERT_EQ(answer(kDivide, left, right), taggedText(quotient, letter));
-        ASSERT_EQ(calc.s.BaseRemainder, rest == "0" ? "" : taggedText(rest, letter));
+        ASSERT_EQ(calc.s.format.BaseRemainder, rest == "0" ? "" : taggedText(rest, letter));
     }
 }
 
 TEST_F(DigitByDigitKeys, LogicAgreesInAllBasesAtEveryWordSize) {
     Draw draw;
     for (int i = 0; i < 60000; ++i) {
-        calc.s.WordSize = draw.wordSize();
+        calc.s.format.WordSize = draw.wordSize();
         const Operand y = draw.operand();
         const Operand x = draw.operand();
         const auto named = [](char letter) { return letter != kPlain && letter != kHexadecimal; };
@@ -191,19 +191,19 @@ TEST_F(DigitByDigitKeys, LogicAgreesInAllBasesAtEveryWordSize) {
             return taggedText(digit_text::toBits(digits, kHexadecimal), letter);
         };
         const auto logic = [&](const char* name) {
-            calc.s.Xreg = x.text;
-            calc.s.Yreg = y.text;
+            calc.s.stack.Xreg = x.text;
+            calc.s.stack.Yreg = y.text;
             keys.LogicOp(name);
-            return std::string{calc.s.Xreg.textView()};
+            return std::string{calc.s.stack.Xreg.textView()};
         };
-        SCOPED_TRACE(y.text + " and " + x.text + " word " + std::to_string(calc.s.WordSize));
+        SCOPED_TRACE(y.text + " and " + x.text + " word " + std::to_string(calc.s.format.WordSize));
         ASSERT_EQ(logic("AND"),
                   expected(digit_text::logic(hex(y), hex(x), [](auto a, auto b) { return a & b; }), ofBoth));
         ASSERT_EQ(logic("OR"),
                   expected(digit_text::logic(hex(y), hex(x), [](auto a, auto b) { return a | b; }), ofBoth));
         ASSERT_EQ(logic("XOR"),
                   expected(digit_text::logic(hex(y), hex(x), [](auto a, auto b) { return a ^ b; }), ofBoth));
-        const std::string zeros(static_cast<std::size_t>(calc.s.WordSize / 4), '0');
+        const std::string zeros(static_cast<std::size_t>(calc.s.format.WordSize / 4), '0');
         ASSERT_EQ(logic("NOT"), expected(digit_text::logic(hex(x), zeros, [](auto a, auto) { return 15 - a; }), ofX));
     }
 }
@@ -245,19 +245,20 @@ TEST_F(DigitByDigitKeys, EveryTurnAgreesInAllBasesAtEveryWordSize) {
     constexpr std::size_t kSmallestByteWord = 9;
     Draw draw;
     for (int i = 0; i < 10000; ++i) {
-        calc.s.WordSize = draw.wordSize();
-        const auto word = static_cast<std::size_t>(calc.s.WordSize);
+        calc.s.format.WordSize = draw.wordSize();
+        const auto word = static_cast<std::size_t>(calc.s.format.WordSize);
         const Operand x = draw.tagged();
         SCOPED_TRACE(x.text + " word " + std::to_string(word));
         for (const Turn& turn : kTurns) {
-            calc.s.Xreg = x.text;
+            calc.s.stack.Xreg = x.text;
             keys.RotateShift(turn.code);
             if (turn.step > 1 && word < kSmallestByteWord) {
-                ASSERT_EQ(calc.s.Xreg.textView(), kNothingDone);
+                ASSERT_EQ(calc.s.stack.Xreg.textView(), kNothingDone);
                 continue;
             }
             const std::string turned = turn.turned(digit_text::padded(x.bits, word), turn.step);
-            ASSERT_EQ(calc.s.Xreg.textView(), taggedText(digit_text::rightmost(turned, word), x.letter)) << turn.code;
+            ASSERT_EQ(calc.s.stack.Xreg.textView(), taggedText(digit_text::rightmost(turned, word), x.letter))
+                << turn.code;
         }
     }
 }

@@ -14,7 +14,7 @@ protected:
         type(std::string_view{&character, 1});
         const std::string result = keypads.pressed.empty() ? "" : keypads.pressed.front();
         EXPECT_EQ(calc.entryText(), "") << character;
-        EXPECT_FALSE(calc.s.EntryOpen) << character;
+        EXPECT_FALSE(calc.s.entry.EntryOpen) << character;
         return result;
     }
 };
@@ -22,9 +22,9 @@ protected:
 TEST_F(Entry, TakesDigitsAndOneDecimalCharacter) {
     type("12.5.6");
     EXPECT_EQ(calc.entryText(), "12.56");
-    EXPECT_TRUE(calc.s.EntryOpen);
-    EXPECT_TRUE(calc.s.DigitTyped);
-    EXPECT_TRUE(calc.s.EntryTouched);
+    EXPECT_TRUE(calc.s.entry.EntryOpen);
+    EXPECT_TRUE(calc.s.entry.DigitTyped);
+    EXPECT_TRUE(calc.s.entry.EntryTouched);
 }
 
 TEST_F(Entry, ADecimalCharacterInTheExponentIsDroppedTheSameWay) {
@@ -36,7 +36,7 @@ TEST_F(Entry, TheOtherLocalesDecimalCharacterIsDropped) {
     type("1,5");
     EXPECT_EQ(calc.entryText(), "15");
     entry.cmdEsc_Click();
-    calc.s.DecimalChar = ',';
+    calc.s.format.DecimalChar = ',';
     type("1.2,5");
     EXPECT_EQ(calc.entryText(), "12,5");
 }
@@ -67,7 +67,7 @@ TEST_F(Entry, BackspaceOverTheExponentLetsItBeTypedAgain) {
     type("2e");
     press(kKeyBackspace, 8);
     EXPECT_EQ(calc.entryText(), "2");
-    EXPECT_FALSE(calc.s.EexActive);
+    EXPECT_FALSE(calc.s.entry.EexActive);
     type("e5");
     EXPECT_EQ(calc.entryText(), "2e5");
 }
@@ -78,20 +78,20 @@ TEST_F(Entry, BackspaceDownToNothingLeavesNoOpenEntry) {
     press(kKeyBackspace, 8);
     press(kKeyBackspace, 8);
     EXPECT_EQ(calc.entryText(), "");
-    EXPECT_FALSE(calc.s.EntryOpen);
+    EXPECT_FALSE(calc.s.entry.EntryOpen);
     enter();
     EXPECT_EQ(x(), "7");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
 }
 
 TEST_F(Entry, ADroppedCharacterLeavesNoOpenEntry) {
     commitText("7");
     type("q~$");
-    EXPECT_FALSE(calc.s.EntryOpen);
+    EXPECT_FALSE(calc.s.entry.EntryOpen);
     enter();
     EXPECT_EQ(x(), "7");
     EXPECT_EQ(y(), "7");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
 }
 
 TEST_F(Entry, AfterEnterTheNextDigitStartsANumberThatPushes) {
@@ -101,7 +101,7 @@ TEST_F(Entry, AfterEnterTheNextDigitStartsANumberThatPushes) {
     type("5");
     EXPECT_EQ(calc.entryText(), "5");
     enter();
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
 }
 
 TEST_F(Entry, EscEmptiesTheLine) {
@@ -109,8 +109,8 @@ TEST_F(Entry, EscEmptiesTheLine) {
     type("12e");
     press(kKeyEscape, 27);
     EXPECT_EQ(calc.entryText(), "");
-    EXPECT_FALSE(calc.s.EntryOpen);
-    EXPECT_FALSE(calc.s.EexActive);
+    EXPECT_FALSE(calc.s.entry.EntryOpen);
+    EXPECT_FALSE(calc.s.entry.EexActive);
     enter();
     EXPECT_EQ(x(), "7");
 }
@@ -156,7 +156,7 @@ TEST_F(Entry, FunctionCharactersWorkOnXWhenNothingIsTyped) {
     for (const auto& [character, what] : table) {
         EXPECT_EQ(effect(character), what) << character;
     }
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
 }
 
 TEST_F(Entry, ATypedNumberStaysOpenForTheOperatorToCommit) {
@@ -166,11 +166,11 @@ TEST_F(Entry, ATypedNumberStaysOpenForTheOperatorToCommit) {
 }
 
 TEST_F(Entry, ShortCutsBorrowTheStandardKeypadAndGiveItBack) {
-    calc.s.ActiveKeypad = Keypad::Magnetics;
+    calc.s.modes.ActiveKeypad = Keypad::Magnetics;
     type("^!%p");
     EXPECT_EQ(keypads.pressed, (Pressed{"fn 5 keypad 0 mask 0", "fn 23 keypad 0 mask 0", "fn 4 keypad 5 mask 0",
                                         "fn 3 keypad 0 mask 0"}));
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Magnetics);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Magnetics);
 }
 
 TEST_F(Entry, ControlKeysReachTheirFunctions) {
@@ -198,19 +198,19 @@ TEST_F(Entry, ControlKeysReachTheirFunctions) {
 
 TEST_F(Entry, TheQuizDropsTheOperators) {
     commitText("3");
-    calc.s.QuizMode = true;
+    calc.s.modes.QuizMode = true;
     type("+-*/");
     EXPECT_TRUE(keypads.pressed.empty());
 }
 
 TEST_F(Entry, BaseModeDropsThePowersAndLiftsItselfForPi) {
     commitText("3");
-    calc.s.BaseMode = true;
+    calc.s.modes.BaseMode = true;
     type("^!%");
     EXPECT_TRUE(keypads.pressed.empty());
     type("p");
     EXPECT_EQ(keypads.pressed, (Pressed{"fn 3 keypad 0 mask 0"}));
-    EXPECT_TRUE(calc.s.BaseMode);
+    EXPECT_TRUE(calc.s.modes.BaseMode);
 }
 
 TEST_F(Entry, DoublesAndHalvesX) {
@@ -219,12 +219,12 @@ TEST_F(Entry, DoublesAndHalvesX) {
     type("<");
     EXPECT_EQ(x(), "10");
     EXPECT_EQ(lastLine(), "X                 10.00");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(y(), "9");
     type(">>");
     EXPECT_EQ(x(), "2.5");
     EXPECT_EQ(lastLine(), "\xF6                  2.50");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(lastx(), "5");
 }
 
@@ -232,14 +232,14 @@ TEST_F(Entry, HalvingOnADepthOfOneLeavesTheStackAlone) {
     commitText("5");
     type(">");
     EXPECT_EQ(x(), "2.5");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(element(1), "2.5");
 }
 
 TEST_F(Entry, DoublingATypedNumberCommitsItFirst) {
     type("8<");
     EXPECT_EQ(x(), "16");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(calc.tape.lines(), 2U);
 }
 
@@ -249,7 +249,7 @@ TEST_F(Entry, DoublingBeyondTheRangeIsReportedAndKeepsX) {
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].text, "Error number 6!");
     EXPECT_EQ(element(1), "1e308");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
 }
 
 TEST_F(Entry, ShiftsABaseNumberThroughItsKeys) {
@@ -257,45 +257,45 @@ TEST_F(Entry, ShiftsABaseNumberThroughItsKeys) {
     type("<");
     type(">");
     EXPECT_EQ(keypads.pressed, (Pressed{"fn 7 keypad 10 mask 0 base", "fn 10 keypad 10 mask 0 base"}));
-    EXPECT_FALSE(calc.s.BaseMode) << "lent for the one key";
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
+    EXPECT_FALSE(calc.s.modes.BaseMode) << "lent for the one key";
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
 }
 
 TEST_F(Entry, TheBackslashChangesTheSign) {
     commitText("4");
     type("\\");
     EXPECT_EQ(x(), "-4");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     type("6\\");
     EXPECT_EQ(calc.entryText(), "-6");
-    EXPECT_TRUE(calc.s.EntryOpen);
+    EXPECT_TRUE(calc.s.entry.EntryOpen);
 }
 
 TEST_F(Entry, ABaseNumberIsTypedWithItsTagDigitsAndLetter) {
-    calc.s.BaseMode = true;
+    calc.s.modes.BaseMode = true;
     type("#1AFh");
     EXPECT_EQ(calc.entryText(), "#1AFh");
-    EXPECT_TRUE(calc.s.BaseNumberDone);
-    EXPECT_FALSE(calc.s.BaseTagDue);
+    EXPECT_TRUE(calc.s.entry.BaseNumberDone);
+    EXPECT_FALSE(calc.s.entry.BaseTagDue);
     type("12e.#");
     EXPECT_EQ(calc.entryText(), "#1AFh") << "a finished number takes no more characters";
     press(kKeyBackspace, 8);
     EXPECT_EQ(calc.entryText(), "#1AF");
-    EXPECT_TRUE(calc.s.BaseTagDue);
-    EXPECT_FALSE(calc.s.BaseNumberDone);
+    EXPECT_TRUE(calc.s.entry.BaseTagDue);
+    EXPECT_FALSE(calc.s.entry.BaseNumberDone);
 }
 
 TEST_F(Entry, ABaseNumberWithWrongDigitsEmptiesTheLine) {
-    calc.s.BaseMode = true;
+    calc.s.modes.BaseMode = true;
     keypads.baseDigitsFit = false;
     type("#129o");
     EXPECT_EQ(calc.entryText(), "");
-    EXPECT_FALSE(calc.s.EntryOpen);
-    EXPECT_EQ(calc.s.BaseLetter, "o");
+    EXPECT_FALSE(calc.s.entry.EntryOpen);
+    EXPECT_EQ(calc.s.entry.BaseLetter, "o");
 }
 
 TEST_F(Entry, ASecondTagIsDropped) {
-    calc.s.BaseMode = true;
+    calc.s.modes.BaseMode = true;
     type("#1#");
     EXPECT_EQ(calc.entryText(), "#1");
 }
@@ -310,7 +310,7 @@ TEST_F(Entry, SpecialKeysReachTheirActions) {
         press(keyCode);
         EXPECT_EQ(keypads.pressed, (Pressed{what}));
     }
-    calc.s.ProgramMode = true;
+    calc.s.modes.ProgramMode = true;
     keypads.pressed.clear();
     press(kKeyUp);
     EXPECT_TRUE(keypads.pressed.empty()) << "a program keypad is not left by the arrows";
@@ -334,32 +334,32 @@ TEST_F(Entry, StackKeysFromTheKeyboardAskWhetherTheyAreEnabled) {
 TEST_F(Entry, AHeldModifierLightsItsLampAndPaintsTheBank) {
     holdModifiers(calc.form, kShift);
     EXPECT_TRUE(calc.form.shaShift.visible);
-    EXPECT_EQ(calc.s.ModifierMask, kShift);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kShift);
     EXPECT_EQ(keypads.pressed, (Pressed{"paint 1"}));
     releaseModifiers(calc.form);
     EXPECT_FALSE(calc.form.shaShift.visible);
-    EXPECT_EQ(calc.s.ModifierMask, 0);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
     EXPECT_EQ(keypads.repaints, 1);
 }
 
 TEST_F(Entry, WithoutKeyPaintingTheBankStaysAndTheMaskHolds) {
-    calc.s.NoKeyPaint = true;
+    calc.s.modifiers.NoKeyPaint = true;
     holdModifiers(calc.form, kAlt);
     EXPECT_TRUE(keypads.pressed.empty());
-    EXPECT_EQ(calc.s.ModifierMask, kAlt);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kAlt);
 }
 
 TEST_F(Entry, ALatchedModifierDropsKeysUntilEscEndsIt) {
     commitText("3");
-    calc.s.ModifierLatched = true;
-    calc.s.ModifierMask = kCtrl;
+    calc.s.modifiers.ModifierLatched = true;
+    calc.s.modifiers.ModifierMask = kCtrl;
     type("5+");
     EXPECT_EQ(calc.entryText(), "");
     EXPECT_TRUE(keypads.pressed.empty());
-    EXPECT_EQ(calc.s.ModifierMask, kCtrl) << "a key-up leaves a latched modifier alone";
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kCtrl) << "a key-up leaves a latched modifier alone";
     press(kKeyEscape, 27);
-    EXPECT_FALSE(calc.s.ModifierLatched);
-    EXPECT_EQ(calc.s.ModifierMask, 0);
+    EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
     type("5");
     EXPECT_EQ(calc.entryText(), "5");
 }
@@ -377,7 +377,7 @@ TEST_F(Entry, OnScreenDigitsTypeLikeTheKeyboard) {
     entry.cmdBackSpace_Click();
     entry.cmdBackSpace_Click();
     EXPECT_EQ(calc.entryText(), "1.5");
-    EXPECT_FALSE(calc.s.EexActive);
+    EXPECT_FALSE(calc.s.entry.EexActive);
     entry.cmdEsc_Click();
     EXPECT_EQ(calc.entryText(), "");
     entry.cmdEex_Click();
@@ -386,11 +386,11 @@ TEST_F(Entry, OnScreenDigitsTypeLikeTheKeyboard) {
 }
 
 TEST_F(Entry, ModeKeysRespectModifiers) {
-    calc.s.ModifierMask = kCtrl;
+    calc.s.modifiers.ModifierMask = kCtrl;
     entry.cmdF11_Click();
     entry.cmdF12_Click();
     EXPECT_TRUE(keypads.pressed.empty());
-    calc.s.ModifierMask = kShift;
+    calc.s.modifiers.ModifierMask = kShift;
     entry.cmdF12_Click();
     EXPECT_EQ(keypads.pressed, (Pressed{"convert"}));
     entry.cmdF11_Click();
@@ -399,7 +399,7 @@ TEST_F(Entry, ModeKeysRespectModifiers) {
 }
 
 TEST_F(Entry, ProgramModeSendsLettersToTheProgramKeys) {
-    calc.s.ProgramMode = true;
+    calc.s.modes.ProgramMode = true;
     type("aZ1[^_]");
     EXPECT_EQ(keypads.pressed, (Pressed{"letter 1", "letter 26"}));
     EXPECT_EQ(calc.entryText(), "1");

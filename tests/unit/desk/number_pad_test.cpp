@@ -30,7 +30,7 @@ protected:
 
 TEST_F(DigitShortCuts, FiveIsPercentAndSixIsThePowerInTheRowAndOnThePad) {
     commitText("3");
-    calc.s.ActiveKeypad = Keypad::Magnetics;
+    calc.s.modes.ActiveKeypad = Keypad::Magnetics;
     for (const int five : {kRowFive, kPadFive}) {
         EXPECT_EQ(functionsOf(five, kCtrl), Pressed{"fn 4 keypad 5 mask 2"}) << five;
         EXPECT_EQ(functionsOf(five, kShift | kCtrl), Pressed{"fn 4 keypad 5 mask 1"}) << five;
@@ -38,7 +38,7 @@ TEST_F(DigitShortCuts, FiveIsPercentAndSixIsThePowerInTheRowAndOnThePad) {
     for (const int six : {kRowSix, kPadSix}) {
         EXPECT_EQ(functionsOf(six, kCtrl), Pressed{"fn 5 keypad 0 mask 2"}) << six;
     }
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Magnetics);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Magnetics);
 }
 
 TEST_F(DigitShortCuts, NeighbouringKeysAndOtherModifiersMeanNoFunction) {
@@ -56,7 +56,7 @@ TEST_F(DigitShortCuts, NeighbouringKeysAndOtherModifiersMeanNoFunction) {
 
 TEST_F(DigitShortCuts, PercentRestsWhileNumbersOfABaseAreInForceAndThePowerDoesNot) {
     commitText("3");
-    calc.s.BaseMode = true;
+    calc.s.modes.BaseMode = true;
     for (const int five : {kRowFive, kPadFive}) {
         EXPECT_EQ(functionsOf(five, kCtrl), Pressed{}) << five;
         EXPECT_EQ(functionsOf(five, kShift | kCtrl), Pressed{}) << five;

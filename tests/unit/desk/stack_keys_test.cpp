@@ -11,7 +11,7 @@ TEST_F(StackKeys_, DropTakesTheTopAway) {
     commitText("2");
     commitText("3");
     stackKeys.cmdDown_Click();
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(x(), "2");
     EXPECT_EQ(y(), "1");
     EXPECT_EQ(lastx(), "3");
@@ -22,7 +22,7 @@ TEST_F(StackKeys_, DropAtDepthOneEmptiesTheStack) {
     commitText("5");
     stackKeys.cmdDown_Click();
     EXPECT_EQ(x(), "0");
-    EXPECT_EQ(calc.s.StackPtr, 1);
+    EXPECT_EQ(calc.s.stack.StackPtr, 1);
     EXPECT_FALSE(calc.form.cmdDown.enabled);
     EXPECT_FALSE(calc.form.cmdXchgY.enabled);
     EXPECT_FALSE(calc.form.lblStkReg[7].visible);
@@ -41,7 +41,7 @@ TEST_F(StackKeys_, ExchangeSwapsTheTwoTopElements) {
     commitText("2");
     commitText("3");
     stackKeys.cmdXchgY_Click();
-    EXPECT_EQ(calc.s.depth(), 3);
+    EXPECT_EQ(calc.s.stack.depth(), 3);
     EXPECT_EQ(element(3), "2");
     EXPECT_EQ(element(2), "3");
     EXPECT_EQ(y(), "3");
@@ -54,7 +54,7 @@ TEST_F(StackKeys_, ExchangeCommitsATypedNumberFirst) {
     stackKeys.cmdXchgY_Click();
     EXPECT_EQ(x(), "1");
     EXPECT_EQ(y(), "9");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
 }
 
 TEST_F(StackKeys_, ExchangeOnOneElementTakesZeroForTheMissingOne) {
@@ -63,10 +63,10 @@ TEST_F(StackKeys_, ExchangeOnOneElementTakesZeroForTheMissingOne) {
     EXPECT_EQ(x(), "0");
     EXPECT_EQ(y(), "5");
     EXPECT_EQ(element(1), "5");
-    EXPECT_TRUE(calc.s.slot(0).isEmpty());
+    EXPECT_TRUE(calc.s.stack.slot(0).isEmpty());
     stackKeys.cmdXchgY_Click();
     EXPECT_EQ(x(), "5");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
 }
 
 TEST_F(StackKeys_, LastXIsPushed) {
@@ -76,7 +76,7 @@ TEST_F(StackKeys_, LastXIsPushed) {
     stackKeys.cmdLastx_Click();
     EXPECT_EQ(x(), "7");
     EXPECT_EQ(y(), "49");
-    EXPECT_EQ(calc.s.depth(), 3);
+    EXPECT_EQ(calc.s.stack.depth(), 3);
     EXPECT_EQ(lastLine(), "Lastx              7.00");
 }
 
@@ -89,7 +89,7 @@ TEST_F(StackKeys_, LastXKeepsATypedNumberThatGoesOnAfterwards) {
     EXPECT_EQ(calc.entryText(), "123");
     enter();
     EXPECT_EQ(x(), "123");
-    EXPECT_EQ(calc.s.depth(), 3);
+    EXPECT_EQ(calc.s.stack.depth(), 3);
 }
 
 TEST_F(StackKeys_, ChangeSignOfXReplacesTheTop) {
@@ -97,7 +97,7 @@ TEST_F(StackKeys_, ChangeSignOfXReplacesTheTop) {
     commitText("2.50");
     stackKeys.cmdChs_Click();
     EXPECT_EQ(x(), "-2.5");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(lastx(), "2.50");
     EXPECT_EQ(lastLine(), "CHS               -2.50");
     EXPECT_EQ(calc.entryText(), "");
@@ -119,7 +119,7 @@ TEST_F(StackKeys_, ChangeSignOfATypedNumberChangesTheTextOnly) {
     stackKeys.cmdChs_Click();
     EXPECT_EQ(calc.entryText(), "-1.50");
     EXPECT_EQ(lastx(), "4");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(calc.form.txtXreg.caret, 5U);
     enter();
     EXPECT_EQ(x(), "-1.50");
@@ -157,13 +157,13 @@ TEST_F(StackKeys_, ZeroHasNoSign) {
 
 TEST_F(StackKeys_, OnTheBinaryKeypadChangeSignGivesTheRemainder) {
     commitText("#7d");
-    calc.s.BaseMode = true;
-    calc.s.BaseRemainder = "#3d";
+    calc.s.modes.BaseMode = true;
+    calc.s.format.BaseRemainder = "#3d";
     stackKeys.cmdChs_Click();
     EXPECT_EQ(x(), "#3d");
     EXPECT_EQ(lastLine(), "Mod                 #3d");
-    EXPECT_EQ(calc.s.depth(), 2);
-    calc.s.BaseRemainder = "";
+    EXPECT_EQ(calc.s.stack.depth(), 2);
+    calc.s.format.BaseRemainder = "";
     stackKeys.cmdChs_Click();
     EXPECT_EQ(x(), "0");
 }
@@ -171,13 +171,13 @@ TEST_F(StackKeys_, OnTheBinaryKeypadChangeSignGivesTheRemainder) {
 TEST_F(StackKeys_, AllFourDoNothingUnderAModifier) {
     commitText("1");
     commitText("2");
-    calc.s.ModifierMask = kShift;
+    calc.s.modifiers.ModifierMask = kShift;
     stackKeys.cmdDown_Click();
     stackKeys.cmdXchgY_Click();
     stackKeys.cmdLastx_Click();
     stackKeys.cmdChs_Click();
     EXPECT_EQ(calc.tape.lines(), 2U);
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(calc.form.focus, &calc.form.txtXreg);
 }
 
@@ -241,8 +241,8 @@ TEST_F(StackRows, AnEmptyStackShowsNothing) {
 }
 
 TEST_F(StackRows, TheCompactLayoutMarksSixRows) {
-    calc.s.CompactForm = true;
-    calc.s.TapeRows = 5;
+    calc.s.window.CompactForm = true;
+    calc.s.window.TapeRows = 5;
     commitText("1");
     EXPECT_EQ(marks(), (std::vector<std::string>{"X5"}));
     for (int i = 2; i <= 9; ++i) {

@@ -12,18 +12,18 @@ protected:
 };
 
 TEST_F(DialogHandOverTest, EnteringPassesXAndTheMaskAndClearsTheMask) {
-    calc.s.Xreg = 4.5;
-    calc.s.ModifierMask = kCtrl | kAlt;
+    calc.s.stack.Xreg = 4.5;
+    calc.s.modifiers.ModifierMask = kCtrl | kAlt;
     handOver.EnterDialog();
     EXPECT_EQ(calc.text(handOver.DialogValue), "4.5");
     EXPECT_EQ(handOver.DialogCalcId, kCtrl | kAlt);
-    EXPECT_EQ(calc.s.ModifierMask, 0);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
     EXPECT_TRUE(calc.dialogOpen);
 }
 
 TEST_F(DialogHandOverTest, LeavingWithoutALabelMeansNothingDone) {
     handOver.EnterDialog();
-    calc.s.Xreg = 7.0;
+    calc.s.stack.Xreg = 7.0;
     handOver.LeaveDialog();
     EXPECT_EQ(x(), "ZZZ");
     EXPECT_FALSE(calc.dialogOpen);
@@ -31,15 +31,15 @@ TEST_F(DialogHandOverTest, LeavingWithoutALabelMeansNothingDone) {
 
 TEST_F(DialogHandOverTest, ALabelledResultStays) {
     handOver.EnterDialog();
-    calc.s.Xreg = 7.0;
-    calc.s.FnLabel = "Fr(Hz)";
+    calc.s.stack.Xreg = 7.0;
+    calc.s.delivery.FnLabel = "Fr(Hz)";
     handOver.LeaveDialog();
     EXPECT_EQ(x(), "7");
 }
 
 TEST_F(DialogHandOverTest, ClearingEmptiesAllThatWasPassed) {
-    calc.s.ModifierMask = kShift;
-    calc.s.Xreg = 7.0;
+    calc.s.modifiers.ModifierMask = kShift;
+    calc.s.stack.Xreg = 7.0;
     handOver.EnterDialog();
     handOver.DialogValue2 = 3.0;
     handOver.DialogValues[6] = 5.0;

@@ -8,7 +8,7 @@ class Commit_ : public EngineTest {};
 
 TEST_F(Commit_, EnterOnAnEmptyLineAndAnEmptyStackPushesZero) {
     enter();
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(x(), "0");
     EXPECT_EQ(y(), "0");
     EXPECT_EQ(lastLine(), "0.00");
@@ -18,7 +18,7 @@ TEST_F(Commit_, EnterOnAnEmptyLineDuplicatesX) {
     type("5");
     enter();
     enter();
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(x(), "5");
     EXPECT_EQ(y(), "5");
     EXPECT_EQ(lastx(), "5");
@@ -32,7 +32,7 @@ TEST_F(Commit_, ATypedNumberStaysTheTextThatWasTyped) {
     type("8");
     enter();
     EXPECT_EQ(y(), "7.50");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(lastx(), "7.50");
 }
 
@@ -56,7 +56,7 @@ TEST_F(Commit_, ANumberBeyondTheRangeIsRefusedAndTheDepthStays) {
     EXPECT_EQ(platform.boxes[0].title, "numDisplay Error!");
     EXPECT_EQ(platform.boxes[0].kind, BoxKind::Stop);
     EXPECT_EQ(x(), "0");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(element(1), "4");
     EXPECT_EQ(calc.tape.lines(), 1U);
     EXPECT_EQ(calc.tape.fillers(), 6) << "a failed display takes no filler line away";
@@ -77,10 +77,10 @@ TEST_F(Commit_, TheEntryLineIsEmptyAfterwardsUnlessItsTextIsKept) {
     enter();
     EXPECT_EQ(calc.entryText(), "");
     commitText("4");
-    calc.s.KeepEntryText = true;
+    calc.s.delivery.KeepEntryText = true;
     commitText("6");
     EXPECT_EQ(calc.entryText(), "6");
-    EXPECT_FALSE(calc.s.KeepEntryText);
+    EXPECT_FALSE(calc.s.delivery.KeepEntryText);
 }
 
 TEST_F(Commit_, ABaseNumberWithoutLetterButWithAHexDigitGetsItsLetter) {
@@ -101,64 +101,64 @@ TEST_F(Commit_, ABaseNumberWithoutLetterAndHexDigitIsTakenBack) {
     EXPECT_EQ(x(), "4");
     EXPECT_EQ(y(), "3");
     EXPECT_EQ(lastx(), "3");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(calc.tape.lines(), 2U);
 }
 
 TEST_F(Commit_, AFunctionOnAnEmptyStackLeavesItEmpty) {
     EXPECT_TRUE(calc.commit.FetchX());
     EXPECT_EQ(x(), "0");
-    EXPECT_EQ(calc.s.StackPtr, 1);
-    calc.s.Xreg = 1.0;
+    EXPECT_EQ(calc.s.stack.StackPtr, 1);
+    calc.s.stack.Xreg = 1.0;
     calc.setEntry("1");
     calc.commit.cmdEnter_Click();
-    EXPECT_EQ(calc.s.StackPtr, 1);
+    EXPECT_EQ(calc.s.stack.StackPtr, 1);
     EXPECT_EQ(y(), "0");
 }
 
 TEST_F(Commit_, PushResultAddsAnElementAndKeepsTheUsersFormat) {
-    calc.s.Xreg = 123456.0;
-    calc.s.FnLabel = "big";
+    calc.s.stack.Xreg = 123456.0;
+    calc.s.delivery.FnLabel = "big";
     calc.commit.PushResult();
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(lastLine(), "big         123.456e+03");
-    EXPECT_EQ(calc.s.DisplayDigits, 2);
-    EXPECT_EQ(calc.s.Mode, DisplayMode::Fixed);
-    EXPECT_TRUE(calc.s.ValueInXreg);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 2);
+    EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
+    EXPECT_TRUE(calc.s.delivery.ValueInXreg);
 }
 
 TEST_F(Commit_, PushResultLeavesDigitsThatTheCallerHasSet) {
-    calc.s.KeepDigits = true;
-    calc.s.Xreg = 0.5;
+    calc.s.delivery.KeepDigits = true;
+    calc.s.stack.Xreg = 0.5;
     calc.commit.PushResult();
     EXPECT_EQ(lastLine(), "0.50");
 }
 
 TEST_F(Commit_, AutoDigitsChoosesTwoForZeroAndLeavesAMiddlingNumberAlone) {
-    calc.s.DisplayDigits = 5;
-    calc.s.Xreg = 42.0;
+    calc.s.format.DisplayDigits = 5;
+    calc.s.stack.Xreg = 42.0;
     calc.commit.AutoDigits();
-    EXPECT_EQ(calc.s.DisplayDigits, 5);
-    calc.s.Xreg = 0.0;
+    EXPECT_EQ(calc.s.format.DisplayDigits, 5);
+    calc.s.stack.Xreg = 0.0;
     calc.commit.AutoDigits();
-    EXPECT_EQ(calc.s.DisplayDigits, 2);
-    calc.s.Xreg = kNothingDone;
+    EXPECT_EQ(calc.s.format.DisplayDigits, 2);
+    calc.s.stack.Xreg = kNothingDone;
     calc.commit.AutoDigits();
-    EXPECT_EQ(calc.s.Mode, DisplayMode::Fixed);
+    EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
 }
 
 TEST_F(Commit_, ASkippedTailStoresWithoutATapeLine) {
     type("9");
-    calc.s.SkipCommitTail = true;
+    calc.s.delivery.SkipCommitTail = true;
     calc.commit.cmdEnter_Click();
     EXPECT_EQ(element(1), "9");
     EXPECT_EQ(calc.tape.lines(), 0U);
     EXPECT_EQ(calc.entryText(), "9");
-    EXPECT_FALSE(calc.s.SkipCommitTail);
+    EXPECT_FALSE(calc.s.delivery.SkipCommitTail);
 }
 
 TEST_F(Commit_, ALabelThatWasNotPrintedStandsOnNoLaterLine) {
-    calc.s.FnLabel = "lost";
+    calc.s.delivery.FnLabel = "lost";
     commitText("1e999");
     commitText("2");
     EXPECT_EQ(lastLine(), "2.00");
@@ -186,12 +186,12 @@ TEST_F(Commit_, KeysOfTheStackComeAliveWithTheFirstNumber) {
 
 TEST_F(Commit_, ARunningProgramKeepsTheExactValueBehindItsText) {
     replaceTop(1.0 / 3.0, "");
-    calc.s.RoundTripCheck = true;
-    calc.s.EntryOpen = true;
+    calc.s.entry.RoundTripCheck = true;
+    calc.s.entry.EntryOpen = true;
     calc.setEntry("0.333333333333333");
     calc.commit.cmdEnter_Click();
     EXPECT_EQ(calc.xNumber(), 1.0 / 3.0);
-    calc.s.EntryOpen = true;
+    calc.s.entry.EntryOpen = true;
     calc.setEntry("0.25");
     calc.commit.cmdEnter_Click();
     EXPECT_EQ(x(), "0.25");
@@ -201,7 +201,7 @@ TEST_F(Commit_, TapeLineWritesTextAndLeavesZeroInX) {
     calc.commit.TapeLine("hello");
     EXPECT_EQ(lastLine(), "hello");
     EXPECT_EQ(x(), "0");
-    EXPECT_EQ(calc.s.depth(), 0);
+    EXPECT_EQ(calc.s.stack.depth(), 0);
 }
 
 TEST_F(Commit_, AModifierOnTheLampsIsShownBitByBit) {

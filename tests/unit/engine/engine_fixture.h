@@ -54,9 +54,9 @@ public:
 private:
     void note(const std::string& kind, int index) {
         pressed.push_back(kind + " " + std::to_string(index) + " keypad " +
-                          std::to_string(static_cast<int>(calc.s.ActiveKeypad)) + " mask " +
-                          std::to_string(calc.s.ModifierMask) + (calc.s.EntryOpen ? " open" : "") +
-                          (calc.s.BaseMode ? " base" : ""));
+                          std::to_string(static_cast<int>(calc.s.modes.ActiveKeypad)) + " mask " +
+                          std::to_string(calc.s.modifiers.ModifierMask) + (calc.s.entry.EntryOpen ? " open" : "") +
+                          (calc.s.modes.BaseMode ? " base" : ""));
     }
     Engine& calc;
 };
@@ -80,17 +80,17 @@ protected:
     /// A function's result: replaces the top under `label`.
     void replaceTop(ValueCell value, std::string_view label) {
         EXPECT_TRUE(calc.commit.FetchX());
-        calc.s.LastX = calc.s.Xreg;
-        calc.s.Xreg = std::move(value);
-        calc.s.FnLabel = label;
-        calc.s.ValueInXreg = true;
+        calc.s.stack.LastX = calc.s.stack.Xreg;
+        calc.s.stack.Xreg = std::move(value);
+        calc.s.delivery.FnLabel = label;
+        calc.s.delivery.ValueInXreg = true;
         calc.commit.cmdEnter_Click();
     }
 
-    [[nodiscard]] std::string x() const { return calc.text(calc.s.Xreg); }
-    [[nodiscard]] std::string y() const { return calc.text(calc.s.Yreg); }
-    [[nodiscard]] std::string lastx() const { return calc.text(calc.s.LastX); }
-    [[nodiscard]] std::string element(int index) const { return calc.text(calc.s.slot(index)); }
+    [[nodiscard]] std::string x() const { return calc.text(calc.s.stack.Xreg); }
+    [[nodiscard]] std::string y() const { return calc.text(calc.s.stack.Yreg); }
+    [[nodiscard]] std::string lastx() const { return calc.text(calc.s.stack.LastX); }
+    [[nodiscard]] std::string element(int index) const { return calc.text(calc.s.stack.slot(index)); }
     /// Tape line `index` from 1, fillers not counted.
     [[nodiscard]] std::string tapeLine(std::size_t index) const {
         return calc.tape.row(static_cast<std::size_t>(calc.tape.fillers()) + index - 1);

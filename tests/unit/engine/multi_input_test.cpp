@@ -37,21 +37,21 @@ protected:
     /// A press as the dispatch makes it, the number in X typed before.
     MultiInput::Outcome pressKeyOf(MultiInput& input, std::uint8_t mask, std::string_view typed = {}) {
         type(typed);
-        calc.s.ModifierMask = mask;
-        calc.s.SkipCommitTail = calc.s.EntryOpen;
+        calc.s.modifiers.ModifierMask = mask;
+        calc.s.delivery.SkipCommitTail = calc.s.entry.EntryOpen;
         EXPECT_TRUE(calc.commit.FetchX());
-        calc.s.SkipCommitTail = false;
-        calc.s.LastX = calc.s.Xreg;
+        calc.s.delivery.SkipCommitTail = false;
+        calc.s.stack.LastX = calc.s.stack.Xreg;
         const MultiInput::Outcome outcome = input.press();
-        calc.s.ModifierMask = 0;
-        calc.s.EntryTouched = false;
+        calc.s.modifiers.ModifierMask = 0;
+        calc.s.entry.EntryTouched = false;
         if (outcome == MultiInput::Outcome::NoMeaning) {
-            calc.s.Xreg = "";
-            calc.s.ValueInXreg = false;
+            calc.s.stack.Xreg = "";
+            calc.s.delivery.ValueInXreg = false;
             calc.setEntry({});
             return outcome;
         }
-        calc.s.ValueInXreg = true;
+        calc.s.delivery.ValueInXreg = true;
         calc.commit.cmdEnter_Click();
         calc.display.RestoreDisplay();
         return outcome;
@@ -85,9 +85,9 @@ TEST_F(MultiInputTest, AnyPairInAnyOrderDetermines) {
 TEST_F(MultiInputTest, InputsAndResultTakeOnePlaceOnTheStack) {
     commitText("7");
     press(kCtrl, "100");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     press(kAlt, "25");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(element(1), "7");
     EXPECT_EQ(element(2), "20");
     EXPECT_EQ(y(), "7");
@@ -99,12 +99,12 @@ TEST_F(MultiInputTest, AnInputMayBeComputedOnTheStack) {
     commitText("20");
     commitText("5");
     calc.commit.lowerStack(2);
-    calc.s.Xreg = 25.0;
-    calc.s.ValueInXreg = true;
+    calc.s.stack.Xreg = 25.0;
+    calc.s.delivery.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
     EXPECT_EQ(press(kAlt), Outcome::Solved);
     EXPECT_EQ(x(), "20");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(element(1), "7");
 }
 
@@ -112,9 +112,9 @@ TEST_F(MultiInputTest, AnInputThatStandsOnTheStackAlreadyIsReplacedInItsPlace) {
     commitText("7");
     commitText("100");
     press(kCtrl);
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     press(kAlt, "25");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(element(1), "7");
 }
 
@@ -124,7 +124,7 @@ TEST_F(MultiInputTest, AnInputGivenTwiceReplacesItsFormerValue) {
     EXPECT_EQ(key.received(), 2);
     press(kAlt, "25");
     EXPECT_EQ(x(), "20");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
 }
 
 TEST_F(MultiInputTest, ShiftComputesAgainFromTheStoredOthersAndShowsThem) {
@@ -171,7 +171,7 @@ TEST_F(MultiInputTest, NothingEnteredClearsTheStoredInputs) {
 TEST_F(MultiInputTest, OnAnEmptyStackThePressIsAReset) {
     EXPECT_EQ(press(0), Outcome::Reset);
     EXPECT_EQ(x(), "0");
-    EXPECT_EQ(calc.s.depth(), 0);
+    EXPECT_EQ(calc.s.stack.depth(), 0);
 }
 
 TEST_F(MultiInputTest, AKeyMayTakeZeroAsAnInput) {
@@ -181,17 +181,17 @@ TEST_F(MultiInputTest, AKeyMayTakeZeroAsAnInput) {
 
 TEST_F(MultiInputTest, TheResetBitClearsTheStateOnceAtTheNextPress) {
     press(kCtrl, "100");
-    EXPECT_EQ(calc.s.FunctionResetMask & kResetBit, 0U) << "the first press has taken it";
-    calc.s.FunctionResetMask = 0x7FFFFFFF;
+    EXPECT_EQ(calc.s.functions.FunctionResetMask & kResetBit, 0U) << "the first press has taken it";
+    calc.s.functions.FunctionResetMask = 0x7FFFFFFF;
     EXPECT_EQ(press(kAlt, "25"), Outcome::Stored);
-    EXPECT_EQ(calc.s.FunctionResetMask, 0x7FFFFFFFU - kResetBit);
+    EXPECT_EQ(calc.s.functions.FunctionResetMask, 0x7FFFFFFFU - kResetBit);
     EXPECT_EQ(key.received(), 4);
 }
 
 TEST_F(MultiInputTest, AfterAResetShiftHasNothingToComputeFrom) {
     press(kCtrl, "100");
     press(kAlt, "25");
-    calc.s.FunctionResetMask |= kResetBit;
+    calc.s.functions.FunctionResetMask |= kResetBit;
     EXPECT_EQ(press(kAlt | kShift, "50"), Outcome::Stored);
 }
 
@@ -209,13 +209,13 @@ TEST_F(MultiInputTest, AFailedSolutionLeavesTheStackAndTheOtherInputs) {
     commitText("7");
     press(0, "100");
     type("100");
-    calc.s.ModifierMask = kCtrl;
+    calc.s.modifiers.ModifierMask = kCtrl;
     EXPECT_TRUE(calc.commit.FetchX());
-    const int pointer = calc.s.StackPtr;
+    const int pointer = calc.s.stack.StackPtr;
     EXPECT_THROW(key.press(), Failure) << "both alike: the other one is infinite";
-    EXPECT_EQ(calc.s.StackPtr, pointer);
+    EXPECT_EQ(calc.s.stack.StackPtr, pointer);
     EXPECT_EQ(key.received(), 1);
-    calc.s.ValueInXreg = true;
+    calc.s.delivery.ValueInXreg = true;
     calc.commit.cmdEnter_Click();
     EXPECT_EQ(press(kCtrl, "200"), Outcome::Solved);
     EXPECT_DOUBLE_EQ(calc.xNumber(), 200.0);
@@ -227,19 +227,19 @@ TEST_F(MultiInputTest, ADropBetweenTheInputsDoesNotRaiseTheStack) {
     press(kCtrl, "100");
     stackKeys.cmdDown_Click();
     stackKeys.cmdDown_Click();
-    ASSERT_EQ(calc.s.depth(), 0);
+    ASSERT_EQ(calc.s.stack.depth(), 0);
     EXPECT_EQ(press(kAlt, "25"), Outcome::Solved);
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(element(1), "20");
 }
 
 TEST_F(MultiInputTest, TheUsersFormatReturnsAfterTheResult) {
-    calc.s.DisplayDigits = 5;
+    calc.s.format.DisplayDigits = 5;
     press(kCtrl, "1e6");
     press(kAlt, "1e6");
     EXPECT_EQ(lastLine(), "RT          500.000e+03");
-    EXPECT_EQ(calc.s.DisplayDigits, 5);
-    EXPECT_EQ(calc.s.Mode, DisplayMode::Fixed);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 5);
+    EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
 }
 
 }  // namespace

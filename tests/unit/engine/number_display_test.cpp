@@ -7,8 +7,8 @@ namespace {
 class Display : public EngineTest {
 protected:
     std::string shown(double value, int digits, DisplayMode mode = DisplayMode::Fixed) {
-        calc.s.DisplayDigits = digits;
-        calc.s.Mode = mode;
+        calc.s.format.DisplayDigits = digits;
+        calc.s.format.Mode = mode;
         return calc.display.numDisplay(value);
     }
 };
@@ -57,33 +57,33 @@ constexpr Shown kShown[] = {
 
 TEST_F(Display, NumbersReadAsTheModeAndDigitsSay) {
     for (const Shown& row : kShown) {
-        calc.s.DecimalChar = row.decimal;
+        calc.s.format.DecimalChar = row.decimal;
         EXPECT_EQ(shown(row.value, row.digits, row.mode), row.text) << row.value << " at " << row.digits;
-        EXPECT_EQ(calc.s.Mode, row.mode) << "the mode key does not move";
+        EXPECT_EQ(calc.s.format.Mode, row.mode) << "the mode key does not move";
     }
 }
 
 TEST_F(Display, MakesRoomForALabelInTheLongFormats) {
-    calc.s.FnLabel = "a longer label";
+    calc.s.delivery.FnLabel = "a longer label";
     EXPECT_EQ(shown(1.0, 12, DisplayMode::Scientific), "1.00e+00");
     EXPECT_EQ(shown(1.0, 9, DisplayMode::Engineering), "1.e+00") << "a count of zeros is never below 0";
-    calc.s.FnLabel = "sin";
+    calc.s.delivery.FnLabel = "sin";
     EXPECT_EQ(shown(1.0, 12, DisplayMode::Scientific), "1.0000000000e+00");
     EXPECT_EQ(shown(1.0, 12, DisplayMode::Engineering), "1.00000000e+00");
 }
 
 TEST_F(Display, ShowsThePlainTextOnce) {
-    calc.s.ShowRawOnce = true;
+    calc.s.delivery.ShowRawOnce = true;
     EXPECT_EQ(calc.display.numDisplay("2.500"), "2.500");
     EXPECT_EQ(calc.display.numDisplay("2.500"), "2.50");
 }
 
 TEST_F(Display, LaysAFractionOutAsMinutesAndSecondsOnce) {
-    calc.s.DisplayDigits = 5;
-    calc.s.DmsDisplay = true;
+    calc.s.format.DisplayDigits = 5;
+    calc.s.delivery.DmsDisplay = true;
     EXPECT_EQ(calc.display.numDisplay(12.3045), "12:30 45.0");
-    EXPECT_FALSE(calc.s.DmsDisplay);
-    calc.s.DmsDisplay = true;
+    EXPECT_FALSE(calc.s.delivery.DmsDisplay);
+    calc.s.delivery.DmsDisplay = true;
     EXPECT_EQ(calc.display.numDisplay(-0.3045), "-0:30 45.0");
 }
 
@@ -94,7 +94,7 @@ TEST_F(Display, ALabelStandsLeftAndTheValueEndsInColumn23) {
 }
 
 TEST_F(Display, ALongValueWithALabelTakesTwoLines) {
-    calc.s.DisplayDigits = 12;
+    calc.s.format.DisplayDigits = 12;
     replaceTop(123456.123456789, "product");
     ASSERT_EQ(calc.tape.lines(), 2U);
     EXPECT_EQ(tapeLine(1), "123,456.123 456 789 000");
@@ -103,7 +103,7 @@ TEST_F(Display, ALongValueWithALabelTakesTwoLines) {
 }
 
 TEST_F(Display, ALongValueWithAOneCharacterLabelKeepsOneLine) {
-    calc.s.DisplayDigits = 12;
+    calc.s.format.DisplayDigits = 12;
     replaceTop(123456.123456789, "+");
     ASSERT_EQ(calc.tape.lines(), 1U);
     EXPECT_EQ(tapeLine(1), "+123,456.123 456 789 000");
@@ -132,37 +132,37 @@ TEST_F(Display, ALongBaseNumberWrapsAndItsLabelStandsOnTheLastLine) {
 }
 
 TEST_F(Display, SaveAndRestoreBringTheFormatBack) {
-    calc.s.DisplayDigits = 4;
+    calc.s.format.DisplayDigits = 4;
     calc.display.optFix_Click(DisplayMode::Engineering);
     calc.display.SaveDisplay(0);
-    EXPECT_EQ(calc.s.Mode, DisplayMode::Fixed);
-    EXPECT_EQ(calc.s.DisplayDigits, 0);
+    EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 0);
     calc.display.RestoreDisplay();
-    EXPECT_EQ(calc.s.Mode, DisplayMode::Engineering);
-    EXPECT_EQ(calc.s.DisplayDigits, 4);
+    EXPECT_EQ(calc.s.format.Mode, DisplayMode::Engineering);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 4);
     EXPECT_TRUE(calc.form.optFix[2].checked);
     EXPECT_EQ(calc.form.cmdDigits.text, "Display(4)");
-    calc.s.DisplayDigits = 7;
+    calc.s.format.DisplayDigits = 7;
     calc.display.RestoreDisplay();
-    EXPECT_EQ(calc.s.DisplayDigits, 7) << "without a saved format nothing is restored";
+    EXPECT_EQ(calc.s.format.DisplayDigits, 7) << "without a saved format nothing is restored";
 }
 
 TEST_F(Display, DigitsKeyTakesTheEntryLine) {
     type("5");
     calc.display.cmdDigits_Click();
-    EXPECT_EQ(calc.s.DisplayDigits, 5);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 5);
     EXPECT_EQ(calc.form.cmdDigits.text, "Display(5)");
     EXPECT_EQ(calc.entryText(), "");
-    EXPECT_FALSE(calc.s.EntryOpen);
-    EXPECT_EQ(calc.s.depth(), 0);
+    EXPECT_FALSE(calc.s.entry.EntryOpen);
+    EXPECT_EQ(calc.s.stack.depth(), 0);
 }
 
 TEST_F(Display, DigitsKeyTakesXWhereNothingIsTyped) {
     commitText("8");
     commitText("3");
     calc.display.cmdDigits_Click();
-    EXPECT_EQ(calc.s.DisplayDigits, 3);
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 3);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(x(), "8");
 }
 
@@ -172,12 +172,12 @@ TEST_F(Display, ThirteenDigitsAreRefusedAndNothingChanges) {
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].text, "0 to 12 only for this function");
     EXPECT_EQ(platform.boxes[0].title, "Out of Range!");
-    EXPECT_EQ(calc.s.DisplayDigits, 2);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 2);
     EXPECT_EQ(x(), "13");
-    EXPECT_EQ(calc.s.depth(), 1) << "the number is not lost";
+    EXPECT_EQ(calc.s.stack.depth(), 1) << "the number is not lost";
     type("13");
     calc.display.cmdDigits_Click();
-    EXPECT_EQ(calc.s.DisplayDigits, 2);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 2);
 }
 
 TEST_F(Display, DigitsKeyWithoutANumberSaysSo) {
@@ -197,17 +197,17 @@ TEST_F(Display, DigitsKeyReportsATextThatIsNoNumber) {
 
 TEST_F(Display, DigitsKeyWithAModifierOnlyClearsIt) {
     type("5");
-    calc.s.ModifierMask = kAlt;
+    calc.s.modifiers.ModifierMask = kAlt;
     calc.display.cmdDigits_Click();
-    EXPECT_EQ(calc.s.ModifierMask, 0);
-    EXPECT_EQ(calc.s.DisplayDigits, 2);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 2);
 }
 
 TEST_F(Display, OnTheBinaryKeypadTheDigitsKeySetsTheWordSize) {
-    calc.s.BaseMode = true;
+    calc.s.modes.BaseMode = true;
     calc.setEntry("8");
     calc.display.cmdDigits_Click();
-    EXPECT_EQ(calc.s.WordSize, 8);
+    EXPECT_EQ(calc.s.format.WordSize, 8);
     EXPECT_EQ(calc.form.cmdDigits.text, "wrdsze(8)");
     EXPECT_FALSE(calc.form.cmdFunctions[20].enabled);
     calc.setEntry("65");
@@ -215,7 +215,7 @@ TEST_F(Display, OnTheBinaryKeypadTheDigitsKeySetsTheWordSize) {
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].text, "4 to 64 only for this function");
     EXPECT_EQ(platform.boxes[0].title, "Out of Range!");
-    EXPECT_EQ(calc.s.WordSize, 8);
+    EXPECT_EQ(calc.s.format.WordSize, 8);
 }
 
 TEST_F(Display, TheEighthLineWidensTheTape) {

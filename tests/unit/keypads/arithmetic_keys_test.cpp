@@ -17,7 +17,7 @@ protected:
         type(text);
         enter();
     }
-    void setRegister(std::size_t number, double value) { calc.s.Registers.at(number) = value; }
+    void setRegister(std::size_t number, double value) { calc.s.memory.Registers.at(number) = value; }
     void clickUnder(std::uint8_t mask, std::size_t key) {
         latch(static_cast<std::size_t>(mask) - 1);
         clickMath(key);
@@ -38,12 +38,12 @@ TEST_F(ArithmeticKeysTest, EachKeyComputesYOperatorX) {
     } rows[] = {{kDivide, "2", "ö"_t}, {kMultiply, "18", "X"}, {kSubtract, "3", "-"}, {kAdd, "9", "+"}};
     for (const auto& row : rows) {
         push("6");
-        const int depth = calc.s.depth();
+        const int depth = calc.s.stack.depth();
         type("3");
         clickMath(row.key);
         EXPECT_EQ(x(), row.result);
         EXPECT_EQ(lastx(), "3");
-        EXPECT_EQ(calc.s.depth(), depth);
+        EXPECT_EQ(calc.s.stack.depth(), depth);
         EXPECT_TRUE(lastLine().starts_with(std::string(row.label) + " ")) << lastLine();
     }
 }
@@ -51,10 +51,10 @@ TEST_F(ArithmeticKeysTest, EachKeyComputesYOperatorX) {
 TEST_F(ArithmeticKeysTest, SixDividedByThreeLeavesOneElementFewer) {
     push("6");
     push("3");
-    ASSERT_EQ(calc.s.depth(), 2);
+    ASSERT_EQ(calc.s.stack.depth(), 2);
     type("/");
     EXPECT_EQ(x(), "2");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(lastLine(), "\xF6                  2.00");
 }
 
@@ -65,7 +65,7 @@ TEST_F(ArithmeticKeysTest, KeepsDivisionByZeroQuietAndCommitsTheDivisor) {
     EXPECT_EQ(x(), "0");
     EXPECT_EQ(y(), "0");
     EXPECT_EQ(lastx(), "0");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(lastLine(), "\xF6                  0.00");
 }
 
@@ -74,7 +74,7 @@ TEST_F(ArithmeticKeysTest, AnOverflowIsToldAndXStays) {
     type("1e300*");
     expectRangeMessage();
     EXPECT_EQ(calc.xNumber(), 1e300);
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
 }
 
 TEST_F(ArithmeticKeysTest, OperatorsOfTheKeyboardReachTheKeys) {
@@ -96,13 +96,13 @@ TEST_F(ArithmeticKeysTest, PlusOnAnEmptyLineAddsTheTwoTopElements) {
     type("+");
     EXPECT_EQ(x(), "5");
     EXPECT_EQ(y(), "1");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
 }
 
 TEST_F(ArithmeticKeysTest, ASingleNumberMeetsZeroAndLandsUnderTheStack) {
     type("5+");
     EXPECT_EQ(x(), "5");
-    EXPECT_EQ(calc.s.depth(), 0);
+    EXPECT_EQ(calc.s.stack.depth(), 0);
     type("2+");
     EXPECT_EQ(x(), "7");
 }
@@ -110,7 +110,7 @@ TEST_F(ArithmeticKeysTest, ASingleNumberMeetsZeroAndLandsUnderTheStack) {
 TEST_F(ArithmeticKeysTest, OnAnEmptyMachineItGivesZero) {
     clickMath(kAdd);
     EXPECT_EQ(x(), "0");
-    EXPECT_GE(calc.s.StackPtr, 1);
+    EXPECT_GE(calc.s.stack.StackPtr, 1);
     EXPECT_TRUE(platform.boxes.empty());
 }
 
@@ -125,11 +125,11 @@ TEST_F(ArithmeticKeysTest, CtrlWorksOnRegisterOneAndLeavesXTheStackAndTheTape) {
     EXPECT_EQ(x(), "3");
     EXPECT_EQ(element(1), "8");
     EXPECT_EQ(element(2), "3");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(calc.tape.lines(), lines);
-    EXPECT_TRUE(calc.s.RegistersUsed);
-    EXPECT_FALSE(calc.s.ModifierLatched);
-    EXPECT_FALSE(calc.s.ValueInXreg);
+    EXPECT_TRUE(calc.s.memory.RegistersUsed);
+    EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
+    EXPECT_FALSE(calc.s.delivery.ValueInXreg);
 }
 
 TEST_F(ArithmeticKeysTest, CtrlTakesTheRegisterAsTheLeftSideOfAllFour) {
@@ -161,7 +161,7 @@ TEST_F(ArithmeticKeysTest, CtrlCommitsATypedNumberFirst) {
     clickUnder(kCtrl, kSubtract);
     EXPECT_EQ(reg(1), "7");
     EXPECT_EQ(x(), "3");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(calc.tape.lines(), 1U) << "the typed number's own line";
     EXPECT_EQ(calc.entryText(), "");
 }
@@ -184,7 +184,7 @@ TEST_F(ArithmeticKeysTest, WhatCannotBeComputedLeavesRegisterOneAlone) {
     push("10");
     clickUnder(kCtrl, kMultiply);
     expectRangeMessage();
-    EXPECT_EQ(calc.number(calc.s.Registers[1]), std::numeric_limits<double>::max());
+    EXPECT_EQ(calc.number(calc.s.memory.Registers[1]), std::numeric_limits<double>::max());
     EXPECT_EQ(x(), "10");
 }
 
@@ -198,12 +198,12 @@ TEST_F(ArithmeticKeysTest, AltUsesRegisterTwoAsAConstantOnX) {
         setRegister(2, 2.0);
         push("1");
         push("8");
-        const int depth = calc.s.depth();
+        const int depth = calc.s.stack.depth();
         clickUnder(kAlt, row.key);
         EXPECT_EQ(x(), row.result);
         EXPECT_EQ(y(), "1");
         EXPECT_EQ(lastx(), "8");
-        EXPECT_EQ(calc.s.depth(), depth);
+        EXPECT_EQ(calc.s.stack.depth(), depth);
         EXPECT_EQ(reg(2), "2");
         EXPECT_TRUE(lastLine().starts_with(std::string(row.label) + " ")) << lastLine();
     }
@@ -217,11 +217,11 @@ TEST_F(ArithmeticKeysTest, OtherModifiersSilentlyDoNothingAndTakeTheLatchBack) {
         clickUnder(mask, kAdd);
         EXPECT_EQ(x(), "3");
         EXPECT_EQ(lastx(), "8");
-        EXPECT_EQ(calc.s.depth(), 2);
+        EXPECT_EQ(calc.s.stack.depth(), 2);
         EXPECT_EQ(element(2), "3");
         EXPECT_EQ(calc.tape.lines(), lines);
-        EXPECT_EQ(calc.s.ModifierMask, 0);
-        EXPECT_FALSE(calc.s.ModifierLatched);
+        EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
+        EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
     }
     EXPECT_TRUE(platform.boxes.empty());
     type("+");
@@ -252,7 +252,7 @@ TEST_F(TaggedOperands, GiveANumberInTheBaseOfX) {
     pushTagged("#3d");
     clickMath(kAdd);
     EXPECT_EQ(x(), "#8d");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
 }
 
 TEST_F(TaggedOperands, ASubtrahendTooGreatIsToldAndTheOperandsStay) {
@@ -263,8 +263,8 @@ TEST_F(TaggedOperands, ASubtrahendTooGreatIsToldAndTheOperandsStay) {
     EXPECT_EQ(platform.boxes[0].text, "Subtrahend is greater than the minuend!");
     EXPECT_EQ(platform.boxes[0].title, "cmdMath Error!");
     EXPECT_EQ(x(), "");
-    EXPECT_EQ(calc.s.depth(), 2);
-    EXPECT_EQ(calc.text(calc.s.slot(2)), "#11b");
+    EXPECT_EQ(calc.s.stack.depth(), 2);
+    EXPECT_EQ(calc.text(calc.s.stack.slot(2)), "#11b");
 }
 
 TEST_F(TaggedOperands, AResultBeyondSixtyFourBitsIsToldAndTheOperandsStay) {
@@ -274,7 +274,7 @@ TEST_F(TaggedOperands, AResultBeyondSixtyFourBitsIsToldAndTheOperandsStay) {
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].text, eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
     EXPECT_EQ(x(), "#1d");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
 }
 
 TEST_F(TaggedOperands, WithoutABaseRoutineNothingIsLost) {
@@ -285,7 +285,7 @@ TEST_F(TaggedOperands, WithoutABaseRoutineNothingIsLost) {
     clickMath(kAdd);
     EXPECT_EQ(x(), "#11b");
     EXPECT_EQ(y(), "6");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(calc.tape.lines(), lines);
     EXPECT_TRUE(platform.boxes.empty());
 }

@@ -10,7 +10,7 @@ class DispatchHandOn : public KeypadsTest {};
 
 TEST_F(DispatchHandOn, OnTheLetterDrillOverlayAKeyOnlyGivesTheKeyboardBack) {
     type("4");
-    calc.s.ActiveKeypad = Keypad::LetterDrill;
+    calc.s.modes.ActiveKeypad = Keypad::LetterDrill;
     calc.form.focus = nullptr;
     clickBank(1);
     EXPECT_EQ(calc.entryText(), "4");
@@ -19,7 +19,7 @@ TEST_F(DispatchHandOn, OnTheLetterDrillOverlayAKeyOnlyGivesTheKeyboardBack) {
 
 TEST_F(DispatchHandOn, KeypadFiveHasKeyFourAlone) {
     type("4");
-    calc.s.ActiveKeypad = Keypad::Percent;
+    calc.s.modes.ActiveKeypad = Keypad::Percent;
     keypads.cmdFunctions_Click(1);
     EXPECT_EQ(calc.entryText(), "4");
 }
@@ -32,7 +32,7 @@ TEST_F(DispatchHandOn, KeysThatTypeGoOnWithTheNumberThatIsTyped) {
     for (const std::size_t key : {2U, 1U, 0U, 19U, 16U, 17U}) {
         clickBank(key);
         EXPECT_EQ(calc.entryText(), "1");
-        EXPECT_TRUE(calc.s.EntryOpen);
+        EXPECT_TRUE(calc.s.entry.EntryOpen);
     }
     EXPECT_EQ(typed, "ABCDEF");
     for (const std::size_t key : {0U, 1U, 2U, 16U, 19U}) {
@@ -55,7 +55,7 @@ TEST_F(DispatchHandOn, ProgramModeTakesTheKeyAndARunningProgramLetsItThrough) {
         return takes;
     };
     type("4");
-    calc.s.ProgramMode = true;
+    calc.s.modes.ProgramMode = true;
     clickBank(1);
     EXPECT_EQ(recorded, 1);
     EXPECT_EQ(calc.entryText(), "4");
@@ -68,12 +68,12 @@ TEST_F(DispatchHandOn, MemoryArrayModeMakesTheBankRegisterKeysButNotTheShortCuts
     int asked = -1;
     keypads.dispatch.registerKey = [&](int index) { asked = index; };
     type("4");
-    calc.s.MemoryArrayMode = true;
-    calc.s.ActiveKeypad = Keypad::MemoryArray;
+    calc.s.modes.MemoryArrayMode = true;
+    calc.s.modes.ActiveKeypad = Keypad::MemoryArray;
     clickBank(1);
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(calc.entryText(), "4");
-    calc.s.ActiveKeypad = Keypad::Standard;
+    calc.s.modes.ActiveKeypad = Keypad::Standard;
     asked = -1;
     keypads.cmdFunctions_Click(1);
     EXPECT_EQ(asked, -1);
@@ -93,7 +93,7 @@ TEST_F(DispatchHandOn, TheRightButtonOpensTheTopicOfTheKey) {
 }
 
 TEST_F(DispatchHandOn, WhileAModeHasTheBankTheRightButtonGivesHelpUnderAnyModifier) {
-    calc.s.ProgramMode = true;
+    calc.s.modes.ProgramMode = true;
     rightClickBank(3, kShift);
     EXPECT_EQ(platform.helpTopics.size(), 1U);
 }
@@ -119,16 +119,16 @@ TEST_F(DispatchHandOn, DialogGetsXAndTheMaskAndItsLabelledResultIsCommitted) {
     platform.inDialog = [&](Form&) {
         id = keypads.keys.dialog.DialogCalcId;
         value = calc.text(keypads.keys.dialog.DialogValue);
-        EXPECT_EQ(calc.s.ModifierMask, 0);
+        EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
         EXPECT_TRUE(calc.dialogOpen);
-        calc.s.Xreg = 99.0;
-        calc.s.FnLabel = "P";
+        calc.s.stack.Xreg = 99.0;
+        calc.s.delivery.FnLabel = "P";
     };
     pressRow([](Keys& k) { k.dialog.show(dialog); });
     EXPECT_EQ(id, kAlt);
     EXPECT_EQ(value, "12");
     EXPECT_EQ(x(), "99");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_FALSE(calc.dialogOpen);
 }
 
@@ -137,7 +137,7 @@ TEST_F(DispatchHandOn, ADialogThatWasCancelledCommitsNothing) {
     type("12");
     enter();
     const std::size_t before = calc.tape.lines();
-    platform.inDialog = [&](Form&) { calc.s.Xreg = 99.0; };
+    platform.inDialog = [&](Form&) { calc.s.stack.Xreg = 99.0; };
     pressRow([](Keys& k) { k.dialog.show(dialog); });
     EXPECT_EQ(element(1), "12");
     EXPECT_EQ(calc.tape.lines(), before);

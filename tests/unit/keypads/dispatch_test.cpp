@@ -16,7 +16,7 @@ TEST_F(DispatchTest, AFunctionTakesTheTypedNumberAndReplacesIt) {
     EXPECT_EQ(x(), "0.25");
     EXPECT_EQ(y(), "7");
     EXPECT_EQ(lastx(), "4");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(lastLine(), "1/X                0.25");
     EXPECT_EQ(calc.entryText(), "");
 }
@@ -26,7 +26,7 @@ TEST_F(DispatchTest, AFunctionOnAnEmptyLineWorksOnTheTopOfTheStack) {
     enter();
     clickBank(1);
     EXPECT_EQ(x(), "16");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(lastx(), "4");
 }
 
@@ -34,24 +34,24 @@ TEST_F(DispatchTest, AResultKeepsAllItsDigits) {
     type("3");
     clickBank(0);
     EXPECT_EQ(calc.xNumber(), 1.0 / 3.0);
-    EXPECT_EQ(calc.number(calc.s.slot(1)), 1.0 / 3.0);
+    EXPECT_EQ(calc.number(calc.s.stack.slot(1)), 1.0 / 3.0);
 }
 
 TEST_F(DispatchTest, OnAnEmptyStackTheResultKeepsItsDigitsAndLastXTheOperand) {
     pressRow([](Keys& k) {
-        k.calc.s.Xreg = 1.0 / 3.0;
-        k.calc.s.FnLabel = "third";
+        k.calc.s.stack.Xreg = 1.0 / 3.0;
+        k.calc.s.delivery.FnLabel = "third";
     });
     EXPECT_EQ(calc.xNumber(), 1.0 / 3.0);
     EXPECT_EQ(lastx(), "0");
-    EXPECT_EQ(calc.s.depth(), 0);
+    EXPECT_EQ(calc.s.stack.depth(), 0);
     EXPECT_EQ(y(), "0");
 }
 
 TEST_F(DispatchTest, XnumIsTheNumberOfXWhenTheFunctionRuns) {
     static double seen = 0.0;
     type("2.5");
-    pressRow([](Keys& k) { seen = k.calc.s.Xnum; });
+    pressRow([](Keys& k) { seen = k.calc.s.stack.Xnum; });
     EXPECT_EQ(seen, 2.5);
 }
 
@@ -60,14 +60,14 @@ TEST_F(DispatchTest, SilentOperandIsPushedWithoutALineOfItsOwn) {
     type("9");
     pressRow(
         [](Keys& k) {
-            k.calc.s.Xreg = std::sqrt(k.calc.xNumber());
-            k.calc.s.FnLabel = "own";
+            k.calc.s.stack.Xreg = std::sqrt(k.calc.xNumber());
+            k.calc.s.delivery.FnLabel = "own";
         },
         7, true);
     EXPECT_EQ(calc.tape.lines(), before + 1);
     EXPECT_EQ(x(), "3");
-    EXPECT_EQ(calc.s.depth(), 1);
-    EXPECT_FALSE(calc.s.SkipCommitTail);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
+    EXPECT_FALSE(calc.s.delivery.SkipCommitTail);
 }
 
 TEST_F(DispatchTest, SilentOperandTableIsTheOneOfTheKeypads) {
@@ -98,15 +98,15 @@ TEST_F(DispatchTest, NothingDoneClearsTheLineAndCommitsNothing) {
     enter();
     type("5");
     const std::size_t before = calc.tape.lines();
-    pressRow([](Keys& k) { k.calc.s.Xreg = kNothingDone; });
+    pressRow([](Keys& k) { k.calc.s.stack.Xreg = kNothingDone; });
     EXPECT_TRUE(platform.boxes.empty());
     EXPECT_EQ(calc.entryText(), "");
     EXPECT_EQ(calc.tape.lines(), before + 1) << "the typed operand only";
     EXPECT_EQ(element(2), "5");
-    EXPECT_FALSE(calc.s.ValueInXreg);
+    EXPECT_FALSE(calc.s.delivery.ValueInXreg);
     enter();
     EXPECT_EQ(x(), "5");
-    EXPECT_EQ(calc.s.depth(), 3);
+    EXPECT_EQ(calc.s.stack.depth(), 3);
 }
 
 TEST_F(DispatchTest, NoMeaningShowsFailure85AndCommitsNothing) {
@@ -114,14 +114,14 @@ TEST_F(DispatchTest, NoMeaningShowsFailure85AndCommitsNothing) {
     enter();
     const std::size_t before = calc.tape.lines();
     latch(0);
-    pressRow([](Keys& k) { k.calc.s.Xreg = kNoMeaning; });
+    pressRow([](Keys& k) { k.calc.s.stack.Xreg = kNoMeaning; });
     expectBox("cmdFunctions Error!",
               "That Extended key (or keys) not valid for that function,\nsee Help file or tooltip for applicable "
               "Extended keys");
     EXPECT_EQ(calc.tape.lines(), before);
     EXPECT_EQ(element(1), "5");
-    EXPECT_EQ(calc.s.depth(), 1);
-    EXPECT_EQ(calc.s.ModifierMask, 0);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
     clickBank(1);
     EXPECT_EQ(x(), "25");
     EXPECT_EQ(lastLine(), "X\xFD                25.00") << "no label is left over";
@@ -133,7 +133,7 @@ TEST_F(DispatchTest, AThrownFailure85ActsAsTheSentinel) {
     pressRow([](Keys&) { throw Failure{FailureNumber::ModifierNotValid}; });
     EXPECT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(element(1), "5");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
 }
 
 TEST_F(DispatchTest, AFailureGivesZeroUnderNoDataAndLastXKeepsTheOldX) {
@@ -146,7 +146,7 @@ TEST_F(DispatchTest, AFailureGivesZeroUnderNoDataAndLastXKeepsTheOldX) {
     EXPECT_EQ(x(), "0");
     EXPECT_EQ(y(), "8");
     EXPECT_EQ(lastx(), "-4");
-    EXPECT_EQ(calc.s.depth(), 2);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
     EXPECT_EQ(lastLine(), "No Data!           0.00");
 }
 
@@ -181,7 +181,7 @@ TEST_F(DispatchTest, AFailureEndsTheFunctionAndClearsTheLamps) {
     type("3");
     latch(1);
     pressRow([](Keys& k) {
-        k.calc.s.FnLabel = "half";
+        k.calc.s.delivery.FnLabel = "half";
         throw Failure{FailureNumber::BaseNumberRequired};
     });
     EXPECT_EQ(platform.boxes.at(0).text, "Binary number required in x-register!");
@@ -204,9 +204,9 @@ TEST_F(DispatchTest, AFunctionOfPlainNumbersLeavesANumberOfABaseOnTheStackAndSay
     clickBank(0);
     EXPECT_TRUE(platform.boxes.empty());
     EXPECT_EQ(element(1), "#101b");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(calc.tape.lines(), before);
-    EXPECT_EQ(calc.s.Xnum, 0.0);
+    EXPECT_EQ(calc.s.stack.Xnum, 0.0);
 }
 
 TEST_F(DispatchTest, AKeyThatIsNotBuiltYetLosesNothing) {
@@ -219,13 +219,13 @@ TEST_F(DispatchTest, AKeyThatIsNotBuiltYetLosesNothing) {
     latch(0);
     clickBank(kInterestKey);
     EXPECT_EQ(calc.entryText(), "12.5");
-    EXPECT_TRUE(calc.s.EntryOpen);
-    EXPECT_TRUE(calc.s.EntryTouched);
+    EXPECT_TRUE(calc.s.entry.EntryOpen);
+    EXPECT_TRUE(calc.s.entry.EntryTouched);
     EXPECT_EQ(x(), "7");
-    EXPECT_EQ(calc.s.depth(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(calc.tape.lines(), before);
     EXPECT_TRUE(platform.boxes.empty());
-    EXPECT_FALSE(calc.s.ModifierLatched);
+    EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
     EXPECT_EQ(bank(kInterestKey).text, "Intr");
     EXPECT_EQ(calc.form.focus, &calc.form.txtXreg);
     type("6");
@@ -236,18 +236,18 @@ TEST_F(DispatchTest, AfterAKeyTheEntryLineHasTheKeyboard) {
     type("4");
     clickBank(1);
     EXPECT_EQ(calc.form.focus, &calc.form.txtXreg);
-    EXPECT_FALSE(calc.s.EntryTouched);
+    EXPECT_FALSE(calc.s.entry.EntryTouched);
 }
 
 TEST_F(DispatchTest, TheFormatOfAFunctionIsTakenBackAfterItsCommit) {
-    calc.s.DisplayDigits = 5;
+    calc.s.format.DisplayDigits = 5;
     type("4");
     pressRow([](Keys& k) {
         k.calc.display.SaveDisplay(1);
-        k.calc.s.FnLabel = "one";
+        k.calc.s.delivery.FnLabel = "one";
     });
     EXPECT_EQ(lastLine(), "one                 4.0");
-    EXPECT_EQ(calc.s.DisplayDigits, 5);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 5);
 }
 
 TEST_F(DispatchTest, ShortCutsReachTheFirstKeysOnEveryKeypad) {
@@ -270,12 +270,12 @@ TEST_F(DispatchTest, BaseDigitsThatDoNotFitAreRefusedWithTheirMessage) {
                         {"o", "#18", "'o' is octal number\n0 to 7 Only!"}};
     for (const Row& row : rows) {
         platform.boxes.clear();
-        calc.s.BaseLetter = row.letter;
+        calc.s.entry.BaseLetter = row.letter;
         calc.setEntry(row.typed);
         EXPECT_FALSE(keypads.CheckBaseDigits());
         expectBox("Syntax Error", row.text);
     }
-    calc.s.BaseLetter = "h";
+    calc.s.entry.BaseLetter = "h";
     calc.setEntry("#1FA");
     EXPECT_TRUE(keypads.CheckBaseDigits());
 }

@@ -30,10 +30,10 @@ class FailureMessage : public ::testing::TestWithParam<FailureCase> {};
 TEST_P(FailureMessage, IsTheOneOfTheTable) {
     const FailureCase& row = GetParam();
     EngineState state;
-    state.ActiveKeypad = row.keypad;
-    state.BaseMode = row.baseMode;
-    state.FnLabel = row.label;
-    state.Xreg = row.x;
+    state.modes.ActiveKeypad = row.keypad;
+    state.modes.BaseMode = row.baseMode;
+    state.delivery.FnLabel = row.label;
+    state.stack.Xreg = row.x;
     EXPECT_EQ(failureMessage(row.number, row.key, state), row.message);
 }
 

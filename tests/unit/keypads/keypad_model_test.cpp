@@ -38,7 +38,7 @@ TEST_F(KeypadModelTest, DownWalksTheRingOfSevenAndReturnsToStandard) {
     const std::vector<std::string> ring{"Tables", "Convert",     "Trigonometry", "Magnetics",
                                         "Binary", "Engineering", "Standard"};
     EXPECT_EQ(namesAfter(kKeyDown, 7), ring);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
 }
 
 TEST_F(KeypadModelTest, UpWalksTheSameRingBackwards) {
@@ -48,29 +48,29 @@ TEST_F(KeypadModelTest, UpWalksTheSameRingBackwards) {
 }
 
 TEST_F(KeypadModelTest, ArrowsAreInertInProgramModeAndInMemoryArrayMode) {
-    calc.s.ProgramMode = true;
+    calc.s.modes.ProgramMode = true;
     press(kKeyDown);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
-    calc.s.ProgramMode = false;
-    calc.s.MemoryArrayMode = true;
-    calc.s.ActiveKeypad = Keypad::MemoryArray;
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
+    calc.s.modes.ProgramMode = false;
+    calc.s.modes.MemoryArrayMode = true;
+    calc.s.modes.ActiveKeypad = Keypad::MemoryArray;
     for (const int key : {kKeyDown, kKeyUp, kKeyLeft, kKeyRight, kKeyF9, kKeyF10}) {
         press(key);
-        EXPECT_EQ(calc.s.ActiveKeypad, Keypad::MemoryArray) << key;
+        EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::MemoryArray) << key;
     }
 }
 
 TEST_F(KeypadModelTest, F9ShowsTheTablesKeypadWhichNoMenuEntryTicks) {
     press(kKeyF9);
     EXPECT_EQ(calc.form.lblBank.text, "Tables");
-    EXPECT_TRUE(calc.s.TablesShown);
+    EXPECT_TRUE(calc.s.modes.TablesShown);
     const MainForm& form = calc.form;
     for (const Control* entryOfMenu :
          {&form.mnuStd, &form.mnuEngNormal, &form.mnuTrig, &form.mnuConvert, &form.mnuMag, &form.mnuEngBinary}) {
         EXPECT_FALSE(entryOfMenu->checked) << entryOfMenu->name;
     }
     press(kKeyDown);
-    EXPECT_FALSE(calc.s.TablesShown);
+    EXPECT_FALSE(calc.s.modes.TablesShown);
 }
 
 TEST_F(KeypadModelTest, EachMenuEntryShowsItsKeypadAndIsTheOnlyOneTicked) {
@@ -86,7 +86,7 @@ TEST_F(KeypadModelTest, EachMenuEntryShowsItsKeypadAndIsTheOnlyOneTicked) {
         {form.mnuMag, Keypad::Magnetics, "Magnetics"},        {form.mnuEngBinary, Keypad::Binary, "Binary"}};
     for (const Row& row : rows) {
         click(form, row.entry);
-        EXPECT_EQ(calc.s.ActiveKeypad, row.keypad);
+        EXPECT_EQ(calc.s.modes.ActiveKeypad, row.keypad);
         EXPECT_EQ(form.lblBank.text, row.name);
         EXPECT_EQ(form.focus, &form.txtXreg);
         for (const Row& other : rows) {
@@ -98,20 +98,20 @@ TEST_F(KeypadModelTest, EachMenuEntryShowsItsKeypadAndIsTheOnlyOneTicked) {
 TEST_F(KeypadModelTest, LeftGoesBackInTheHistoryAndRightReturns) {
     press(kKeyF9);
     press(kKeyDown);
-    ASSERT_EQ(calc.s.ActiveKeypad, Keypad::Convert);
+    ASSERT_EQ(calc.s.modes.ActiveKeypad, Keypad::Convert);
     press(kKeyLeft);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Tables);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Tables);
     press(kKeyLeft);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
     press(kKeyRight);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Tables);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Tables);
     press(kKeyRight);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Convert);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Convert);
 }
 
 TEST_F(KeypadModelTest, HistoryIsARingThatHoldsAllSevenKeypads) {
     namesAfter(kKeyDown, 6);
-    ASSERT_EQ(calc.s.ActiveKeypad, Keypad::Engineering);
+    ASSERT_EQ(calc.s.modes.ActiveKeypad, Keypad::Engineering);
     const std::vector<std::string> back{"Binary", "Magnetics", "Trigonometry", "Convert",
                                         "Tables", "Standard",  "Engineering"};
     EXPECT_EQ(namesAfter(kKeyLeft, 7), back);
@@ -123,7 +123,7 @@ TEST_F(KeypadModelTest, FunctionKeysLeaveTheHistoryAlone) {
     clickBank(1);
     clickBank(1);
     press(kKeyLeft);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
 }
 
 TEST_F(KeypadModelTest, ConvertShowsItsHintLabelAndTheOthersHideIt) {
@@ -145,32 +145,32 @@ TEST_F(KeypadModelTest, SetUpEnablesTheProgramAndTheMemoryKey) {
 }
 
 TEST_F(KeypadModelTest, BinarySetsTheBaseModeAndLeavingItGivesTheDisplayBack) {
-    calc.s.DisplayDigits = 4;
-    calc.s.Mode = DisplayMode::Engineering;
+    calc.s.format.DisplayDigits = 4;
+    calc.s.format.Mode = DisplayMode::Engineering;
     keypads.ShowKeypad(Keypad::Binary);
-    EXPECT_TRUE(calc.s.BaseMode);
+    EXPECT_TRUE(calc.s.modes.BaseMode);
     EXPECT_EQ(calc.form.cmdDigits.text, "wrdsze(64)");
     EXPECT_EQ(calc.form.cmdDigits.tip, " Change Word Size (4 - 64) ");
     EXPECT_EQ(calc.form.cmdChs.text, "Mod");
     EXPECT_EQ(calc.form.cmdChs.tip, " Recall last Remainder ");
     keypads.ShowKeypad(Keypad::Standard);
-    EXPECT_FALSE(calc.s.BaseMode);
+    EXPECT_FALSE(calc.s.modes.BaseMode);
     EXPECT_EQ(calc.form.cmdDigits.text, "Display(4)");
     EXPECT_EQ(calc.form.cmdChs.text, "C&HS");
-    EXPECT_EQ(calc.s.DisplayDigits, 4);
-    EXPECT_EQ(calc.s.Mode, DisplayMode::Engineering);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 4);
+    EXPECT_EQ(calc.s.format.Mode, DisplayMode::Engineering);
 }
 
 TEST_F(KeypadModelTest, AShortCutOnTheBinaryKeypadLeavesTheBaseModeAndTheSavedFormatAlone) {
-    calc.s.DisplayDigits = 4;
+    calc.s.format.DisplayDigits = 4;
     keypads.ShowKeypad(Keypad::Binary);
     press('P', 'p');
-    EXPECT_TRUE(calc.s.BaseMode);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Binary);
+    EXPECT_TRUE(calc.s.modes.BaseMode);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Binary);
     EXPECT_EQ(calc.form.lblBank.text, "Binary");
     EXPECT_EQ(bank(3).text, keypadTable(Keypad::Binary).rows[3].caption.text);
     keypads.ShowKeypad(Keypad::Standard);
-    EXPECT_EQ(calc.s.DisplayDigits, 4);
+    EXPECT_EQ(calc.s.format.DisplayDigits, 4);
 }
 
 TEST_F(KeypadModelTest, SetUpUnderAHeldModifierShowsThePlainKeypadAndTheNextKeyDownPaintsAgain) {
@@ -225,19 +225,19 @@ TEST_F(KeypadModelTest, TheTablesKeypadIsNotRepaintedByAnyMask) {
 }
 
 TEST_F(KeypadModelTest, WithKeyPaintingOffTheCaptionsStayAndTheFunctionsWorkTheSame) {
-    calc.s.NoKeyPaint = true;
+    calc.s.modifiers.NoKeyPaint = true;
     const auto plain = looks();
     keypads.PaintModifiers(kShift);
     EXPECT_EQ(looks(), plain);
     latch(0);
     EXPECT_EQ(looks(), plain);
-    EXPECT_TRUE(calc.s.ModifierLatched);
+    EXPECT_TRUE(calc.s.modifiers.ModifierLatched);
 }
 
 TEST_F(KeypadModelTest, NothingIsPaintedOverTheRegistersOfMemoryArrayMode) {
-    calc.s.MemoryArrayMode = true;
-    calc.s.ActiveKeypad = Keypad::MemoryArray;
-    calc.s.RegisterNames[5] = "volt";
+    calc.s.modes.MemoryArrayMode = true;
+    calc.s.modes.ActiveKeypad = Keypad::MemoryArray;
+    calc.s.memory.RegisterNames[5] = "volt";
     keypads.model.paintRegisterNames();
     EXPECT_EQ(bank(5).text, "volt");
     EXPECT_EQ(bank(5).tip, " Click: recall | Shift+: save | Ctrl+: name ");
@@ -318,7 +318,7 @@ TEST_F(KeypadModelTest, F10WithoutAStoredConversionChangesNothing) {
     type("5");
     press(kKeyF10);
     EXPECT_EQ(calc.entryText(), "5");
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
     EXPECT_EQ(calc.form.lblBank.text, "Standard");
 }
 
@@ -331,18 +331,18 @@ TEST_F(KeypadModelTest, F10ClicksTheMarkedConvertKeyAndRestoresTheKeypadWithoutA
     EXPECT_EQ(calc.form.lblBank.text, "Magnetics");
     EXPECT_FALSE(calc.form.lblCnvrt.visible);
     press(kKeyLeft);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Standard);
 }
 
 TEST_F(KeypadModelTest, ArrowsSuppressTheRepaintOfTheKeyUpOnce) {
     pressKey(calc.form, {.keyCode = kKeyUp});
-    EXPECT_TRUE(calc.s.SkipModifierRelease);
+    EXPECT_TRUE(calc.s.modifiers.SkipModifierRelease);
     releaseKey(calc.form, {.keyCode = kKeyUp});
-    EXPECT_FALSE(calc.s.SkipModifierRelease);
+    EXPECT_FALSE(calc.s.modifiers.SkipModifierRelease);
     press(kKeyDown);
     press(kKeyDown);
-    EXPECT_EQ(calc.s.ActiveKeypad, Keypad::Tables);
-    EXPECT_FALSE(calc.s.SkipModifierRelease) << "a modifier's release would be lost";
+    EXPECT_EQ(calc.s.modes.ActiveKeypad, Keypad::Tables);
+    EXPECT_FALSE(calc.s.modifiers.SkipModifierRelease) << "a modifier's release would be lost";
 }
 
 TEST_F(KeypadModelTest, BankIndexesDoNotRunInReadingOrder) {

@@ -52,12 +52,12 @@ protected:
         EXPECT_EQ(platform.boxes[0].buttons, BoxButtons::Ok);
     }
     [[nodiscard]] const Control& bank(std::size_t index) const { return calc.form.cmdFunctions.at(index); }
-    [[nodiscard]] std::string x() const { return calc.text(calc.s.Xreg); }
-    [[nodiscard]] std::string y() const { return calc.text(calc.s.Yreg); }
-    [[nodiscard]] std::string lastx() const { return calc.text(calc.s.LastX); }
-    [[nodiscard]] std::string element(int index) const { return calc.text(calc.s.slot(index)); }
+    [[nodiscard]] std::string x() const { return calc.text(calc.s.stack.Xreg); }
+    [[nodiscard]] std::string y() const { return calc.text(calc.s.stack.Yreg); }
+    [[nodiscard]] std::string lastx() const { return calc.text(calc.s.stack.LastX); }
+    [[nodiscard]] std::string element(int index) const { return calc.text(calc.s.stack.slot(index)); }
     [[nodiscard]] std::string lastLine() const { return calc.tape.row(calc.tape.count() - 1); }
-    [[nodiscard]] std::string reg(std::size_t number) const { return calc.text(calc.s.Registers.at(number)); }
+    [[nodiscard]] std::string reg(std::size_t number) const { return calc.text(calc.s.memory.Registers.at(number)); }
 
     TestPlatform platform;
     Engine calc{platform};

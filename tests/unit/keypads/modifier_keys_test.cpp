@@ -39,8 +39,8 @@ TEST_F(ModifierKeysTest, AnOptionKeyLatchesTheMaskOfItsIndexPlusOneAndPaintsTheB
     for (std::size_t i = 0; i < 7; ++i) {
         latch(i);
         const auto mask = static_cast<std::uint8_t>(i + 1);
-        EXPECT_EQ(calc.s.ModifierMask, mask);
-        EXPECT_TRUE(calc.s.ModifierLatched);
+        EXPECT_EQ(calc.s.modifiers.ModifierMask, mask);
+        EXPECT_TRUE(calc.s.modifiers.ModifierLatched);
         EXPECT_EQ(latchedOption(), i);
         EXPECT_EQ(calc.form.focus, &calc.form.txtXreg);
         expectLamps(mask);
@@ -54,10 +54,10 @@ TEST_F(ModifierKeysTest, AnOptionKeyLatchesTheMaskOfItsIndexPlusOneAndPaintsTheB
 TEST_F(ModifierKeysTest, TheSameOptionTwiceStaysLatchedAndAnotherReplacesItWithoutAdding) {
     latch(0);
     latch(0);
-    EXPECT_EQ(calc.s.ModifierMask, kShift);
-    EXPECT_TRUE(calc.s.ModifierLatched);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kShift);
+    EXPECT_TRUE(calc.s.modifiers.ModifierLatched);
     latch(1);
-    EXPECT_EQ(calc.s.ModifierMask, kCtrl);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kCtrl);
     EXPECT_EQ(bank(5).text, "2^x");
     EXPECT_EQ(latchedOption(), 1U);
 }
@@ -65,8 +65,8 @@ TEST_F(ModifierKeysTest, TheSameOptionTwiceStaysLatchedAndAnotherReplacesItWitho
 TEST_F(ModifierKeysTest, TheHiddenOptionTakesTheLatchBack) {
     latch(2);
     keypads.optKey_Click(7);
-    EXPECT_EQ(calc.s.ModifierMask, 0);
-    EXPECT_FALSE(calc.s.ModifierLatched);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
+    EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
     EXPECT_EQ(latchedOption(), 7U);
     EXPECT_EQ(bank(5).text, "y^x");
     EXPECT_TRUE(bank(5).visible);
@@ -76,9 +76,9 @@ TEST_F(ModifierKeysTest, TheHiddenOptionTakesTheLatchBack) {
 TEST_F(ModifierKeysTest, WhileLatchedTheKeyboardLeavesTheMaskAloneAndKeysAreDropped) {
     latch(1);
     hold(kShift);
-    EXPECT_EQ(calc.s.ModifierMask, kCtrl);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kCtrl);
     letGo();
-    EXPECT_EQ(calc.s.ModifierMask, kCtrl);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kCtrl);
     expectLamps(kCtrl);
     type("5");
     EXPECT_EQ(calc.entryText(), "");
@@ -90,8 +90,8 @@ TEST_F(ModifierKeysTest, TheLatchLivesUntilAKeyWhetherOrNotItUsedIt) {
     latch(0);
     clickBank(1);
     EXPECT_EQ(x(), "16");
-    EXPECT_EQ(calc.s.ModifierMask, 0);
-    EXPECT_FALSE(calc.s.ModifierLatched);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
+    EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
     EXPECT_EQ(latchedOption(), 7U);
     EXPECT_EQ(bank(5).text, "y^x");
     expectLamps(0);
@@ -99,12 +99,12 @@ TEST_F(ModifierKeysTest, TheLatchLivesUntilAKeyWhetherOrNotItUsedIt) {
 
 TEST_F(ModifierKeysTest, AHeldModifierPaintsOnKeyDownAndIsTakenBackOnKeyUp) {
     hold(kShift | kAlt);
-    EXPECT_EQ(calc.s.ModifierMask, kShift | kAlt);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, kShift | kAlt);
     expectLamps(kShift | kAlt);
     EXPECT_EQ(bank(11).text, "Ceil");
     EXPECT_FALSE(bank(4).visible);
     letGo();
-    EXPECT_EQ(calc.s.ModifierMask, 0);
+    EXPECT_EQ(calc.s.modifiers.ModifierMask, 0);
     expectLamps(0);
     EXPECT_EQ(bank(11).text, "Rnd");
     EXPECT_TRUE(bank(4).visible);

@@ -17,7 +17,7 @@ TEST_F(Interpreter, ARunLeavesTheTapeOfTheKeys) {
     runSection("3\n4\n+");
     EXPECT_EQ(tape(), (std::vector<std::string>{"3.00", "4.00", "+                  7.00"}));
     EXPECT_EQ(x(), "7");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(Interpreter, AnAssignmentStoresAfterEachWordAndLeavesItsResult) {
@@ -42,9 +42,9 @@ TEST_F(Interpreter, KeepsStoringAnExpressionFromALoadToTheFirstAssignment) {
     runSection("aa 3 4 5 +");
     EXPECT_EQ(variable("aa"), 9.0);
     EXPECT_EQ(x(), "9");
-    EXPECT_EQ(s().depth(), 1) << "the second word is not looked at";
+    EXPECT_EQ(s().stack.depth(), 1) << "the second word is not looked at";
     run();
-    EXPECT_EQ(s().depth(), 2) << "still so in the next run";
+    EXPECT_EQ(s().stack.depth(), 2) << "still so in the next run";
 }
 
 TEST_F(Interpreter, ANameGivesItsValueAndAnUnknownWordZero) {
@@ -96,7 +96,7 @@ TEST_F(Interpreter, KeepsLessOrEqualAsLess) {
 TEST_F(Interpreter, BothSidesOfAnIfAreTakenOffTheStack) {
     runSection("7\nif 1 2 + = 3 then\nendif");
     EXPECT_EQ(x(), "7");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(Interpreter, RclAndStoAreJoinedInAnIf) {
@@ -107,7 +107,7 @@ TEST_F(Interpreter, RclAndStoAreJoinedInAnIf) {
 TEST_F(Interpreter, WhatStandsBehindThenIsIgnored) {
     runSection("aa = 1\nif 1 = 1 then 8 9 +\naa = 2\nendif");
     EXPECT_EQ(variable("aa"), 2.0);
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
 }
 
 TEST_F(Interpreter, ArithmeticDoesNotEndTheLeftSideOfAnIf) {
@@ -140,7 +140,7 @@ TEST_F(Interpreter, TheLineBehindAnIfThatBeginsWithANameMayBeAnExpression) {
 
 TEST_F(Interpreter, AfterATestOfTwoWordsALineWithANameIsLeftOut) {
     runSection("aa = 4\n3\n3\nif =\naa sqr\nendif");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     EXPECT_EQ(x(), "4");
 }
 
@@ -148,7 +148,7 @@ TEST_F(Interpreter, WithoutVariablesTheLineBehindAnIfIsAWord) {
     loadProgram("junk\nlbl a\nif 3 > 2\nxreg\nendif\nend\n");
     choose(form().cmdFunctions.at(kKeyA));
     EXPECT_EQ(x(), "0");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(Interpreter, ASkippedBlockKnowsTextsThatGoOn) {
@@ -237,11 +237,11 @@ TEST_F(Interpreter, CountsOfOpeningAndClosingWordsAreCheckedFirst) {
     runSection("8\nif 1 = 1");
     EXPECT_EQ(said(), Said{"If without endif: There is a missing endif statement!"});
     EXPECT_EQ(platform.boxes.front().kind, BoxKind::Stop);
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
     loadProgram("#\nlbl a\n8\nlbl b\nlbl c\nend\n");
     run();
     EXPECT_EQ(said(), Said{"lbl without end: There is more lbl statements then end statements!"});
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
 }
 
 TEST_F(Interpreter, AnEndifCountsAsAnEnd) {
@@ -281,8 +281,8 @@ TEST_F(Interpreter, AWordThatOnlyBeginsAsANumberIsAnError) {
 TEST_F(Interpreter, NumbersHaveSignsPointsAndExponents) {
     runSection("-1.5\n+2\n.5\n1e3\n2.5e-3\n0\n0.00\n-0");
     std::vector<std::string> stack;
-    for (int i = 1; i <= s().depth(); ++i) {
-        stack.push_back(calc().text(s().slot(i)));
+    for (int i = 1; i <= s().stack.depth(); ++i) {
+        stack.push_back(calc().text(s().stack.slot(i)));
     }
     EXPECT_EQ(stack, (std::vector<std::string>{"-1.5", "2", "0.5", "1000", "0.0025", "0", "0", "0"}));
 }
@@ -299,8 +299,8 @@ TEST_F(Interpreter, NumbersHaveAPointWhateverTheLocale) {
 TEST_F(Interpreter, XCarriesFifteenDigitsAndTheStackAllOfThem) {
     runSection("aa = 1 3 /");
     EXPECT_EQ(variable("aa"), 0.333333333333333);
-    EXPECT_EQ(s().Xreg.number('.'), 0.333333333333333);
-    EXPECT_EQ(s().slot(1).number('.'), 1.0 / 3.0);
+    EXPECT_EQ(s().stack.Xreg.number('.'), 0.333333333333333);
+    EXPECT_EQ(s().stack.slot(1).number('.'), 1.0 / 3.0);
 }
 
 TEST_F(Interpreter, ACopyOfXAtTheStartKeepsAllItsDigits) {
@@ -310,16 +310,16 @@ TEST_F(Interpreter, ACopyOfXAtTheStartKeepsAllItsDigits) {
     choose(form().cmdFunctions.at(0));
     choose(form().cmdF11);
     run();
-    EXPECT_EQ(s().slot(2).number('.'), 1.0 / 3.0);
+    EXPECT_EQ(s().stack.slot(2).number('.'), 1.0 / 3.0);
 }
 
 TEST_F(Interpreter, AFunctionWorksOnTheElementOnTheStackWithAllItsDigits) {
     runSection("1\n3\n/\n3\n*");
-    EXPECT_EQ(s().slot(1).number('.'), 1.0);
+    EXPECT_EQ(s().stack.slot(1).number('.'), 1.0);
 }
 
 TEST_F(Interpreter, AfterAKeyThatLeftNothingTheRunGoesOn) {
-    s().Registers.at(3) = "#FFh";
+    s().memory.Registers.at(3) = "#FFh";
     runSection("rcl 3\nsin\ntf-1\nbb = 4\naa = 2");
     EXPECT_EQ(said(), Said{});
     EXPECT_EQ(variable("aa"), 2.0);
@@ -345,7 +345,7 @@ TEST_F(Interpreter, AFileThatVanishesIsMissedAtTheNextKey) {
     std::filesystem::remove(platform.folder / "programs/test.rec");
     run();
     EXPECT_EQ(said(), Said{"Program Error!: Error 76 - No program found!"});
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 /// A desktop on which the program's file goes while a box is up.
@@ -396,7 +396,7 @@ TEST(VanishingProgram, IsNotLoadedWhereItGoesWhileTheUserIsAsked) {
     ASSERT_EQ(desktop.boxes.size(), 2U);
     EXPECT_EQ(desktop.boxes.back().title, "Program Error!");
     EXPECT_EQ(desktop.boxes.back().text, "Error 76 (Path not found)");
-    EXPECT_FALSE(calculator.engine().s.ProgramMode);
+    EXPECT_FALSE(calculator.engine().s.modes.ProgramMode);
 }
 
 TEST_F(Interpreter, AFileThatWasChangedCountsAtTheNextKey) {
@@ -408,9 +408,9 @@ TEST_F(Interpreter, AFileThatWasChangedCountsAtTheNextKey) {
 
 TEST_F(Interpreter, AKeyWithAModifierRunsNothing) {
     runSection("5");
-    const int depth = s().depth();
+    const int depth = s().stack.depth();
     clickWith(kShift, form().cmdFunctions.at(kKeyA));
-    EXPECT_EQ(s().depth(), depth);
+    EXPECT_EQ(s().stack.depth(), depth);
     EXPECT_FALSE(form().shaShift.visible);
     EXPECT_EQ(form().focus, &form().txtXreg);
 }

@@ -27,9 +27,9 @@ TEST_F(Load, AsksForAFileAndEntersProgramMode) {
     EXPECT_EQ(platform.inputs.front().title, "Load Program");
     EXPECT_EQ(platform.inputs.front().prompt,
               "Please enter a file name, or\nClick OK to accept the default.\n\n(Do not enter the Folder name.)");
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
     EXPECT_EQ(form().lblName.text, "test.rec");
-    EXPECT_EQ(s().DefaultProgram, "test.rec");
+    EXPECT_EQ(s().files.DefaultProgram, "test.rec");
     EXPECT_EQ(programState().ProgramFolder, platform.folder / "programs");
 }
 
@@ -54,7 +54,7 @@ TEST_F(Load, AFileThatIsNotThereIsSaidSoTwiceAndChangesNothing) {
                             "Illegal File Extension!: Please rename your program with the \".rec\" extension."}));
     EXPECT_EQ(programState().ProgramFile, "test.rec");
     EXPECT_EQ(variable("aa"), 5.0);
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
 }
 
 TEST_F(Load, ACancelledOrRefusedLoadChangesNothing) {
@@ -69,19 +69,19 @@ TEST_F(Load, ACancelledOrRefusedLoadChangesNothing) {
     EXPECT_EQ(platform.boxes.front().kind, BoxKind::Info);
     EXPECT_EQ(programState().ProgramFile, "test.rec");
     EXPECT_EQ(variable("aa"), 5.0);
-    EXPECT_EQ(s().DefaultProgram, "test.rec");
+    EXPECT_EQ(s().files.DefaultProgram, "test.rec");
 }
 
 TEST_F(Load, TheDefaultIsWrittenToTheSettingsWhereTheUserAgrees) {
     writeProgram("#\nlbl a\nend\n", "mine.rec");
     loadFile("mine");
     start();
-    EXPECT_EQ(s().DefaultProgram, "mine.rec");
+    EXPECT_EQ(s().files.DefaultProgram, "mine.rec");
     writeProgram("#\nlbl a\nend\n", "other.rec");
     fileFor("other");
-    EXPECT_EQ(s().DefaultProgram, "other.rec");
+    EXPECT_EQ(s().files.DefaultProgram, "other.rec");
     start();
-    EXPECT_EQ(s().DefaultProgram, "mine.rec");
+    EXPECT_EQ(s().files.DefaultProgram, "mine.rec");
 }
 
 TEST_F(Load, TheDefaultIsLoadedAtTheStartWhereAsked) {
@@ -90,7 +90,7 @@ TEST_F(Load, TheDefaultIsLoadedAtTheStartWhereAsked) {
     choose(form().mnuLoad);
     forget();
     start();
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
     EXPECT_EQ(caption(kKeyA), "start");
     EXPECT_EQ(variable("aa"), 7.0);
     EXPECT_EQ(platform.inputs.size(), 0U);
@@ -181,7 +181,7 @@ TEST_F(Load, AProgramWithoutADeclarationIsSaidSo) {
     choose(form().mnuProgram);
     EXPECT_EQ(said().back(), "Program Error!: Program not initialized, first unignored character has to be \"#\" !");
     EXPECT_EQ(platform.boxes.back().kind, BoxKind::Stop);
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
 }
 
 TEST_F(Load, AProgramWithoutLabelsIsSaidSoOnce) {
@@ -275,7 +275,7 @@ TEST_F(Load, NoiseIsReadWithoutHarm) {
     loadFile();
     run();
     SUCCEED() << "whatever is said, the calculator stands";
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
     enter("5");
     EXPECT_EQ(x(), "5");
 }

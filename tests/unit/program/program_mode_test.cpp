@@ -26,7 +26,7 @@ TEST_F(ProgramModeKeys, WithoutNamesTheKeysCarryTheirLetters) {
     EXPECT_EQ(form().lblName.text, "Program Mode");
     EXPECT_EQ(form().cmdFunctions.at(4).font.face, Face::SmallFonts);
     EXPECT_EQ(form().cmdFunctions.at(4).colour, KeyColour::Plain);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Program);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Program);
 }
 
 TEST_F(ProgramModeKeys, EnteringAndLeavingChangesMenuKeysAndTips) {
@@ -41,7 +41,7 @@ TEST_F(ProgramModeKeys, EnteringAndLeavingChangesMenuKeysAndTips) {
     EXPECT_TRUE(form().mnuStd.enabled);
     EXPECT_TRUE(form().cmdF12.enabled);
     EXPECT_EQ(form().cmdF11.tip, "Enter Program Mode");
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Trigonometry);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Trigonometry);
     EXPECT_EQ(caption(22), "sin");
     EXPECT_EQ(form().lblName.text, "");
 }
@@ -50,10 +50,10 @@ TEST_F(ProgramModeKeys, TheBinaryKeypadComesBackWithItsMode) {
     calc().keypads().ShowKeypad(Keypad::Binary);
     runSection("1.5\n2\n*");
     EXPECT_EQ(x(), "3");
-    EXPECT_FALSE(s().BaseMode);
+    EXPECT_FALSE(s().modes.BaseMode);
     choose(form().cmdF11);
-    EXPECT_TRUE(s().BaseMode);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Binary);
+    EXPECT_TRUE(s().modes.BaseMode);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Binary);
 }
 
 TEST_F(ProgramModeKeys, TipsTellTheNames) {
@@ -106,7 +106,7 @@ TEST_F(ProgramModeKeys, AModifierOnAnExplorerOnlyGoesOut) {
     clickWith(kShift, form().cmdFunctions.at(2));
     EXPECT_TRUE(platform.folders.empty());
     EXPECT_FALSE(form().shaShift.visible);
-    EXPECT_EQ(s().ModifierMask, 0);
+    EXPECT_EQ(s().modifiers.ModifierMask, 0);
 }
 
 TEST_F(ProgramModeKeys, ShiftOnTracListsTheVariables) {
@@ -154,7 +154,7 @@ TEST_F(ProgramModeKeys, ATraceThatCannotBeWrittenEndsTheRun) {
     run(0);
     run();
     EXPECT_EQ(said(), Said{"Program Error!: Error 75 (Path or file access error) in program near line 5"});
-    EXPECT_EQ(s().depth(), 2) << "nothing but the run before the trace";
+    EXPECT_EQ(s().stack.depth(), 2) << "nothing but the run before the trace";
     std::filesystem::remove(platform.folder / "Traces/Traced.txt");
     forget();
     run();
@@ -190,29 +190,29 @@ TEST_F(ProgramModeKeys, KeepsAnotherYellowForATraceThatAProgramSwitchedOn) {
 TEST_F(ProgramModeKeys, AMemoryArrayLeavesProgramModeFirst) {
     choose(form().cmdF11);
     press(kKeyF12);
-    EXPECT_TRUE(s().MemoryArrayMode);
-    EXPECT_FALSE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.MemoryArrayMode);
+    EXPECT_FALSE(s().modes.ProgramMode);
     press(kKeyF12);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Standard);
     EXPECT_EQ(caption(0), "1/x");
 }
 
 TEST_F(ProgramModeKeys, TheBoardFootKeyLoadsItsProgramWithoutAsking) {
     writeProgram("# aa\nlbl init\nname a thick\nend\n", "Board feet.rec");
-    s().DefaultProgram = "mine.rec";
+    s().files.DefaultProgram = "mine.rec";
     calc().keypads().ShowKeypad(Keypad::Tables);
     enter("8");
     run(8);
     EXPECT_EQ(said(), Said{});
     EXPECT_TRUE(platform.inputs.empty());
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
     EXPECT_EQ(caption(kKeyA), "thick");
     EXPECT_EQ(form().lblName.text, "Board feet.rec");
-    EXPECT_EQ(s().DefaultProgram, "mine.rec");
+    EXPECT_EQ(s().files.DefaultProgram, "mine.rec");
     EXPECT_EQ(x(), "8");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     choose(form().cmdF11);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Tables);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Tables);
 }
 
 class Interrupting : public TestPlatform {

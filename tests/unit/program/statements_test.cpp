@@ -43,7 +43,7 @@ TEST_F(ProgramStatements, KeepsShowingOnlyTheLastLineOfALongTextWithoutANumber) 
 TEST_F(ProgramStatements, AMessageMustBeginWithABackslash) {
     runSection("umsg\nHello\n6");
     EXPECT_EQ(said(), Said{"Program Error!: Error 30; First character not \"\\\"! In program near line 6"});
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
 }
 
 TEST_F(ProgramStatements, FlagsAreSetClearedAndTested) {

@@ -15,8 +15,8 @@ protected:
     std::vector<std::string> left() const {
         std::vector<std::string> all = tape();
         all.push_back(x());
-        for (int i = 1; i <= s().depth(); ++i) {
-            all.push_back(calc().text(s().slot(i)));
+        for (int i = 1; i <= s().stack.depth(); ++i) {
+            all.push_back(calc().text(s().stack.slot(i)));
         }
         return all;
     }
@@ -57,10 +57,10 @@ TEST_F(Words, EveryKeyWordDoesWhatItsKeyDoes) {
             enter("3");
             enter(operand);
             calc().keypads().ShowKeypad(row.keypad);
-            s().ModifierMask = static_cast<std::uint8_t>(std::max(row.mask, 0));
-            s().QuizMode = true;
+            s().modifiers.ModifierMask = static_cast<std::uint8_t>(std::max(row.mask, 0));
+            s().modes.QuizMode = true;
             calc().keypads().cmdFunctions_Click(row.key);
-            s().QuizMode = false;
+            s().modes.QuizMode = false;
             const auto byHand = left();
             const auto boxes = platform.boxes.size();
 
@@ -76,9 +76,9 @@ TEST_F(Words, EveryKeyWordDoesWhatItsKeyDoes) {
             run();
             EXPECT_EQ(left(), byHand);
             EXPECT_EQ(platform.boxes.size(), boxes);
-            EXPECT_EQ(s().ActiveKeypad, Keypad::Program);
-            EXPECT_TRUE(s().ProgramMode);
-            EXPECT_FALSE(s().QuizMode);
+            EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Program);
+            EXPECT_TRUE(s().modes.ProgramMode);
+            EXPECT_FALSE(s().modes.QuizMode);
         }
     }
 }
@@ -93,7 +93,7 @@ TEST_F(Words, ArithmeticWordsAreTheFourKeys) {
 TEST_F(Words, StackWordsAreTheStackKeys) {
     runSection("3\n4\ndrop");
     EXPECT_EQ(tape().back(), "Drop               3.00");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     startAnew();
     runSection("8\n2\nx~y");
     EXPECT_EQ(x(), "8");
@@ -112,8 +112,8 @@ TEST_F(Words, StackWordsAreTheStackKeys) {
 
 TEST_F(Words, CopiesOfXAndYAreOfFifteenDigits) {
     runSection("1\n3\n/\n4\ny");
-    EXPECT_EQ(s().slot(3).number('.'), 0.333333333333333);
-    EXPECT_EQ(s().slot(1).number('.'), 1.0 / 3.0);
+    EXPECT_EQ(s().stack.slot(3).number('.'), 0.333333333333333);
+    EXPECT_EQ(s().stack.slot(1).number('.'), 1.0 / 3.0);
     startAnew();
     runSection("3\nx\n+");
     EXPECT_EQ(x(), "6");
@@ -130,7 +130,7 @@ TEST_F(Words, ARegisterThatThereIsNotIsRefusedByItsKey) {
     runSection("5\nsto 25\nrcl 99");
     EXPECT_EQ(said(), (Said{"Out of Range!: Tne registers are 1 to 24 only!",
                             "Out of Range!: Tne registers are 1 to 24 only!"}));
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(Words, SeedIsTheSecondsSinceMidnight) {
@@ -140,20 +140,20 @@ TEST_F(Words, SeedIsTheSecondsSinceMidnight) {
 
 TEST_F(Words, AngleWordsSelectTheAngle) {
     runSection("rad");
-    EXPECT_EQ(s().Angle, AngleMode::Radians);
+    EXPECT_EQ(s().format.Angle, AngleMode::Radians);
     EXPECT_TRUE(form().optRad.checked);
     runSection("grad\n100\nsin");
-    EXPECT_EQ(s().Angle, AngleMode::Grads);
+    EXPECT_EQ(s().format.Angle, AngleMode::Grads);
     EXPECT_EQ(x(), "1");
     runSection("deg");
-    EXPECT_EQ(s().Angle, AngleMode::Degrees);
+    EXPECT_EQ(s().format.Angle, AngleMode::Degrees);
 }
 
 TEST_F(Words, FormatAndDigitsComeBackAtTheEndOfTheRun) {
     runSection("sci\ndsp 4\n12\neng\ndsp 1\nfix");
     EXPECT_EQ(tape().back(), "1.2000e+01");
-    EXPECT_EQ(s().Mode, DisplayMode::Fixed);
-    EXPECT_EQ(s().DisplayDigits, 2);
+    EXPECT_EQ(s().format.Mode, DisplayMode::Fixed);
+    EXPECT_EQ(s().format.DisplayDigits, 2);
     runSection("dsp 13");
     EXPECT_EQ(said(), Said{"Out of Range!: 0 to 12 only for this function"});
 }
@@ -166,17 +166,17 @@ TEST_F(Words, EachFormatShowsItsNumbersOnTheTape) {
 
 TEST_F(Words, KillLeavesProgramMode) {
     runSection("5\nkill");
-    EXPECT_FALSE(s().ProgramMode);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
+    EXPECT_FALSE(s().modes.ProgramMode);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Standard);
     EXPECT_EQ(caption(0), "1/x");
     EXPECT_EQ(x(), "5");
 }
 
 TEST_F(Words, ResetClearsStackAndVariablesAndStaysInTheMode) {
     runSection("aa = 4\n5\nsto 3\nreset\n8");
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
     EXPECT_EQ(variable("aa"), 0.0);
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     EXPECT_EQ(x(), "8");
     EXPECT_EQ(reg(3), "5");
     EXPECT_EQ(tape().size(), 1U);
@@ -185,7 +185,7 @@ TEST_F(Words, ResetClearsStackAndVariablesAndStaysInTheMode) {
 TEST_F(Words, ResetOneRunsInitAndLeavesTheMode) {
     loadProgram("# aa\nlbl init\naa = 3\nend\nlbl a\naa = 4\nreset 1\nend\n");
     run();
-    EXPECT_FALSE(s().ProgramMode);
+    EXPECT_FALSE(s().modes.ProgramMode);
     EXPECT_EQ(variable("aa"), 3.0);
 }
 
@@ -195,7 +195,7 @@ TEST_F(Words, WhatAProgramLeavesOnTheStackCanBeDropped) {
     EXPECT_TRUE(form().cmdXchgY.enabled);
     EXPECT_TRUE(form().cmdLastx.enabled);
     choose(form().cmdDown);
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(Words, EveryOtherModifierOfResetResetsInTheMode) {
@@ -205,7 +205,7 @@ TEST_F(Words, EveryOtherModifierOfResetResetsInTheMode) {
         loadProgram("# aa\nlbl init\naa = 3\nend\nlbl a\naa = 4\n5\n6\nend\n");
         run();
         clickWith(mask, form().cmdReset);
-        EXPECT_FALSE(s().ProgramMode);
+        EXPECT_FALSE(s().modes.ProgramMode);
         EXPECT_EQ(variable("aa"), 3.0);
     }
 }
@@ -219,10 +219,10 @@ TEST_F(Words, AFormatComesBackWhenTheRunEndsOnTheBinaryKeypad) {
         choose(form().mnuEngBinary);
         loadProgram("# aa\nlbl init\nend\nlbl a\ndsp 4\nsci\n5\n" + word + "\nend\n");
         run();
-        EXPECT_EQ(s().WordSize, 64);
+        EXPECT_EQ(s().format.WordSize, 64);
         choose(form().mnuStd);
-        EXPECT_EQ(s().Mode, DisplayMode::Fixed);
-        EXPECT_EQ(s().DisplayDigits, 8);
+        EXPECT_EQ(s().format.Mode, DisplayMode::Fixed);
+        EXPECT_EQ(s().format.DisplayDigits, 8);
         EXPECT_TRUE(platform.boxes.empty());
     }
 }
@@ -232,14 +232,14 @@ TEST_F(Words, ResetInsideInitRunsOnce) {
         SCOPED_TRACE(word);
         startAnew();
         loadProgram("# aa bb\nlbl init\nbb = 1\n" + word + "\naa = aa 1 +\nend\n");
-        EXPECT_EQ(s().ProgramMode, word != "reset 1");
+        EXPECT_EQ(s().modes.ProgramMode, word != "reset 1");
         EXPECT_EQ(variable("aa"), word == "reset 1" ? 2.0 : 1.0);
     }
 }
 
 TEST_F(Words, AsetClearsTheRegistersToo) {
     runSection("5\nsto 3\naset\n8");
-    EXPECT_TRUE(s().ProgramMode);
+    EXPECT_TRUE(s().modes.ProgramMode);
     EXPECT_EQ(reg(3), "0");
     EXPECT_EQ(x(), "8");
 }
@@ -248,7 +248,7 @@ TEST_F(Words, TheResetKeyRunsInitAndLeavesTheMode) {
     loadProgram("# aa\nlbl init\naa = 3\nend\nlbl a\naa = 4\nend\n");
     run();
     choose(form().cmdReset);
-    EXPECT_FALSE(s().ProgramMode);
+    EXPECT_FALSE(s().modes.ProgramMode);
     EXPECT_EQ(variable("aa"), 3.0);
 }
 

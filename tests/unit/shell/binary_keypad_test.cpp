@@ -27,14 +27,14 @@ protected:
 };
 
 TEST_F(BinaryKeypad, ComesAndGoesWithBaseModeAndTheFormat) {
-    EXPECT_TRUE(s().BaseMode);
+    EXPECT_TRUE(s().modes.BaseMode);
     EXPECT_EQ(form().cmdChs.text, "Mod");
     EXPECT_EQ(form().cmdDigits.text, "wrdsze(64)");
     enter("7");
     EXPECT_EQ(line(), "7") << "whole numbers are shown";
     choose(form().mnuStd);
-    EXPECT_FALSE(s().BaseMode);
-    EXPECT_EQ(s().DisplayDigits, 2);
+    EXPECT_FALSE(s().modes.BaseMode);
+    EXPECT_EQ(s().format.DisplayDigits, 2);
     EXPECT_EQ(form().cmdChs.text, "C&HS");
     EXPECT_EQ(form().cmdDigits.text, "Display(2)");
 }
@@ -65,7 +65,7 @@ TEST_F(BinaryKeypad, WrongDigitsAreToldWithWhatTheLetterStandsFor) {
     type("#1A");
     bank(2, kShift);
     EXPECT_EQ(lastBox(), "'d' is decimal number\n(0 to 9) Only!");
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
 }
 
 TEST_F(BinaryKeypad, LettersInSmallAndAMissingLetter) {
@@ -75,7 +75,7 @@ TEST_F(BinaryKeypad, LettersInSmallAndAMissingLetter) {
     EXPECT_EQ(form().txtXreg.text, "#1") << "hexadecimal digits are capitals";
     press(kKeyEnter, 13);
     EXPECT_EQ(lastBox(), "Binary indicator (b, d, h, o) required");
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
     type("#12");
     press(kKeyBackspace, 8);
     type("Fh");
@@ -86,7 +86,7 @@ TEST_F(BinaryKeypad, LettersInSmallAndAMissingLetter) {
 
 TEST_F(BinaryKeypad, ThePasteOfANumberTooLongIsHeldButNotCountedWith) {
     put("#" + std::string(65, '1') + "b");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     bank(12);
     EXPECT_EQ(lastBox(), "Number outside of range (#0b to #1111.... (64 TOTAL) ....1111b)");
     EXPECT_EQ(lastTitle(), "cmdFunctions Error!");
@@ -112,7 +112,7 @@ TEST_F(BinaryKeypad, SixtyFiveBitsAreRefusedByEveryKeyThatReadsThem) {
         ASSERT_EQ(platform.boxes.size(), 1U);
         EXPECT_EQ(lastBox(), "Number outside of range (#0b to #1111.... (64 TOTAL) ....1111b)");
         EXPECT_EQ(lastTitle(), "cmdFunctions Error!");
-        EXPECT_EQ(calc().text(s().slot(1)), tooLong) << "it stays where it is";
+        EXPECT_EQ(calc().text(s().stack.slot(1)), tooLong) << "it stays where it is";
     }
 }
 
@@ -141,8 +141,8 @@ TEST_F(BinaryKeypad, OneMoreThanTheLargestIsRefusedHoweverItComes) {
     type("+");
     EXPECT_EQ(lastBox(), eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
     EXPECT_EQ(lastTitle(), "cmdMath Error!");
-    EXPECT_EQ(calc().text(s().slot(1)), "#18446744073709551615d") << "the operands stay";
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(calc().text(s().stack.slot(1)), "#18446744073709551615d") << "the operands stay";
+    EXPECT_EQ(s().stack.depth(), 2);
 }
 
 TEST_F(BinaryKeypad, APasteLooksAtTheLastLetterAlone) {
@@ -150,14 +150,14 @@ TEST_F(BinaryKeypad, APasteLooksAtTheLastLetterAlone) {
         SCOPED_TRACE(text);
         put(text);
         EXPECT_EQ(x(), text);
-        EXPECT_EQ(s().depth(), 1);
+        EXPECT_EQ(s().stack.depth(), 1);
         EXPECT_TRUE(platform.boxes.empty());
         choose(form().cmdReset);
     }
     for (const char* text : {"#12", "#", "12h", "#1H", "1e9999999"}) {
         SCOPED_TRACE(text);
         put(text);
-        EXPECT_EQ(s().depth(), 0);
+        EXPECT_EQ(s().stack.depth(), 0);
     }
 }
 
@@ -167,7 +167,7 @@ TEST_F(BinaryKeypad, ResultsAreCutByTheCommitOnly) {
     press(kKeyEnter, 13);
     type("#1h+");
     EXPECT_EQ(x(), "#0h");
-    EXPECT_EQ(calc().text(s().slot(1)), "#0h");
+    EXPECT_EQ(calc().text(s().stack.slot(1)), "#0h");
     EXPECT_TRUE(platform.boxes.empty());
     put("#10h");
     type("#11h*");
@@ -185,7 +185,7 @@ TEST_F(BinaryKeypad, AWordOfEightCutsOnCommit) {
     type("#1FFh");
     press(kKeyEnter, 13);
     EXPECT_EQ(x(), "#FFh");
-    EXPECT_EQ(calc().text(s().slot(1)), "#FFh");
+    EXPECT_EQ(calc().text(s().stack.slot(1)), "#FFh");
     EXPECT_FALSE(form().cmdFunctions[3].enabled);
     word("65");
     EXPECT_EQ(lastBox(), "4 to 64 only for this function");
@@ -200,7 +200,7 @@ TEST_F(BinaryKeypad, DisplayKeysShowXInAnyBaseWithOneCommit) {
     const std::size_t lines = calc().tape.lines();
     bank(13);
     EXPECT_EQ(x(), "#777o");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     EXPECT_EQ(calc().tape.lines(), lines + 1);
     bank(15);
     EXPECT_EQ(x(), "#511d");
@@ -208,7 +208,7 @@ TEST_F(BinaryKeypad, DisplayKeysShowXInAnyBaseWithOneCommit) {
     EXPECT_EQ(x(), "#111111111b");
     bank(14);
     EXPECT_EQ(x(), "#1FFh");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(BinaryKeypad, RealNumbersGoToABaseAndBack) {
@@ -237,7 +237,7 @@ TEST_F(BinaryKeypad, DivisionKeepsItsRemainderForMod) {
     EXPECT_EQ(x(), "#3d");
     choose(form().cmdChs);
     EXPECT_EQ(x(), "#1d");
-    EXPECT_EQ(s().depth(), 2) << "Mod is a new commit and nothing else";
+    EXPECT_EQ(s().stack.depth(), 2) << "Mod is a new commit and nothing else";
     put("#6d");
     put("#2d");
     type("/");
@@ -251,7 +251,7 @@ TEST_F(BinaryKeypad, DivisionByZeroIsQuietAndKeepsTheDivisor) {
     type("/");
     EXPECT_TRUE(platform.boxes.empty());
     EXPECT_EQ(x(), "#0d");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(BinaryKeypad, TheEdgesOfArithmetic) {
@@ -306,7 +306,7 @@ TEST_F(BinaryKeypad, PlainNumbersBesideTaggedOnes) {
         type(std::string(1, mixed.operation));
         EXPECT_EQ(x(), mixed.result);
         EXPECT_EQ(lastBox(), mixed.box);
-        EXPECT_EQ(s().depth(), *mixed.box == '\0' ? 1 : 2) << "operands that cannot be subtracted stay";
+        EXPECT_EQ(s().stack.depth(), *mixed.box == '\0' ? 1 : 2) << "operands that cannot be subtracted stay";
         choose(form().cmdChs);
         EXPECT_EQ(x(), mixed.remainder);
     }
@@ -346,7 +346,7 @@ TEST_F(BinaryKeypad, LogicTakesTwoAndLeavesOne) {
     put("#5h");
     bank(11);
     EXPECT_EQ(x(), "#5h");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     put("#Ah");
     bank(23);
     EXPECT_EQ(x(), "#Fh");
@@ -354,7 +354,7 @@ TEST_F(BinaryKeypad, LogicTakesTwoAndLeavesOne) {
     bank(5);
     EXPECT_EQ(x(), "#Ch");
     EXPECT_EQ(line().substr(0, 3), "XOR");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(BinaryKeypad, KeepsNotOnWholeHexDigitsUntilTheCommit) {
@@ -362,7 +362,7 @@ TEST_F(BinaryKeypad, KeepsNotOnWholeHexDigitsUntilTheCommit) {
     put("#0h");
     bank(4);
     EXPECT_EQ(x(), "#FFh");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     word("6");
     put("#0h");
     bank(4);
@@ -394,7 +394,7 @@ TEST_F(BinaryKeypad, APlainNumberIsNotShifted) {
     EXPECT_EQ(lastBox(), eightBit("Number outside of range: ± 1.8e308, & ± 4.9e-324"));
     EXPECT_EQ(lastTitle(), "cmdFunctions Error!");
     EXPECT_EQ(x(), "5");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     EXPECT_EQ(calc().tape.lines(), lines);
 }
 
@@ -409,8 +409,8 @@ TEST_F(BinaryKeypad, AnOperandWithoutItsLetterStopsTheFunctionAndLosesNothing) {
     const auto lines = tape();
     const auto stays = [&] {
         EXPECT_NE(lastBox().find("Binary indicator"), std::string::npos) << lastBox();
-        EXPECT_EQ(s().depth(), 1);
-        EXPECT_EQ(calc().text(s().slot(1)), "#31h");
+        EXPECT_EQ(s().stack.depth(), 1);
+        EXPECT_EQ(calc().text(s().stack.slot(1)), "#31h");
         EXPECT_EQ(x(), "#31h");
         EXPECT_EQ(tape(), lines);
         EXPECT_EQ(form().txtXreg.text, "");

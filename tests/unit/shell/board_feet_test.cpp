@@ -37,7 +37,7 @@ TEST_F(BoardFeet, ComeInAllSixOrders) {
             }
             EXPECT_EQ(x(), "4");
             EXPECT_EQ(label(), "bf");
-            EXPECT_EQ(s().depth(), 1);
+            EXPECT_EQ(s().stack.depth(), 1);
             ASSERT_EQ(tape().size(), 4U);
             for (std::size_t i = 0; i < order.size(); ++i) {
                 EXPECT_EQ(label(order.size() - i), inputs.at(order.at(i)).label) << "input " << i;

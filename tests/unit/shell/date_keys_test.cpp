@@ -20,7 +20,7 @@ TEST_F(DateKeys, TodayIsPushedAsADate) {
     bank(kNow);
     EXPECT_EQ(x(), "7.042026");
     EXPECT_EQ(line(), "7/04/2026     7.042 026");
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
 }
 
 TEST_F(DateKeys, TheDayOfTheWeekIsTheLabelOfTheDate) {
@@ -40,11 +40,11 @@ TEST_F(DateKeys, TheDayOfTheWeekIsTheLabelOfTheDate) {
 TEST_F(DateKeys, DaysBetweenTwoDatesAndFromTheFirstToAThird) {
     on({"3", "12.251999", "1.012000"}, kDifference);
     EXPECT_EQ(line(), "days                  7");
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
     on({"12.251998"}, kDifference, kShift);
     EXPECT_EQ(x(), "-365");
     EXPECT_EQ(label(), "days");
-    EXPECT_EQ(s().depth(), 3);
+    EXPECT_EQ(s().stack.depth(), 3);
     bank(kDifference, kShift | kCtrl);
     EXPECT_EQ(line(), "12/25/1999   12.251 999");
 }
@@ -53,7 +53,7 @@ TEST_F(DateKeys, DaysAndWeeksAreAdded) {
     on({"12.251999", "7"}, kDifference, kCtrl);
     EXPECT_EQ(x(), "1.012000");
     EXPECT_EQ(label(), "1/01/2000 d+");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     on({"-2"}, kDifference, kAlt);
     EXPECT_EQ(x(), "12.181999");
     EXPECT_EQ(line(), "12/18/1999 w+12.181 999");
@@ -100,13 +100,13 @@ TEST_F(DateKeys, WrongInputIsToldAndCommitsNothing) {
         platform.boxes.clear();
         put(row.operands);
         const auto lines = tape();
-        const int depth = s().depth();
+        const int depth = s().stack.depth();
         unseen(row.key, row.mask);
         ASSERT_EQ(platform.boxes.size(), 1U);
         EXPECT_EQ(lastBox(), row.message);
         EXPECT_EQ(lastTitle(), "Date Arithmetic");
         EXPECT_EQ(tape(), lines);
-        EXPECT_EQ(s().depth(), depth);
+        EXPECT_EQ(s().stack.depth(), depth);
     }
 }
 
@@ -128,7 +128,7 @@ TEST_F(DateKeys, HoursGoToDecimalsAndBack) {
     on({"1.45", "2.3030"}, kHours, kCtrl);
     EXPECT_EQ(x(), "4.153");
     EXPECT_EQ(label(), "h:mm ss.d+");
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
     expectNoMeaning(kHours, {3, 4, 5, 6, 7});
 }
 

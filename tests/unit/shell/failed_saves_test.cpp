@@ -139,10 +139,10 @@ TEST_F(FailedSave, TheResetGoesOnWithoutItsUndo) {
         const FullDisk full;
         choose(form().cmdReset);
     }
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
     EXPECT_EQ(calc().tape.lines(), 0U);
     clickWith(kShift | kCtrl | kAlt, form().cmdReset);
-    EXPECT_EQ(calc().text(s().slot(1)), "1") << "the undo is the one before";
+    EXPECT_EQ(calc().text(s().stack.slot(1)), "1") << "the undo is the one before";
 }
 
 TEST_F(FailedSave, ATapeThatFindsNoRoomStaysInTheCalculator) {
@@ -173,7 +173,7 @@ TEST_F(FailedSave, ADefaultNameThatCannotBeKeptIsTold) {
               2)
         << "once for the name, once for the tape";
     start();
-    EXPECT_EQ(s().TapeFileName, "tape.txt");
+    EXPECT_EQ(s().files.TapeFileName, "tape.txt");
 }
 
 TEST_F(FailedSave, AFirstStartWithoutRoomEndsWithAMessageAndLeavesNothingBehind) {

@@ -41,12 +41,12 @@ TEST_F(Files, ASavedTapeComesBackAsItWas) {
     work();
     const auto before = everything();
     save("work.txt");
-    EXPECT_EQ(s().UndoKind, TapeFileKind::None);
+    EXPECT_EQ(s().files.UndoKind, TapeFileKind::None);
     clickWith(kAlt, form().cmdReset);
     EXPECT_NE(everything(), before);
     retrieve("work.txt");
     EXPECT_EQ(everything(), before);
-    EXPECT_EQ(s().UndoKind, TapeFileKind::None);
+    EXPECT_EQ(s().files.UndoKind, TapeFileKind::None);
     save("again.txt");
     EXPECT_EQ(file("again.txt"), file("work.txt"));
 }
@@ -93,7 +93,7 @@ TEST_F(Files, QuestionsAreAskedAndACancelledSaveWritesNothing) {
     EXPECT_EQ(platform.inputs[0].prompt,
               "Please enter a file name (only 25 characters are used), or Click OK to accept the default.The file is "
               "saved in the Oakhollow Application Data Folder. ");
-    EXPECT_EQ(s().UndoKind, TapeFileKind::None);
+    EXPECT_EQ(s().files.UndoKind, TapeFileKind::None);
     save("a.txt");
     platform.boxes.clear();
     platform.texts = {"a.txt", "b.txt"};
@@ -104,9 +104,9 @@ TEST_F(Files, QuestionsAreAskedAndACancelledSaveWritesNothing) {
     EXPECT_EQ(platform.boxes[0].text, "a.txt exists, do you want to overwrite it?");
     EXPECT_EQ(platform.boxes[1].title, "Save File Name?");
     EXPECT_EQ(platform.boxes[1].text, "Do you want to save b.txt as the default file name?");
-    EXPECT_EQ(s().TapeFileName, "b.txt");
+    EXPECT_EQ(s().files.TapeFileName, "b.txt");
     start();
-    EXPECT_EQ(s().TapeFileName, "b.txt");
+    EXPECT_EQ(s().files.TapeFileName, "b.txt");
 }
 
 TEST_F(Files, ANameIsCutAndLeadsNowhereElse) {
@@ -161,7 +161,7 @@ TEST_F(Files, AStackPointerThatLiesIsRefused) {
     save("t.txt");
     const std::string whole = file("t.txt");
     const auto before = everything();
-    const std::string truth = " " + std::to_string(s().StackPtr) + " \n";
+    const std::string truth = " " + std::to_string(s().stack.StackPtr) + " \n";
     const auto at = whole.find(truth);
     for (const std::string lie : {" 0 \n", " -4 \n", " 2000000000 \n", " 99999999999999999999 \n", " x \n", "\n"}) {
         std::string lying = whole;
@@ -204,7 +204,7 @@ TEST_F(Files, AnEmptyLineOfTheStateIsAZero) {
     choose(form().cmdReset);
     clickWith(kShift | kCtrl | kAlt, form().cmdReset);
     EXPECT_EQ(x(), "0");
-    EXPECT_EQ(calc().text(s().LastX), "0");
+    EXPECT_EQ(calc().text(s().stack.LastX), "0");
     EXPECT_EQ(form().txtLastx.text, "0.000e+00");
 }
 
@@ -225,16 +225,16 @@ TEST_F(Files, ARegisterFileThatIsNotWrittenIsNoDefault) {
     platform.answers = {Answer::Yes, Answer::Yes};
     choose(form().mnuSaveMem);
     EXPECT_EQ(platform.boxes.back().text.substr(0, 6), "Error ");
-    EXPECT_NE(s().MemoryFileName, "taken");
+    EXPECT_NE(s().files.MemoryFileName, "taken");
 }
 
 TEST_F(Files, RegisterKeysUnderOtherModifiersCommit) {
     press(kKeyF12, 0);
     for (const std::uint8_t mask : std::initializer_list<std::uint8_t>{3, 4, 5, 6, 7}) {
-        const int depth = s().depth();
+        const int depth = s().stack.depth();
         type("6");
         clickWith(mask, form().cmdFunctions[0]);
-        EXPECT_EQ(s().depth(), depth + 1) << int{mask};
+        EXPECT_EQ(s().stack.depth(), depth + 1) << int{mask};
         EXPECT_EQ(x(), "6");
     }
     EXPECT_EQ(reg(23), "");
@@ -279,7 +279,7 @@ TEST_F(Files, ResetAndItsUndo) {
     work();
     const auto before = everything();
     choose(form().cmdReset);
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
     EXPECT_EQ(reg(5), "7") << "a plain reset leaves the registers";
     EXPECT_EQ(form().txtLastx.text, "0");
     EXPECT_EQ(calc().tape.lines(), 0U);
@@ -295,7 +295,7 @@ TEST_F(Files, ResetTwiceThenUndoGivesTheEmptyState) {
     choose(form().cmdReset);
     choose(form().cmdReset);
     clickWith(kShift | kCtrl | kAlt, form().cmdReset);
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
     EXPECT_EQ(calc().tape.lines(), 0U);
 }
 
@@ -309,7 +309,7 @@ TEST_F(Files, CtrlResetClearsTheRegistersAlone) {
     clickWith(kCtrl, form().cmdReset);
     EXPECT_EQ(tape(), lines);
     EXPECT_EQ(reg(5), "0");
-    EXPECT_EQ(s().RegisterNames[static_cast<std::size_t>(keyOfRegister(5))], "5   ");
+    EXPECT_EQ(s().memory.RegisterNames[static_cast<std::size_t>(keyOfRegister(5))], "5   ");
     clickWith(kShift | kCtrl | kAlt, form().cmdReset);
     EXPECT_EQ(everything(), before);
 }
@@ -319,7 +319,7 @@ TEST_F(Files, AltResetClearsBothAndTheUndoRestoresBoth) {
     const auto before = everything();
     clickWith(kAlt, form().cmdReset);
     EXPECT_EQ(reg(5), "0");
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
     clickWith(kShift | kCtrl | kAlt, form().cmdReset);
     EXPECT_EQ(everything(), before);
 }
@@ -337,7 +337,7 @@ TEST_F(Files, AnUndoWithoutAFileIsTold) {
     clickWith(kShift | kCtrl | kAlt, form().cmdReset);
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].text, "File not found!");
-    EXPECT_EQ(s().UndoKind, TapeFileKind::None);
+    EXPECT_EQ(s().files.UndoKind, TapeFileKind::None);
 }
 
 TEST_F(Files, ASaveThatFailsIsToldAndTheOldFileStays) {
@@ -434,7 +434,7 @@ TEST_F(Files, NamesAreStoredSmallAndFoundAsTheyAreStored) {
     clickWith(kCtrl, form().cmdSTO);
     EXPECT_EQ(platform.inputs.back().title, "Name Register 3");
     EXPECT_EQ(platform.inputs.back().prompt, "Enter a name, only the first 4 characters will be used!");
-    EXPECT_EQ(s().RegisterNames[static_cast<std::size_t>(keyOfRegister(3))], "volt");
+    EXPECT_EQ(s().memory.RegisterNames[static_cast<std::size_t>(keyOfRegister(3))], "volt");
     EXPECT_NE(form().cmdFunctions[static_cast<std::size_t>(keyOfRegister(3))].text, "volt");
     platform.texts = {"VOLT"};
     type("0");
@@ -442,16 +442,16 @@ TEST_F(Files, NamesAreStoredSmallAndFoundAsTheyAreStored) {
     EXPECT_EQ(platform.inputs.back().title, "Save to Named Register");
     EXPECT_EQ(reg(3), "42");
     EXPECT_EQ(platform.sounds, 1);
-    const int depth = s().depth();
+    const int depth = s().stack.depth();
     platform.texts = {"VOLT"};
     type("0");
     choose(form().cmdSTO);
     EXPECT_EQ(platform.inputs.back().title, "Recall Named Register");
-    EXPECT_EQ(s().depth(), depth) << "a recall finds small letters only";
+    EXPECT_EQ(s().stack.depth(), depth) << "a recall finds small letters only";
     platform.texts = {"volt"};
     type("0");
     choose(form().cmdSTO);
-    EXPECT_EQ(s().depth(), depth + 1);
+    EXPECT_EQ(s().stack.depth(), depth + 1);
     EXPECT_EQ(x(), "42");
     platform.texts = {"nobody"};
     type("0");
@@ -463,7 +463,7 @@ TEST_F(Files, ANameMayHoldACommaAndLosesALineBreak) {
     platform.texts = {"a,\nb"};
     type("3");
     clickWith(kCtrl, form().cmdSTO);
-    EXPECT_EQ(s().RegisterNames[static_cast<std::size_t>(keyOfRegister(3))], "a,b");
+    EXPECT_EQ(s().memory.RegisterNames[static_cast<std::size_t>(keyOfRegister(3))], "a,b");
     enter("8");
     type("3");
     clickWith(kShift, form().cmdSTO);
@@ -472,7 +472,7 @@ TEST_F(Files, ANameMayHoldACommaAndLosesALineBreak) {
     clickWith(kAlt, form().cmdReset);
     retrieve("t.txt");
     EXPECT_EQ(reg(3), "8");
-    EXPECT_EQ(s().RegisterNames[static_cast<std::size_t>(keyOfRegister(3))], "a,b ");
+    EXPECT_EQ(s().memory.RegisterNames[static_cast<std::size_t>(keyOfRegister(3))], "a,b ");
 }
 
 TEST_F(Files, StoringChangesNeitherXNorTheStack) {
@@ -481,20 +481,20 @@ TEST_F(Files, StoringChangesNeitherXNorTheStack) {
     type("24");
     clickWith(kShift, form().cmdSTO);
     EXPECT_EQ(x(), "2");
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
     press(kKeyF12);
     clickWith(kShift, form().cmdFunctions[0]);
     EXPECT_EQ(reg(23), "2");
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
     type("9");
     clickWith(kShift, form().cmdFunctions[1]);
     EXPECT_EQ(reg(22), "9");
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
     choose(form().cmdFunctions[3]);
     EXPECT_EQ(x(), "0") << "a register never written recalls 0";
-    EXPECT_EQ(s().depth(), 3);
+    EXPECT_EQ(s().stack.depth(), 3);
     press(kKeyF12);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Standard);
     EXPECT_EQ(form().lblName.text, "");
 }
 
@@ -531,7 +531,7 @@ TEST_F(Files, ARegisterOfZeroComesBackEmpty) {
 }
 
 TEST_F(Files, ANameOfARegisterSurvivesAPlainResetAlone) {
-    std::string& name = s().RegisterNames[static_cast<std::size_t>(keyOfRegister(3))];
+    std::string& name = s().memory.RegisterNames[static_cast<std::size_t>(keyOfRegister(3))];
     const auto giveName = [&] {
         platform.texts = {"volt"};
         type("3");
@@ -550,8 +550,8 @@ TEST_F(Files, ANameOfARegisterSurvivesAPlainResetAlone) {
 
 TEST_F(Files, LabelsWithCommasComeBack) {
     for (const std::string_view label : {"a,b", ",", "1,5,", "23  ,Register 23"}) {
-        s().FnLabel = label;
-        s().Xreg = 1234.5;
+        s().delivery.FnLabel = label;
+        s().stack.Xreg = 1234.5;
         calc().commit.PushResult();
         EXPECT_TRUE(tape().back().starts_with(label)) << tape().back();
     }
@@ -573,8 +573,8 @@ TEST_F(Files, ANameOfTwentyFiveCharactersIsTakenWholeAndALongerOneCut) {
     choose(form().mnuSaveTape);
     EXPECT_FALSE(file(whole).empty());
     start();
-    EXPECT_EQ(s().TapeFileName, whole) << "the default of the next start";
-    EXPECT_EQ(s().MemoryFileName, "registers.txt") << "its neighbour in the settings stays";
+    EXPECT_EQ(s().files.TapeFileName, whole) << "the default of the next start";
+    EXPECT_EQ(s().files.MemoryFileName, "registers.txt") << "its neighbour in the settings stays";
     enter("2");
     platform.boxes.clear();
     platform.texts = {whole + "-and-more"};
@@ -589,8 +589,8 @@ TEST_F(Files, ANameOfTwentyFiveCharactersIsTakenWholeAndALongerOneCut) {
     platform.answers = {Answer::Yes};
     choose(form().mnuSaveMem);
     start();
-    EXPECT_EQ(s().MemoryFileName, "registers-25-letters.text");
-    EXPECT_EQ(s().TapeFileName, whole);
+    EXPECT_EQ(s().files.MemoryFileName, "registers-25-letters.text");
+    EXPECT_EQ(s().files.TapeFileName, whole);
 }
 
 }  // namespace

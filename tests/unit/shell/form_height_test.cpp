@@ -36,7 +36,7 @@ TEST_F(FormHeight, GrowsWithCaptionAndMenuAndMoreWithALargeMenu) {
     };
     for (const Desktop& desktop : kDesktops) {
         startOn(desktop.dotsPerInch, desktop.captionHeight, desktop.menuHeight);
-        EXPECT_EQ(s().BasicHeight, desktop.height)
+        EXPECT_EQ(s().window.BasicHeight, desktop.height)
             << desktop.dotsPerInch << " " << desktop.captionHeight << " " << desktop.menuHeight;
         EXPECT_EQ(form().place.height, desktop.height);
     }
@@ -44,9 +44,9 @@ TEST_F(FormHeight, GrowsWithCaptionAndMenuAndMoreWithALargeMenu) {
 
 TEST_F(FormHeight, KeepsTheOneHeightThatIsReplacedByAnother) {
     startOn(96, 20, 20);
-    EXPECT_EQ(s().BasicHeight, 6200) << "not 5900";
+    EXPECT_EQ(s().window.BasicHeight, 6200) << "not 5900";
     startOn(120, 30, 20);
-    EXPECT_EQ(s().BasicHeight, 6200) << "whatever the pixels";
+    EXPECT_EQ(s().window.BasicHeight, 6200) << "whatever the pixels";
 }
 
 TEST_F(FormHeight, TallAndExtendedViewsAddTheirTwips) {

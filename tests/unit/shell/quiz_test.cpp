@@ -49,19 +49,19 @@ TEST_F(QuizKeys, AsksForAMaximumAndCommitsNothingBefore) {
     const auto lines = tape();
     bank(kQuizKey);
     EXPECT_EQ(tape(), lines);
-    EXPECT_TRUE(s().QuizMode);
+    EXPECT_TRUE(s().modes.QuizMode);
     EXPECT_EQ(form().lblName.text, "Addition (+)");
     EXPECT_EQ(form().cmdFunctions[kQuizKey].text, "max");
     EXPECT_EQ(form().cmdFunctions[kQuizKey].tip, "Enter Max. number used [Click]");
     EXPECT_EQ(x(), "5");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     for (const char* wrong : {"100", "0"}) {
         answer(wrong);
         EXPECT_EQ(lastBox(), "Number must be between 1 and 99!");
         EXPECT_EQ(lastTitle(), "Error!");
         EXPECT_EQ(platform.boxes.back().kind, BoxKind::Plain);
         EXPECT_EQ(tape(), lines);
-        EXPECT_EQ(s().depth(), 1);
+        EXPECT_EQ(s().stack.depth(), 1);
     }
     dice({0.0, 0.0});
     answer("9");
@@ -149,7 +149,7 @@ TEST_F(QuizKeys, OnlyTheQuizKeyIsLeftAndTheOthersDoNothing) {
         EXPECT_EQ(form().cmdFunctions[i].visible, i == kQuizKey) << i;
     }
     const auto lines = tape();
-    const int depth = s().depth();
+    const int depth = s().stack.depth();
     for (const int key :
          {kKeyDelete, kKeyEnd, kKeyInsert, kKeyUp, kKeyDown, kKeyLeft, kKeyRight, kKeyF9, kKeyF10, kKeyF11, kKeyF12}) {
         press(key);
@@ -165,9 +165,9 @@ TEST_F(QuizKeys, OnlyTheQuizKeyIsLeftAndTheOthersDoNothing) {
         }
     }
     EXPECT_EQ(tape(), lines);
-    EXPECT_EQ(s().depth(), depth);
+    EXPECT_EQ(s().stack.depth(), depth);
     EXPECT_EQ(form().txtXreg.text, "");
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Standard);
     EXPECT_TRUE(platform.boxes.empty());
     for (std::size_t i = 0; i < kBankKeys; ++i) {
         EXPECT_EQ(form().cmdFunctions[i].visible, i == kQuizKey) << i;
@@ -189,13 +189,13 @@ TEST_F(QuizKeys, CtrlAltWithItsKeyEndsItAndEverythingComesBack) {
     startWith20();
     answer("19");
     clickWith(kCtrl | kAlt, form().cmdFunctions[kQuizKey]);
-    EXPECT_FALSE(s().QuizMode);
+    EXPECT_FALSE(s().modes.QuizMode);
     EXPECT_EQ(label(), "Correct!");
     EXPECT_EQ(x(), "1");
     EXPECT_EQ(looks(), before);
-    EXPECT_EQ(s().DisplayDigits, 4);
-    EXPECT_EQ(s().Mode, DisplayMode::Scientific);
-    EXPECT_FALSE(s().NoKeyPaint);
+    EXPECT_EQ(s().format.DisplayDigits, 4);
+    EXPECT_EQ(s().format.Mode, DisplayMode::Scientific);
+    EXPECT_FALSE(s().modifiers.NoKeyPaint);
     holdModifiers(form(), kShift);
     EXPECT_EQ(form().cmdFunctions[14].text, "e^x") << "keys are painted again";
     releaseModifiers(form());
@@ -217,10 +217,10 @@ TEST_F(QuizKeys, ResetEndsIt) {
     const auto before = looks();
     startWith20();
     choose(form().cmdReset);
-    EXPECT_FALSE(s().QuizMode);
+    EXPECT_FALSE(s().modes.QuizMode);
     EXPECT_EQ(looks(), before);
-    EXPECT_EQ(s().DisplayDigits, 2);
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().format.DisplayDigits, 2);
+    EXPECT_EQ(s().stack.depth(), 0);
     startWith20();
     EXPECT_EQ(line(), "+ 7                12.7") << "and it can be started anew";
 }
@@ -230,16 +230,16 @@ TEST_F(QuizKeys, ClosingEndsItWithoutATraceInTheSettings) {
     startWith20();
     form().close();
     start();
-    EXPECT_FALSE(s().QuizMode);
+    EXPECT_FALSE(s().modes.QuizMode);
     EXPECT_EQ(looks(), before);
-    EXPECT_EQ(s().DisplayDigits, 2);
+    EXPECT_EQ(s().format.DisplayDigits, 2);
 }
 
 TEST_F(QuizKeys, AKeyPaintingThatTheUserHasSwitchedOffStaysOff) {
     choose(form().mnuSkins);
     startWith20();
     clickWith(kCtrl | kAlt, form().cmdFunctions[kQuizKey]);
-    EXPECT_TRUE(s().NoKeyPaint);
+    EXPECT_TRUE(s().modifiers.NoKeyPaint);
 }
 
 TEST_F(QuizKeys, ModifiersWithoutAMeaningSaySo) {

@@ -44,12 +44,12 @@ TEST_F(Settings, TheFirstStartLaysTheFileDownWithItsDefaults) {
     EXPECT_EQ(text(kRecord3 + kTextB, 12), "Philosopher ");
     EXPECT_EQ(text(kRecord3 + kTextA + 41, 2), "64");
     EXPECT_EQ(longAt(kRecord2 + kLongB), 1U | 1U << 5 | 1U << 17 | 1U << 19 | 1U << 21);
-    EXPECT_EQ(s().DisplayDigits, 2);
-    EXPECT_EQ(s().Mode, DisplayMode::Fixed);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
-    EXPECT_EQ(s().Angle, AngleMode::Degrees);
-    EXPECT_FALSE(s().ViewExtended);
-    EXPECT_FLOAT_EQ(s().TaxRate, 7.75F);
+    EXPECT_EQ(s().format.DisplayDigits, 2);
+    EXPECT_EQ(s().format.Mode, DisplayMode::Fixed);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(s().format.Angle, AngleMode::Degrees);
+    EXPECT_FALSE(s().window.ViewExtended);
+    EXPECT_FLOAT_EQ(s().functions.TaxRate, 7.75F);
     EXPECT_TRUE(form().mnuSkins.checked);
     EXPECT_EQ(form().cmdDigits.text, "Display(2)");
     EXPECT_TRUE(platform.boxes.empty());
@@ -86,11 +86,11 @@ TEST_F(Settings, SaveSettingsKeepsFormatKeypadViewAndAngle) {
     EXPECT_EQ(platform.boxes.back().title, "SAVE!");
     EXPECT_EQ(longAt(kRecord2 + kLongB), 1U << 2 | 1U << 10 | 1U << 18 | 1U << 23);
     start();
-    EXPECT_EQ(s().Mode, DisplayMode::Engineering);
-    EXPECT_EQ(s().DisplayDigits, 7);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Trigonometry);
-    EXPECT_EQ(s().Angle, AngleMode::Grads);
-    EXPECT_TRUE(s().ViewExtended);
+    EXPECT_EQ(s().format.Mode, DisplayMode::Engineering);
+    EXPECT_EQ(s().format.DisplayDigits, 7);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Trigonometry);
+    EXPECT_EQ(s().format.Angle, AngleMode::Grads);
+    EXPECT_TRUE(s().window.ViewExtended);
     EXPECT_EQ(form().place.width, 7200);
     EXPECT_TRUE(form().txtReg_m[11].visible);
 }
@@ -100,15 +100,15 @@ TEST_F(Settings, WithoutSaveSettingsNothingOfThatIsKept) {
     choose(form().mnuMag);
     choose(form().mnuSave);
     start();
-    EXPECT_EQ(s().Mode, DisplayMode::Fixed);
-    EXPECT_EQ(s().ActiveKeypad, Keypad::Standard);
+    EXPECT_EQ(s().format.Mode, DisplayMode::Fixed);
+    EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Standard);
 }
 
 TEST_F(Settings, OnTheBinaryKeypadTheUsersDigitsAreSaved) {
     type("6");
     choose(form().cmdDigits);
     choose(form().mnuEngBinary);
-    EXPECT_EQ(s().DisplayDigits, 0);
+    EXPECT_EQ(s().format.DisplayDigits, 0);
     saveSettings();
     EXPECT_EQ(longAt(kRecord2 + kLongB) & 0xFFF8U, 1U << 9);
     EXPECT_NE(longAt(kRecord2 + kLongB) & 1U << 24, 0U);
@@ -121,7 +121,7 @@ TEST_F(Settings, TheWordSizeIsKeptInTwoDigits) {
     saveSettings();
     EXPECT_EQ(text(kRecord3 + kTextA + 41, 2), "08");
     start();
-    EXPECT_EQ(s().WordSize, 8);
+    EXPECT_EQ(s().format.WordSize, 8);
 }
 
 TEST_F(Settings, TheTicksWriteThemselvesAtOnce) {
@@ -137,7 +137,7 @@ TEST_F(Settings, TheTicksWriteThemselvesAtOnce) {
     EXPECT_TRUE(form().mnuAOT.checked);
     EXPECT_TRUE(form().alwaysOnTop);
     EXPECT_TRUE(form().mnuPosition.checked);
-    EXPECT_TRUE(s().NoKeyPaint);
+    EXPECT_TRUE(s().modifiers.NoKeyPaint);
     EXPECT_FALSE(form().mnuSkins.checked);
     choose(form().mnuAOT);
     EXPECT_EQ(text(kRecord2 + kTextA, 1), "e");
@@ -248,7 +248,7 @@ TEST_F(Settings, AnOptionWordWithoutDigitsGivesThirteen) {
     }
     writeFile(SettingsFile::kName, word);
     start();
-    EXPECT_EQ(s().DisplayDigits, 13);
+    EXPECT_EQ(s().format.DisplayDigits, 13);
     EXPECT_EQ(form().cmdDigits.text, "Display(13)");
     enter("0.5");
     EXPECT_EQ(tape().back(), "0.500 000 000 000 0");
@@ -270,7 +270,7 @@ TEST_F(Settings, TheDecimalCommaIsTheLocales) {
     platform.decimal = ',';
     start();
     EXPECT_EQ(form().cmdNumPad[10].text, ",");
-    EXPECT_FLOAT_EQ(s().TaxRate, 7.75F);
+    EXPECT_FLOAT_EQ(s().functions.TaxRate, 7.75F);
     enter("1,5");
     EXPECT_EQ(tape().back(), "1,50");
 }
@@ -278,8 +278,8 @@ TEST_F(Settings, TheDecimalCommaIsTheLocales) {
 TEST_F(Settings, AnotherDensityGivesTheCompactForm) {
     platform.desktop.dotsPerInch = 120;
     start();
-    EXPECT_TRUE(s().CompactForm);
-    EXPECT_EQ(s().TapeRows, 5);
+    EXPECT_TRUE(s().window.CompactForm);
+    EXPECT_EQ(s().window.TapeRows, 5);
     EXPECT_EQ(calc().tape.count(), 5U);
     EXPECT_FLOAT_EQ(form().lstDisplayReg.font.points, 12.0F);
 }
@@ -293,21 +293,21 @@ TEST_F(Settings, ViewShowsTheSmallRegistersAndKeepsThem) {
     clickWith(kCtrl, form().cmdView);
     EXPECT_TRUE(form().txtLastx.visible);
     clickWith(kCtrl, form().cmdDigits);
-    EXPECT_EQ(form().place.height, s().BasicHeight + 300);
+    EXPECT_EQ(form().place.height, s().window.BasicHeight + 300);
     start();
     EXPECT_TRUE(form().txty_Reg.visible);
     EXPECT_TRUE(form().txtLastx.visible);
-    EXPECT_TRUE(s().TallForm);
-    EXPECT_EQ(form().place.height, s().BasicHeight + 240);
+    EXPECT_TRUE(s().window.TallForm);
+    EXPECT_EQ(form().place.height, s().window.BasicHeight + 240);
     clickWith(kAlt, form().cmdView);
     EXPECT_FALSE(form().txty_Reg.visible);
     choose(form().cmdView);
     EXPECT_TRUE(form().txty_Reg.visible);
-    EXPECT_EQ(form().place.height, s().BasicHeight + 240 + 2000);
+    EXPECT_EQ(form().place.height, s().window.BasicHeight + 240 + 2000);
     clickWith(kAlt, form().cmdView);
     EXPECT_TRUE(form().txty_Reg.visible) << "only the plain view has the choice";
     clickWith(kShift, form().cmdView);
-    EXPECT_TRUE(s().ViewExtended);
+    EXPECT_TRUE(s().window.ViewExtended);
 }
 
 TEST_F(Settings, TheFirstNoticesOfTheKeypadsAreCounted) {
@@ -326,7 +326,7 @@ TEST_F(Settings, TheFirstNoticesOfTheKeypadsAreCounted) {
 TEST_F(Settings, APasteTakesNumbersAndNumbersOfABase) {
     platform.clipboard = "12abc";
     choose(form().mnuPaste);
-    EXPECT_EQ(s().depth(), 0);
+    EXPECT_EQ(s().stack.depth(), 0);
     platform.clipboard = " 1.50\n";
     choose(form().mnuPaste);
     EXPECT_EQ(x(), "1.50");
@@ -336,11 +336,11 @@ TEST_F(Settings, APasteTakesNumbersAndNumbersOfABase) {
     EXPECT_EQ(x(), "#101b");
     platform.clipboard = "#101";
     choose(form().mnuPaste);
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
     platform.clipboard = "1e999";
     choose(form().mnuPaste);
     EXPECT_EQ(platform.boxes.back().text, "Error number 6!");
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
 }
 
 TEST_F(Settings, CopyGivesTheNumberAsItWasTyped) {

@@ -147,11 +147,11 @@ const Row kRows[] = {
 TEST_F(StandardKeypad, EachKeyGivesItsValueUnderItsLabel) {
     for (const Row& row : kRows) {
         SCOPED_TRACE("key " + std::to_string(row.key) + " mask " + std::to_string(row.mask));
-        s().StackPtr = 1;
+        s().stack.StackPtr = 1;
         on(row.operands, row.key, row.mask);
         EXPECT_NEAR(value(), row.value, 1e-14 * std::abs(row.value));
         EXPECT_EQ(label(), row.label);
-        EXPECT_EQ(s().depth(), row.left);
+        EXPECT_EQ(s().stack.depth(), row.left);
         EXPECT_TRUE(platform.boxes.empty()) << lastBox();
     }
 }
@@ -191,7 +191,7 @@ TEST_F(StandardKeypad, AFailedPowerLeavesItsOperandOnTheStack) {
     EXPECT_EQ(x(), "0");
     EXPECT_EQ(label(), "No Data!");
     EXPECT_EQ(element(1), "-8");
-    EXPECT_EQ(calc().text(s().LastX), "0.5");
+    EXPECT_EQ(calc().text(s().stack.LastX), "0.5");
 }
 
 TEST_F(StandardKeypad, BadOperandsShowTheirMessages) {
@@ -226,7 +226,7 @@ TEST_F(StandardKeypad, ANumberThatIsStillTypedIsTakenAsItIs) {
     type("5");
     bank(5, kCtrl);
     EXPECT_EQ(x(), "32");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(StandardKeypad, AFunctionOnAnEmptyStackTakesZero) {
@@ -335,8 +335,8 @@ TEST_F(StandardKeypad, SalesTaxStandsOnTheTapeBeforeTheTotal) {
     EXPECT_EQ(line(1), "tax                7.75");
     EXPECT_EQ(line(), "Total            107.75");
     EXPECT_EQ(x(), "107.75");
-    EXPECT_EQ(s().depth(), 2);
-    EXPECT_EQ(calc().text(s().LastX), "7.75");
+    EXPECT_EQ(s().stack.depth(), 2);
+    EXPECT_EQ(calc().text(s().stack.LastX), "7.75");
     bank(16, kShift);
     EXPECT_EQ(x(), "7.75");
     EXPECT_EQ(label(), "Rate(%)");
@@ -345,7 +345,7 @@ TEST_F(StandardKeypad, SalesTaxStandsOnTheTapeBeforeTheTotal) {
 TEST_F(StandardKeypad, ANewTaxRateIsKept) {
     on({"7.255"}, 16, kCtrl);
     EXPECT_EQ(label(), "Rate(%)");
-    EXPECT_FLOAT_EQ(s().TaxRate, 7.26F);
+    EXPECT_FLOAT_EQ(s().functions.TaxRate, 7.26F);
     on({"200"}, 16);
     EXPECT_EQ(x(), "214.52");
     on({"100"}, 16, kCtrl);
@@ -353,7 +353,7 @@ TEST_F(StandardKeypad, ANewTaxRateIsKept) {
     EXPECT_EQ(lastTitle(), "Error!");
     EXPECT_EQ(label(), "Error!");
     start();
-    EXPECT_FLOAT_EQ(s().TaxRate, 7.26F);
+    EXPECT_FLOAT_EQ(s().functions.TaxRate, 7.26F);
 }
 
 // Everyday functions.
@@ -396,7 +396,7 @@ TEST_F(StandardKeypad, BoardFeetComeInAnyOrder) {
         }
         EXPECT_EQ(x(), "4");
         EXPECT_EQ(label(), "bf");
-        EXPECT_EQ(s().depth(), 1);
+        EXPECT_EQ(s().stack.depth(), 1);
         EXPECT_EQ(tape().size(), 4U);
     }
     EXPECT_EQ(label(3), "Width\"");

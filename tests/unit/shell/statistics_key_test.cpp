@@ -37,11 +37,11 @@ TEST_F(StatisticsKey, CountsItsEntriesOnTheTape) {
 TEST_F(StatisticsKey, TheStackDoesNotGrowWithTheEntries) {
     enter("99");
     bank(kSigma, 7);
-    const int depth = s().depth();
+    const int depth = s().stack.depth();
     for (const char* number : {"1", "2", "3", "4"}) {
         entry(number);
     }
-    EXPECT_EQ(s().depth(), depth);
+    EXPECT_EQ(s().stack.depth(), depth);
     EXPECT_EQ(x(), "4");
 }
 
@@ -65,7 +65,7 @@ TEST_F(StatisticsKey, PairsCountTheirY) {
     pair("10", "1");
     pair("20", "2");
     pair("40", "3");
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     bank(kSigma, kShift);
     EXPECT_EQ(label(1), "\xE4y");
     EXPECT_EQ(label(), "\xE4x");

@@ -37,7 +37,7 @@ TEST_F(TriangleKeys, ARightTriangleIsSolvedFromTwoOfItsSides) {
     EXPECT_EQ(lines[5], "\xE9                 53.13");
     EXPECT_EQ(lines[6], "Area               6.00");
     EXPECT_EQ(x(), "6");
-    EXPECT_EQ(s().depth(), 5) << "four results in the place of the inputs";
+    EXPECT_EQ(s().stack.depth(), 5) << "four results in the place of the inputs";
     EXPECT_EQ(element(4), "7");
     EXPECT_EQ(element(2), "4");
 }
@@ -97,7 +97,7 @@ TEST_F(TriangleKeys, ResetForgetsWhatWasGiven) {
 TEST_F(TriangleKeys, AnInputGivenTwiceReplacesItsFormerValue) {
     input("9", kLegs);
     input("3", kLegs);
-    EXPECT_EQ(s().depth(), 1);
+    EXPECT_EQ(s().stack.depth(), 1);
     input("5", kHypotenuseKey);
     EXPECT_EQ(line(), "Area               6.00");
 }
@@ -132,7 +132,7 @@ TEST_F(TriangleKeys, ThreeSidesGiveTheAngles) {
     for (std::size_t i = 0; i < 8; ++i) {
         EXPECT_EQ(lines[i + 2], expected[i]);
     }
-    EXPECT_EQ(s().depth(), 7);
+    EXPECT_EQ(s().stack.depth(), 7);
     EXPECT_TRUE(platform.boxes.empty());
 }
 

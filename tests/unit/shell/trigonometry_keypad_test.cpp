@@ -116,11 +116,11 @@ TEST_F(TrigonometryKeypad, EachKeyGivesItsValueUnderItsLabel) {
 
 TEST_F(TrigonometryKeypad, AFunctionTakesTheNumberItWorksOnAndAConstantIsPushed) {
     on({"7", "30"}, 22);
-    EXPECT_EQ(s().depth(), 2);
+    EXPECT_EQ(s().stack.depth(), 2);
     EXPECT_EQ(element(1), "7");
-    EXPECT_EQ(calc().text(s().LastX), "30");
+    EXPECT_EQ(calc().text(s().stack.LastX), "30");
     bank(3);
-    EXPECT_EQ(s().depth(), 3);
+    EXPECT_EQ(s().stack.depth(), 3);
 }
 
 TEST_F(TrigonometryKeypad, ModifiersWithoutAMeaningSaySo) {
@@ -167,13 +167,13 @@ TEST_F(TrigonometryKeypad, PolarBecomesRectangularAndBack) {
     EXPECT_EQ(label(1), "P>R(jy)");
     EXPECT_NEAR(std::strtod(element(1).c_str(), nullptr), 1.0, 1e-13);
     EXPECT_EQ(element(2), "9");
-    EXPECT_EQ(s().depth(), 3);
+    EXPECT_EQ(s().stack.depth(), 3);
     bank(12, kShift);
     EXPECT_NEAR(value(), 2.0, 1e-13);
     EXPECT_EQ(label(), "R>P(r)");
     EXPECT_EQ(label(1), "R>P(\xE9)");
     EXPECT_NEAR(std::strtod(element(1).c_str(), nullptr), 30.0, 1e-12);
-    EXPECT_EQ(s().depth(), 3);
+    EXPECT_EQ(s().stack.depth(), 3);
 }
 
 TEST_F(TrigonometryKeypad, ThePolarAngleIsLabelledByItsUnit) {
@@ -207,11 +207,11 @@ TEST_F(TrigonometryKeypad, SolidsTakeTheirSizesFromTheStack) {
                                  {3, 3.14159265358979 * (1.0 + std::sqrt(10.0)), "A_Cone", 3}};
     for (const Solid& solid : kSolids) {
         SCOPED_TRACE(solid.label);
-        s().StackPtr = 1;
+        s().stack.StackPtr = 1;
         on({"8", "4", "2", "3"}, 19, solid.mask);
         EXPECT_NEAR(value(), solid.value, 1e-13 * solid.value);
         EXPECT_EQ(label(), solid.label);
-        EXPECT_EQ(s().depth(), solid.left);
+        EXPECT_EQ(s().stack.depth(), solid.left);
     }
 }
 
