@@ -6,6 +6,7 @@
 // form_input.h, so that a window and a key script behave alike.
 #pragma once
 
+#include "platform/drawing.h"
 #include "platform/text.h"
 
 #include <cstddef>
@@ -20,7 +21,22 @@ namespace tallyforge {
 /// Modifier keys as bits, added together.
 enum Modifier : std::uint8_t { kNoModifier = 0, kShift = 1, kCtrl = 2, kAlt = 4 };
 
-enum class ControlKind { Key, Field, Label, List, Option, Frame, Lamp, Menu, MenuEntry, Separator };
+enum class ControlKind {
+    Key,
+    Field,
+    Label,
+    List,
+    Option,
+    Frame,
+    Lamp,
+    Menu,
+    MenuEntry,
+    Separator,
+    Check,    ///< a box that a click ticks and clears
+    Choice,   ///< a list of which one row shows; `rows` holds them
+    Picture,  ///< shows `drawing`
+    Progress  ///< shows `progress`
+};
 
 /// Back colour of a key: what kind of key it is.
 enum class KeyColour { Plain, Yellow, Blue, PaleYellow };
@@ -80,19 +96,32 @@ struct Control {
     KeyColour colour = KeyColour::Plain;
     bool enabled = true;
     bool visible = true;
-    bool checked = false;       ///< option selected, menu entry ticked
+    bool checked = false;       ///< option selected, box or menu entry ticked
     bool opaque = false;        ///< drawn without its text being looked at (a lamp)
     std::size_t caret = 0;      ///< fields: position of the caret
     std::size_t maxLength = 0;  ///< fields: most characters, 0 without a limit
     bool fromBottom = false;    ///< lists: few rows stand at the bottom
     bool rightAligned = false;  ///< fields and labels
     std::string menu;           ///< menu entries: name of the menu that holds them
-    ListRows* rows = nullptr;   ///< lists
+    ListRows* rows = nullptr;   ///< lists and choices
+    std::vector<int> columns;   ///< lists: where the text behind each tab character begins, twips
+    std::string group;          ///< options: those of one group exclude each other; "" is the name's
+    bool tabStop = true;        ///< Tab stops here
+    bool takesEnter = false;    ///< fields: Enter, Tab or Esc come to its key handlers and
+    bool takesTab = false;      ///< do nothing else
+    bool takesEscape = false;
+    int progress = 0;   ///< 0 to 100
+    Drawing drawing{};  ///< pictures
 
     // Handlers; an empty one means that nothing happens.
     std::function<void()> click;
     std::function<void()> doubleClick;
     std::function<void(MouseButton, std::uint8_t shift)> mouseDown;
+    std::function<void(MouseButton, std::uint8_t shift)> mouseUp;  ///< behind the click
+    std::function<void()> gotFocus;
+    std::function<void()> lostFocus;
+    /// The hand changed the text of a field, or chose a row of a choice.
+    std::function<void()> changed;
     std::function<void(KeyEvent)> keyDown;
     /// May set the character to 0 to drop it.
     std::function<void(int& keyAscii)> keyPress;
@@ -116,13 +145,19 @@ public:
     Place place{};      ///< twips; left and top on the screen
     bool minimised = false;
     bool alwaysOnTop = false;
-    bool open = true;  ///< a handler clears it to close the form
+    bool open = true;   ///< a handler clears it to close the form
+    int helpTopic = 0;  ///< of F1; 0 for none
 
     Control* focus = nullptr;       ///< has the keyboard
     Control* defaultKey = nullptr;  ///< clicked by Enter
     Control* cancelKey = nullptr;   ///< clicked by Esc
 
-    std::function<void()> load;      ///< before the form is shown
+    std::function<void()> load;  ///< before the form is shown
+    /// Gives a dialog its left and top, after `load`; without one `place` stands. A dialog is then
+    /// moved as far as it must be to lie wholly on the screen.
+    std::function<void()> placing;
+    /// Sees each key before the control that has the keyboard; returns whether it keeps it.
+    std::function<bool(KeyEvent)> preview;
     std::function<void()> activate;  ///< once shown
     std::function<void()> deactivate;
     std::function<void()> close;  ///< the close button; clears `open` if it agrees
