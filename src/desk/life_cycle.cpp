@@ -55,6 +55,7 @@ void LifeCycle::Form_Load() {
     const bool read = goOn(report, [&] {
         readFirstRecord();
         if (calc.form.open) {
+            calc.units = settings.readUnits();
             readOptions();
             readProgramAndPlace();
             readView();
@@ -126,9 +127,6 @@ void LifeCycle::readFirstRecord() {
                 "You must uninstall the previous version \ncompletely, then reinstall the new version.");
         return;
     }
-    units_.magnetics = record.RecLongA();
-    units_.resonance = record.RecFixed();
-    units_.permeability = record.RecLongB();
     calc.s.files.TapeFileName = withoutTrailingBlanks(record.textB(3, 25));
     calc.s.files.MemoryFileName = withoutTrailingBlanks(record.textB(28, 25));
 }
@@ -149,8 +147,6 @@ void LifeCycle::readOptions() {
 void LifeCycle::readProgramAndPlace() {
     EngineState& s = calc.s;
     const SettingsRecord record = settings.read(3);
-    units_.ohm = record.RecLongA();
-    units_.core = record.RecLongB();
     s.files.DefaultProgram = withoutTrailingBlanks(record.textA(1, 31));
     s.window.SavedTop = 0;
     s.window.SavedLeft = 0;

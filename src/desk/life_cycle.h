@@ -14,15 +14,6 @@ namespace tallyforge {
 class Engine;
 class ViewKeys;
 
-/// Words of unit choices as the settings hold them, one bit set in each range of units.
-struct UnitWords {
-    std::int32_t magnetics = 0;
-    std::int64_t resonance = 0;
-    std::int32_t permeability = 0;
-    std::int32_t ohm = 0;
-    std::int32_t core = 0;
-};
-
 class LifeCycle {
 public:
     LifeCycle(Engine& calculator, SettingsFile& settingsFile, ViewKeys& view)
@@ -47,8 +38,6 @@ public:
     /// Whether the first notice of a keypad is still due; counts it.
     bool countNotice(Keypad keypad);
 
-    [[nodiscard]] const UnitWords& units() const { return units_; }
-
 private:
     void prepareForm();
     bool findSettings();
@@ -65,7 +54,6 @@ private:
     Engine& calc;
     SettingsFile& settings;
     ViewKeys& viewKeys;
-    UnitWords units_;
     bool onTopAtStart_ = false;
 };
 

@@ -13,6 +13,7 @@
 #include "engine/number_display.h"
 #include "engine/stack_list.h"
 #include "engine/tape.h"
+#include "engine/unit_words.h"
 #include "platform/platform.h"
 
 #include <filesystem>
@@ -35,6 +36,8 @@ public:
     StackList stackList;
     NumberDisplay display;
     Commit commit;
+    /// Units in force, as the settings hold them until a dialog changes them.
+    UnitWords units;
 
     /// The folder of all data files; set at start.
     std::filesystem::path AppDataDir;

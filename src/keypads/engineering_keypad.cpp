@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The Engineering keypad, a row a key.
-// Tips and captions that name units stand here with the first unit of each choice.
+// Units in a tip stand as ranges of unit_tables.h in braces; the painter writes those in force.
 #include "functions/constants.h"
 #include "functions/trigonometry.h"
 #include "keypads/common_rows.h"
@@ -45,14 +45,15 @@ const KeypadTable kEngineeringKeypad{
          .helpTopic = 1105},
         {.key = 6,
          .caption = "Fr",
-         .tip = " Resonant Frequency - Click: Calculator | Shift+Click: X(mOhms) | Ctrl+: C(Fd) | Alt+: L(Hy) | "
-                "Ctrl+Alt+: F(Hz)",
+         .tip = " Resonant Frequency - Click: Calculator | Shift+Click: X({LcX}) | Ctrl+: C({LcC}) | Alt+: L({LcL}) | "
+                "Ctrl+Alt+: F({LcF})",
          .colour = KeyColour::Yellow,
          .under = {.shift = "X", .ctrl = "C", .alt = "L", .ctrlAlt = "F"},
          .helpTopic = 1106},
         {.key = 7,
          .caption = {"W", Face::Symbol},
-         .tip = " Ohms Law - Click: Calculator | Shift+ Click: P(mW) | Ctrl+: I(A) | Alt+: E(V) | Ctrl+Alt+: R(mOhms) ",
+         .tip = " Ohms Law - Click: Calculator | Shift+ Click: P({OhmP}) | Ctrl+: I({OhmI}) | Alt+: E({OhmE}) | "
+                "Ctrl+Alt+: R({OhmR}) ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "P", .ctrl = "I", .alt = "E", .ctrlAlt = "R"},
          .helpTopic = 1107},
@@ -63,7 +64,7 @@ const KeypadTable kEngineeringKeypad{
          .helpTopic = 1108},
         {.key = 9,
          .caption = "Cm",
-         .tip = " Power Supply Cap: Vac [Click] | Vdc [Ctrl+Click] | Idc [Alt+] | Freq(Hz) [Alt+Ctrl+] | "
+         .tip = " Power Supply Cap: Vac [Click] | Vdc [Ctrl+Click] | Idc [Alt+] | Freq({OhmF}) [Alt+Ctrl+] | "
                 "Recalc.[Shift+key+Click] ",
          .colour = KeyColour::Blue,
          .under = {.shift = "Vac",
@@ -82,7 +83,7 @@ const KeypadTable kEngineeringKeypad{
          .helpTopic = 1110},
         {.key = 11,
          .caption = "Fo",
-         .tip = " Geo. mean (Hz) - Click: Calculator | Shift+Click: Fo | Ctrl+Click: BW | Alt+: FL | Ctrl+Alt+: FU ",
+         .tip = " Geo. mean ({LcF}) - Click: Calculator | Shift+Click: Fo | Ctrl+Click: BW | Alt+: FL | Ctrl+Alt+: FU ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "Fo", .ctrl = "BW", .alt = "FL", .ctrlAlt = "FU"},
          .helpTopic = 1111},
@@ -122,21 +123,21 @@ const KeypadTable kEngineeringKeypad{
          .helpTopic = 1115},
         {.key = 16,
          .caption = "Zn",
-         .tip = " Impedance of a Ladder Network (Hz, mOhms, Fd, and Hy) - Click: Calculator | Shift+Click: Input "
-                "Frequency (Hz)",
+         .tip = " Impedance of a Ladder Network ({LcF}, {LcX}, {LcC}, and {LcL}) - Click: Calculator | Shift+Click: "
+                "Input Frequency ({LcF})",
          .colour = KeyColour::Yellow,
          .under = {.shift = "F"},
          .helpTopic = 1116},
         {.key = 17,
          .caption = "Pr",
-         .tip = " Par.Res.Ckt - Click: Calculator | Shift+: RL(mOhms) |  Ctrl+: C(Fd) | Alt+: L(Hy) |  ",
+         .tip = " Par.Res.Ckt - Click: Calculator | Shift+: RL({LcX}) |  Ctrl+: C({LcC}) | Alt+: L({LcL}) |  ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "RL", .ctrl = "C", .alt = "L"},
          .helpTopic = 1117},
         {.key = 18,
          .caption = "Sr",
-         .tip = " Ser.Res.Ckt. - Click: Calculator | Shift+Click: Rp(Ohms) | Ctrl+: C(Fd) | Alt+: L(Hy) | Ctrl+Alt+: "
-                "Rs(mOhms) | ",
+         .tip = " Ser.Res.Ckt. - Click: Calculator | Shift+Click: Rp(Ohms) | Ctrl+: C({LcC}) | Alt+: L({LcL}) | "
+                "Ctrl+Alt+: Rs({LcX}) | ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "Rp", .ctrl = "C", .alt = "L", .ctrlAlt = "Rs"},
          .helpTopic = 1118},
@@ -150,7 +151,7 @@ const KeypadTable kEngineeringKeypad{
         {.key = 20,
          .caption = "rho",
          .tip =
-             " Resistance (R) vs Resistivity (p) x len/area: p [Click] | L(m) [Ctrl+] | A(m²) [Alt+] | ... | Recalc. [Shift+key+Click] "_t,
+             " Resistance (R) vs Resistivity (p) x len/area: p [Click] | L({OhmLength}) [Ctrl+] | A({OhmArea}) [Alt+] | ... | Recalc. [Shift+key+Click] "_t,
          .colour = KeyColour::Blue,
          .under = {.shift = {"r", Face::Symbol}, .ctrl = "L", .shiftCtrl = "L", .alt = "A", .shiftAlt = "A"},
          .silentOperand = true,
@@ -164,8 +165,8 @@ const KeypadTable kEngineeringKeypad{
          .helpTopic = 1121},
         {.key = 22,
          .caption = {"DT", Face::Symbol},
-         .tip =
-             "Cyl, Recalc [Shift+key] // Temp. Rise(°C): Surface Area(cm²) [Enter], W [Click]  Surface Area(cm²): Ht [Ctrl+]; Cylinder; Dia [Alt+]"_t,
+         .tip = "{LmuShape}, Recalc [Shift+key] // Temp. Rise({LmuTemperature}): Surface Area({LmuSurface}) [Enter], W "
+                "[Click]  Surface Area({LmuSurface}): Ht [Ctrl+];{LmuShapeTip}",
          .colour = KeyColour::Blue,
          .under = {.ctrl = "HT", .shiftCtrl = "HT", .alt = "dia", .shiftAlt = "dia"},
          .helpTopic = 1122},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypads/keypad_model.h"
 
+#include "dialogs/unit_choice.h"
 #include "engine/engine.h"
 #include "numbers/word_size.h"
 
@@ -84,14 +85,27 @@ void KeypadModel::lay(Keypad keypad) {
 void KeypadModel::paintPlain() {
     const Keypad keypad = calc.s.modes.ActiveKeypad;
     calc.display.enableByteKeys(keypad != Keypad::Binary || calc.s.format.WordSize >= kSmallestByteWord);
-    for (const KeyRow& row : keypadTable(keypad).rows) {
+    const KeypadTable& table = keypadTable(keypad);
+    for (const KeyRow& row : table.rows) {
         Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
-        look(key, row.caption, row.tip, row.colour);
+        look(key, row.caption, tipOf(table, row), row.colour);
         hideWhereDue(key, row, calc.s);
     }
     if (dressUnits && unitsMatter(keypad)) {
         dressUnits(keypad);
     }
+}
+
+// The bank is painted after every key, so that tips with units are composed once a choice.
+std::string_view KeypadModel::tipOf(const KeypadTable& table, const KeyRow& row) {
+    if (tips_.table != &table || tips_.units != calc.units) {
+        tips_.table = &table;
+        tips_.units = calc.units;
+        for (const KeyRow& each : table.rows) {
+            tips_.texts.at(static_cast<std::size_t>(each.key)) = withUnits(each.tip, calc.units);
+        }
+    }
+    return tips_.texts.at(static_cast<std::size_t>(row.key));
 }
 
 void KeypadModel::enterBinary() {

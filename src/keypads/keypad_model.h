@@ -5,11 +5,15 @@
 #pragma once
 
 #include "engine/engine_state.h"
+#include "engine/unit_words.h"
 #include "keypads/keypad_table.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace tallyforge {
@@ -59,8 +63,17 @@ private:
     void tickMenu(Keypad keypad);
     void showHint(Keypad keypad);
     [[nodiscard]] bool bankIsLent() const;
+    [[nodiscard]] std::string_view tipOf(const KeypadTable& table, const KeyRow& row);
+
+    /// Tips of the keypad that is laid, with the units that were in force when they were written.
+    struct UnitTips {
+        const KeypadTable* table = nullptr;
+        UnitWords units;
+        std::array<std::string, kBankKeys> texts;
+    };
 
     Engine& calc;
+    UnitTips tips_;
     std::vector<Keypad> history_;  ///< newest first
     bool hinted_ = false;
 };

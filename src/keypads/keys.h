@@ -6,6 +6,7 @@
 
 #include "bases/binary_keys.h"
 #include "dialogs/dialog_hand_over.h"
+#include "dialogs/unit_tables.h"
 #include "engine/engine.h"
 #include "functions/dates.h"
 #include "functions/everyday.h"
@@ -14,6 +15,7 @@
 #include "functions/triangles.h"
 
 #include <functional>
+#include <span>
 #include <string_view>
 
 namespace tallyforge {
@@ -22,6 +24,8 @@ struct Keys {
     Engine& calc;
     /// Loads one of the programs that belong to a key, by its file name.
     std::function<void(std::string_view)> runProgram{};
+    /// Asks whether the units in force of these ranges are to be the default.
+    std::function<void(std::span<const UnitRange* const>)> saveUnits{};
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
     Dates dates{calc};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The Magnetics keypad, a row a key.
-// Tips and captions that name units stand here with the first unit of each choice.
+// Units in a tip stand as ranges of unit_tables.h in braces; the painter writes those in force.
 #include "functions/constants.h"
 #include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
@@ -37,21 +37,21 @@ const KeypadTable kMagneticsKeypad{
          .helpTopic = 1804},
         {.key = 5,
          .caption = {"Ln²"_t},
-         .tip = " L vs n² (nH/t) - Click: Calculator | Shift+click: LHy | Ctrl+Click: n | Alt+Click: Lo "_t,
+         .tip = " L vs n² ({CoreLo}) - Click: Calculator | Shift+click: L{CoreL} | Ctrl+Click: n | Alt+Click: Lo "_t,
          .colour = KeyColour::Yellow,
          .under = {.shift = "L", .ctrl = "n", .alt = "Lo"},
          .helpTopic = 1805},
         {.key = 6,
          .caption = {"Lµ"_t},
          .tip =
-             " L vs µ - Click: Calculator | : Shift+Click: L(Hy) | Ctrl+click: n | Alt+Click: Ae(cm²) | Ctrl+Alt+: le(cm) | Shift+Ctrl+Alt: µ "_t,
+             " L vs µ - Click: Calculator | : Shift+Click: L({LmuL}) | Ctrl+click: n | Alt+Click: Ae({LmuAe}) | Ctrl+Alt+: le({LmuLe}) | Shift+Ctrl+Alt: µ "_t,
          .colour = KeyColour::Yellow,
          .under = {.shift = "L", .ctrl = "n", .alt = "Ae", .ctrlAlt = "le", .all = {"µ"_t}},
          .helpTopic = 1806},
         {.key = 7,
          .caption = "Bm",
          .tip =
-             " Flux Density (g) - Click: Calculator | Shift+Click: Bm |  Ctrl+Click: n | Alt+: Ae(cm²) | Ctrl+Alt+: F(Hz) | Shift+Ctrl+Alt+: E "_t,
+             " Flux Density ({MagB}) - Click: Calculator | Shift+Click: Bm |  Ctrl+Click: n | Alt+: Ae({MagAe}) | Ctrl+Alt+: F({MagWave}{MagF}) | Shift+Ctrl+Alt+: E "_t,
          .colour = KeyColour::Yellow,
          .under = {.shift = "Bm", .ctrl = "n", .alt = "Ae", .ctrlAlt = "F", .all = "E"},
          .helpTopic = 1807},
@@ -82,7 +82,7 @@ const KeypadTable kMagneticsKeypad{
         {.key = 11,
          .caption = "Q",
          .tip =
-             " Calc Q (Rt Click for µ & cd): Freq(Hz) [Click] | Rdc [Ctrl+] | Ind (Hy) [Alt+] | Flux Density (Bm) [Alt+Ctrl+] | Recalc. [Shift+key+] "_t,
+             " Calc Q (Rt Click for µ & cd): Freq({CoreQF}) [Click] | Rdc [Ctrl+] | Ind ({CoreQL}) [Alt+] | Flux Density (Bm) [Alt+Ctrl+] | Recalc. [Shift+key+] "_t,
          .colour = KeyColour::Blue,
          .under = {.shift = "F",
                    .ctrl = "Rdc",
@@ -95,7 +95,7 @@ const KeypadTable kMagneticsKeypad{
          .helpTopic = 1811},
         {.key = 12,
          .caption = "mtl",
-         .tip = " Toroid (mm): OD (mm) [Click] | ID (mm) [Ctrl+] | HT (mm) [Alt+] | Recalc. [Shift+key+Click] ",
+         .tip = "{LmuCoreTip}",
          .colour = KeyColour::Blue,
          .under = {.shift = "OD", .ctrl = "ID", .shiftCtrl = "ID", .alt = "Ht", .shiftAlt = "Ht"},
          .silentOperand = true,
@@ -103,7 +103,7 @@ const KeypadTable kMagneticsKeypad{
         {.key = 13,
          .caption = "Ls",
          .tip =
-             " Inductance of a single-layer air-core solenoid, in inches: length [Ctrl+Alt+Click] | radius [Alt+Click] | n [Ctrl+Click] | Ls(µH) [Click] | recalc. [Shift+key+Click] "_t,
+             " Inductance of a single-layer air-core solenoid, in {MagLen}: length [Ctrl+Alt+Click] | radius [Alt+Click] | n [Ctrl+Click] | Ls(µH) [Click] | recalc. [Shift+key+Click] "_t,
          .colour = KeyColour::Blue,
          .under = {.shift = {"L(µ)"_t},
                    .ctrl = "n",
@@ -141,7 +141,8 @@ const KeypadTable kMagneticsKeypad{
          .helpTopic = 1815},
         {.key = 16,
          .caption = "'C'",
-         .tip = " C Core Calculator (mm): D [Shift+Click] | E [Ctrl+Click] | F [Alt+Click] | G [Ctrl+Alt+Click] ",
+         .tip = " C Core Calculator ({CoreDimension}): D [Shift+Click] | E [Ctrl+Click] | F [Alt+Click] | G "
+                "[Ctrl+Alt+Click] ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "D", .ctrl = "E", .alt = "F", .ctrlAlt = "G"},
          .helpTopic = 1816},
@@ -185,8 +186,8 @@ const KeypadTable kMagneticsKeypad{
          .helpTopic = 1821},
         {.key = 22,
          .caption = "H",
-         .tip = " Magnetizing Force (Oe) - Click: Calculator  | Shift+Click: H | Ctrl+Click: n | Alt+Click: I(Amps) | "
-                "Ctrl+Alt+Click: le(cm)",
+         .tip = " Magnetizing Force ({MagH}) - Click: Calculator  | Shift+Click: H | Ctrl+Click: n | Alt+Click: "
+                "I({MagI}) | Ctrl+Alt+Click: le({MagLe})",
          .colour = KeyColour::Yellow,
          .under = {.shift = "H", .ctrl = "n", .alt = "I", .ctrlAlt = "le"},
          .helpTopic = 1822},

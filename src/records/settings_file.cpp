@@ -12,22 +12,31 @@ namespace {
 
 constexpr std::int64_t kFixedScale = 10000;
 
-constexpr std::int32_t bits(std::initializer_list<int> set) {
+constexpr std::uint32_t bits(std::initializer_list<int> set) {
     std::uint32_t word = 0;
     for (const int bit : set) {
         word |= 1U << bit;
     }
-    return static_cast<std::int32_t>(word);
+    return word;
 }
 
-// A fresh file has the first row of each range of units.
-constexpr std::int32_t kMagneticUnits = bits({0, 5, 9, 11, 15, 19, 21, 23, 27});
-constexpr std::int32_t kPermeabilityUnits = bits({0, 4, 8, 18, 20, 22, 24});
-constexpr std::int32_t kResonanceUnits = bits({0, 4, 9, 12});
-constexpr std::int32_t kOhmUnits = bits({0, 6, 11, 16, 20, 23, 27});
-constexpr std::int32_t kCoreUnits = bits({0, 4, 7, 11, 16, 18, 22, 25, 28});
+/// Where a word of unit choices lies, and its bits in a fresh file: the most usual unit of each
+/// range, not always its first. No bit of the surface's range (18, 19) would mean inches.
+struct UnitsField {
+    UnitsWord word;
+    int record;
+    RecordField field;
+    std::uint32_t fresh;
+};
+constexpr std::array<UnitsField, 5> kUnitsFields{{
+    {&UnitWords::UnitsWordMag, 1, RecordField::LongA, bits({0, 5, 9, 11, 15, 19, 21, 23, 27})},
+    {&UnitWords::UnitsWordLmu, 1, RecordField::LongB, bits({0, 4, 8, 19, 20, 22, 24, 27})},
+    {&UnitWords::UnitsWordLc, 1, RecordField::Fixed, bits({1, 4, 9, 12})},
+    {&UnitWords::UnitsWordOhm, 3, RecordField::LongA, bits({0, 6, 11, 17, 22, 25, 28})},
+    {&UnitWords::UnitsWordCore, 3, RecordField::LongB, bits({0, 4, 7, 11, 16, 18, 22, 25, 28})},
+}};
 
-constexpr std::int32_t kFreshOptions = bits(
+constexpr std::uint32_t kFreshOptions = bits(
     {option_bit::kMode, option_bit::kDigits + 2, option_bit::kDegrees, option_bit::kViewPlain, option_bit::kKeypad});
 
 }  // namespace
@@ -67,6 +76,24 @@ void SettingsRecord::setRecFixed(std::int64_t whole) {
     writeBytes(kFixed, 8, static_cast<std::uint64_t>(whole) * static_cast<std::uint64_t>(kFixedScale));
 }
 
+std::int64_t SettingsRecord::number(RecordField field) const {
+    return field == RecordField::LongA ? RecLongA() : field == RecordField::LongB ? RecLongB() : RecFixed();
+}
+
+void SettingsRecord::setNumber(RecordField field, std::int64_t value) {
+    switch (field) {
+        case RecordField::LongA:
+            setRecLongA(static_cast<std::int32_t>(value));
+            break;
+        case RecordField::Fixed:
+            setRecFixed(value);
+            break;
+        case RecordField::LongB:
+            setRecLongB(static_cast<std::int32_t>(value));
+            break;
+    }
+}
+
 std::string SettingsRecord::readText(std::size_t field, std::size_t first, std::size_t count) const {
     return {bytes.data() + field + first - 1, count};
 }
@@ -86,24 +113,24 @@ void SettingsRecord::setOption(int bit, bool on) {
 SettingsRecord SettingsFile::defaults(int number) {
     SettingsRecord record;
     if (number == 1) {
-        record.setRecLongA(kMagneticUnits);
         record.setTextA(29, 2, "08");
         record.setTextB(1, 2, "00");
         record.setTextB(3, 25, "tape.txt");
         record.setTextB(28, 25, "registers.txt");
-        record.setRecFixed(kResonanceUnits);
-        record.setRecLongB(kPermeabilityUnits);
     } else if (number == 2) {
         record.setTextA(1, 1, "e");
         record.setTextA(11, 1, "s");
         record.setTextA(41, 12, "snail mail: ");
         record.setTextB(48, 5, "7.75");
-        record.setRecLongB(kFreshOptions);
+        record.setRecLongB(static_cast<std::int32_t>(kFreshOptions));
     } else {
-        record.setRecLongA(kOhmUnits);
         record.setTextA(42, 2, "64");
         record.setTextB(1, 12, "Philosopher ");
-        record.setRecLongB(kCoreUnits);
+    }
+    for (const UnitsField& units : kUnitsFields) {
+        if (units.record == number) {
+            record.setNumber(units.field, units.fresh);
+        }
     }
     return record;
 }
@@ -142,19 +169,35 @@ void SettingsFile::write(int number, const SettingsRecord& record) const {
 
 void SettingsFile::AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field) const {
     SettingsRecord record = read(number);
-    const std::int64_t change = added - taken;
-    switch (field) {
-        case RecordField::LongA:
-            record.setRecLongA(static_cast<std::int32_t>(record.RecLongA() + change));
-            break;
-        case RecordField::Fixed:
-            record.setRecFixed(record.RecFixed() + change);
-            break;
-        case RecordField::LongB:
-            record.setRecLongB(static_cast<std::int32_t>(record.RecLongB() + change));
-            break;
-    }
+    record.setNumber(field, record.number(field) + added - taken);
     write(number, record);
+}
+
+UnitWords SettingsFile::readUnits() const {
+    UnitWords words;
+    for (const UnitsField& units : kUnitsFields) {
+        words.*units.word = static_cast<std::uint32_t>(read(units.record).number(units.field));
+    }
+    return words;
+}
+
+void SettingsFile::replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen) const {
+    for (const UnitsField& units : kUnitsFields) {
+        if (units.word == word) {
+            SettingsRecord record = read(units.record);
+            const auto held = static_cast<std::uint32_t>(record.number(units.field));
+            record.setNumber(units.field, (held & ~mask) | (chosen & mask));
+            write(units.record, record);
+        }
+    }
+}
+
+UnitWords SettingsFile::freshUnits() {
+    UnitWords words;
+    for (const UnitsField& units : kUnitsFields) {
+        words.*units.word = units.fresh;
+    }
+    return words;
 }
 
 }  // namespace tallyforge

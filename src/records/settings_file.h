@@ -11,6 +11,8 @@
 //   offset 120     reserved
 #pragma once
 
+#include "engine/unit_words.h"
+
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -36,6 +38,9 @@ inline constexpr int kYField = 29;
 inline constexpr int kLastxField = 30;
 }  // namespace option_bit
 
+/// Numeric fields of a record.
+enum class RecordField { LongA, Fixed, LongB };
+
 class SettingsRecord {
 public:
     SettingsRecord();
@@ -46,6 +51,8 @@ public:
     /// RecFixed as a whole number (the stored value divided by 10000).
     [[nodiscard]] std::int64_t RecFixed() const;
     void setRecFixed(std::int64_t whole);
+    [[nodiscard]] std::int64_t number(RecordField field) const;
+    void setNumber(RecordField field, std::int64_t value);
 
     /// `count` characters of a text field from position `first`, counted from 1.
     [[nodiscard]] std::string textA(std::size_t first, std::size_t count) const {
@@ -80,9 +87,6 @@ private:
     void writeText(std::size_t field, std::size_t first, std::size_t count, std::string_view text);
 };
 
-/// Numeric fields of a record, for adjust().
-enum class RecordField { LongA, Fixed, LongB };
-
 class SettingsFile {
 public:
     static constexpr int kRecords = 3;
@@ -101,6 +105,13 @@ public:
     void write(int number, const SettingsRecord& record) const;
     /// Reads a record, changes one numeric field by `added` - `taken`, writes it.
     void AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field) const;
+
+    /// The five words of unit choices. Raises as read().
+    [[nodiscard]] UnitWords readUnits() const;
+    /// The bits of `mask` in one word become those of `chosen`; all others stay. Raises as write().
+    void replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen) const;
+    /// The words of a fresh file.
+    [[nodiscard]] static UnitWords freshUnits();
 
     /// A fresh record with the defaults.
     [[nodiscard]] static SettingsRecord defaults(int number);

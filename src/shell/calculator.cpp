@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/calculator.h"
 
+#include "dialogs/unit_choice.h"
 #include "shell/help_topics.h"
 
 #include <utility>
@@ -72,6 +73,9 @@ void Calculator::hangKeys() {
     keypads_.dispatch.typeCharacter = [this](char character) { entryLine_.typeBaseCharacter(character); };
     keypads_.dispatch.registerKey = [this](int index) { registers_.RegisterKey(index); };
     keypads_.model.hintDue = [this](Keypad keypad) { return lifeCycle_.countNotice(keypad); };
+    keypads_.keys.saveUnits = [this](std::span<const UnitRange* const> ranges) {
+        askToSaveUnits(engine_, settings_, ranges);
+    };
     keypads_.above.copy = [this] { clipboard_.mnuCopy_Click(); };
     keypads_.above.paste = [this] { clipboard_.mnuPaste_Click(); };
 }
