@@ -32,7 +32,7 @@ MultiInput::Outcome MultiInput::press(std::uint8_t name) {
     }
     valueOf(*input) = calc.xNumber();
     if (received_ == 0) {
-        savedStackPtr_ = s.stack.StackPtr;
+        first_ = {};
     }
     received_ |= input->bit;
     // The quantity that was solved for last is no input of that set, so it starts a new one.
@@ -43,7 +43,7 @@ MultiInput::Outcome MultiInput::press(std::uint8_t name) {
         deliver(*solved, *input, recalculates);
         return Outcome::Solved;
     }
-    takePlace();
+    settle();
     s.delivery.FnLabel = input->label;
     return Outcome::Stored;
 }
@@ -57,14 +57,15 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
         takeBack(last.bit);
         throw;
     }
-    takePlace();
+    const std::uint8_t given = received_;
+    settle();
+    complete();
     for (const KeyInput& input : shape.inputs) {
-        if (showsAll && input.bit != last.bit && (received_ & input.bit) != 0) {
+        if (showsAll && input.bit != last.bit && (given & input.bit) != 0) {
             writeInput(input);
         }
     }
     writeInput(last);
-    complete();
     s.stack.Xreg = result;
     s.delivery.FnLabel = solved.label;
     s.delivery.ValueInXreg = true;
@@ -74,22 +75,19 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
     }
 }
 
-void MultiInput::revise(std::uint8_t bit, double value) {
-    const auto input = std::find_if(shape.inputs.begin(), shape.inputs.end(),
-                                    [bit](const KeyInput& candidate) { return candidate.bit == bit; });
-    if (input != shape.inputs.end()) {
-        valueOf(*input) = value;
-    }
-}
-
-void MultiInput::takeBack(std::uint8_t bit) {
-    received_ &= static_cast<std::uint8_t>(~bit);
+void MultiInput::takeBack(std::uint8_t bits) {
+    received_ &= static_cast<std::uint8_t>(~bits);
+    remember(ValueCell::zero());
 }
 
 void MultiInput::complete() {
     lastSet_ = received_;
     received_ = 0;
-    savedStackPtr_ = 0;
+    if (stands(first_)) {
+        calc.s.stack.StackPtr = first_.slot + 1;
+    }
+    first_ = {};
+    last_ = {};
 }
 
 void MultiInput::writeInput(const KeyInput& input) {
@@ -99,18 +97,36 @@ void MultiInput::writeInput(const KeyInput& input) {
     calc.commit.cmdEnter_Click();
 }
 
-// The commit that follows replaces the element of the first input; what was typed since lies above
-// it and goes.
-void MultiInput::takePlace() {
-    calc.s.stack.StackPtr = std::min(calc.s.stack.StackPtr, savedStackPtr_);
+// The commit that follows takes the element on top. The input before it goes with it, if it still
+// lies right below: what the user has put on the stack since stays.
+void MultiInput::settle() {
+    if (last_.slot == calc.s.stack.StackPtr - 2 && stands(last_)) {
+        calc.s.stack.StackPtr -= 1;
+    }
     calc.s.entry.EntryOpen = false;
+    remember(calc.s.stack.Xreg);
+}
+
+// Whether the element that an input was left in is still there below the top, and still that input.
+bool MultiInput::stands(const Place& place) const {
+    const StackState& stack = calc.s.stack;
+    return place.slot > 0 && place.slot < stack.StackPtr - 1 && stack.slot(place.slot) == place.value;
+}
+
+// The coming commit leaves `left` on top.
+void MultiInput::remember(const ValueCell& left) {
+    last_ = {.slot = calc.s.stack.StackPtr - 1, .value = left};
+    if (first_.slot < 0 || first_.slot == last_.slot) {
+        first_ = last_;
+    }
 }
 
 void MultiInput::clear() {
     values_ = {};
     received_ = 0;
     lastSet_ = 0;
-    savedStackPtr_ = 0;
+    first_ = {};
+    last_ = {};
 }
 
 bool MultiInput::nothingEntered() const {

@@ -8,8 +8,11 @@
 //     constexpr KeySolution kSolutions[] = {{.bits = 6, .label = "RT", .solve = totalOfBoth}, ...};
 //     MultiInput key{calc, {.resetLabel = "Reset RT", .resetBit = 1024, .inputs = kInputs, ...}};
 //
-// All inputs of a set and its result take one place on the stack, the one of the first input.
+// Inputs that follow each other take one place on the stack. What the user puts there between two of
+// them stays until the set is complete; then the result stands in the place of the first input.
 #pragma once
+
+#include "numbers/value_cell.h"
 
 #include <array>
 #include <cstddef>
@@ -71,10 +74,11 @@ public:
     /// is then any number that the keys agree on.
     Outcome press(std::uint8_t name);
 
-    /// For a shape without solutions, whose owner solves: the stored value of the input `bit` in
-    /// another unit; the input is taken back; the set is complete, the next input starts a new one.
-    void revise(std::uint8_t bit, double value);
-    void takeBack(std::uint8_t bit);
+    /// For a shape without solutions, whose owner solves: the inputs `bits` are taken back, because
+    /// they led to a failure that leaves 0 in X.
+    void takeBack(std::uint8_t bits);
+    /// Likewise: the set is complete. The coming commit takes the place of the first input, the
+    /// next input starts a new set.
     void complete();
 
     /// Sum of the inputs received so far.
@@ -82,11 +86,19 @@ public:
     [[nodiscard]] const InputValues& values() const { return values_; }
 
 private:
+    /// Where an input stands on the stack, and what was left there.
+    struct Place {
+        int slot = -1;
+        ValueCell value{};
+    };
+
+    [[nodiscard]] bool stands(const Place& place) const;
+    void remember(const ValueCell& left);
     [[nodiscard]] bool nothingEntered() const;
     [[nodiscard]] const KeyInput* named(std::uint8_t mask) const;
     [[nodiscard]] const KeySolution* solution() const;
     void clear();
-    void takePlace();
+    void settle();
     void deliver(const KeySolution& solved, const KeyInput& last, bool showsAll);
     void writeInput(const KeyInput& input);
     [[nodiscard]] double& valueOf(const KeyInput& input);
@@ -96,7 +108,8 @@ private:
     InputValues values_{};
     std::uint8_t received_ = 0;
     std::uint8_t lastSet_ = 0;  ///< sum that the last result came from
-    int savedStackPtr_ = 0;     ///< StackPtr at the first input; 0 before it
+    Place first_;               ///< of the set's first input
+    Place last_;                ///< of the input before this one
 };
 
 }  // namespace tallyforge

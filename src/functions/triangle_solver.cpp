@@ -31,15 +31,6 @@ bool isAcute(double angle) {
     return angle > 0.0 && angle < kQuarterTurn - kLastDigits;
 }
 
-void checkGiven(std::uint8_t bits, const RightTriangle& given) {
-    const auto holds = [bits](std::uint8_t bit, bool right) { return (bits & bit) == 0 || right; };
-    if (!holds(kHypotenuse, given.hypotenuse > 0.0) || !holds(kAbscissa, given.x > 0.0) ||
-        !holds(kOrdinate, given.y > 0.0) || !holds(kAngleOppositeX, isAcute(given.oppositeX)) ||
-        !holds(kAngleOppositeY, isAcute(given.oppositeY))) {
-        noTriangle();
-    }
-}
-
 // The sides are all known: only the angles are missing.
 RightTriangle withAngles(RightTriangle t) {
     t.oppositeX = MathFunctions::ArcSin(quotient(t.x, t.hypotenuse)).value_or(kQuarterTurn);
@@ -166,17 +157,6 @@ std::size_t lowestBit(unsigned bits) {
     return bits % 2 == 1 ? 0 : bits % 4 == 2 ? 1 : 2;
 }
 
-void checkGiven(std::uint8_t bits, const Triangle& given) {
-    for (std::size_t i = 0; i < 3; ++i) {
-        const bool sideGiven = (bits >> i & 1) != 0;
-        const bool angleGiven = (bits >> (i + 3) & 1) != 0;
-        const double angle = given.angles.at(i);
-        if ((sideGiven && given.sides.at(i) <= 0.0) || (angleGiven && (angle <= 0.0 || angle >= kPi))) {
-            noTriangle();
-        }
-    }
-}
-
 }  // namespace
 
 bool determinesRightTriangle(std::uint8_t bits) {
@@ -184,8 +164,21 @@ bool determinesRightTriangle(std::uint8_t bits) {
     return std::find(std::begin(kDetermining), std::end(kDetermining), bits) != std::end(kDetermining);
 }
 
+std::uint8_t outOfRange(std::uint8_t bits, const RightTriangle& given) {
+    unsigned wrong = 0;
+    const auto check = [&wrong](std::uint8_t bit, bool inRange) { wrong |= inRange ? 0U : bit; };
+    check(kHypotenuse, given.hypotenuse > 0.0);
+    check(kAbscissa, given.x > 0.0);
+    check(kOrdinate, given.y > 0.0);
+    check(kAngleOppositeX, isAcute(given.oppositeX));
+    check(kAngleOppositeY, isAcute(given.oppositeY));
+    return static_cast<std::uint8_t>(bits & wrong);
+}
+
 RightTriangle solveRightTriangle(std::uint8_t bits, RightTriangle given) {
-    checkGiven(bits, given);
+    if (outOfRange(bits, given) != 0) {
+        noTriangle();
+    }
     if ((bits & kAngleOppositeX) != 0) {
         return fromAngle(bits & ~kAngleOppositeX, given);
     }
@@ -204,8 +197,20 @@ RightTriangle solveRightTriangle(std::uint8_t bits, RightTriangle given) {
     return withAngles(given);
 }
 
+std::uint8_t outOfRange(std::uint8_t bits, const Triangle& given) {
+    unsigned wrong = 0;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const double angle = given.angles.at(i);
+        wrong |= given.sides.at(i) > 0.0 ? 0U : 1U << i;
+        wrong |= angle > 0.0 && angle < kPi ? 0U : 1U << (i + 3);
+    }
+    return static_cast<std::uint8_t>(bits & wrong);
+}
+
 TriangleSolutions solveTriangle(std::uint8_t bits, const Triangle& given) {
-    checkGiven(bits, given);
+    if (outOfRange(bits, given) != 0) {
+        noTriangle();
+    }
     const Opposed o = opposed(given);
     const unsigned sides = bits & kSides;
     // Bit k of this is the angle opposite to side k.

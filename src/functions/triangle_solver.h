@@ -30,9 +30,12 @@ struct RightTriangle {
 /// Whether two quantities with the sum `bits` determine the triangle; two angles do not.
 [[nodiscard]] bool determinesRightTriangle(std::uint8_t bits);
 
-/// The whole triangle from the two quantities of `given` that `bits` names. Raises 5 for a side
-/// that is not above 0, an angle that is not between 0 and a right one, and a leg that is not
-/// shorter than the hypotenuse; 6.
+/// Those of the quantities `bits` whose value belongs to no right triangle, whatever the others: a
+/// side that is not above 0, an angle that is not between 0 and a right one.
+[[nodiscard]] std::uint8_t outOfRange(std::uint8_t bits, const RightTriangle& given);
+
+/// The whole triangle from the two quantities of `given` that `bits` names. Raises 5 for one that
+/// is out of range and for a leg that is not shorter than the hypotenuse; 6.
 [[nodiscard]] RightTriangle solveRightTriangle(std::uint8_t bits, RightTriangle given);
 
 /// Angle i lies between side i and side i + 1, so opposite to side i + 2, counted round from 0.
@@ -47,6 +50,10 @@ struct TriangleSolutions {
     Triangle first;
     std::optional<Triangle> second;
 };
+
+/// Those of the quantities `bits` whose value belongs to no triangle, whatever the others: a side
+/// that is not above 0, an angle that is not between 0 and two right ones.
+[[nodiscard]] std::uint8_t outOfRange(std::uint8_t bits, const Triangle& given);
 
 /// The triangle from three quantities of `given`; bits 1, 2, 4 of `bits` name sides, 8, 16, 32
 /// angles. Raises 5 where there is no such triangle, and for three angles, which fix no size; 6.

@@ -8,6 +8,7 @@
 #include "numbers/checked_math.h"
 #include "platform/text.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 
@@ -31,7 +32,7 @@ constexpr KeyInput kGeneralInputs[] = {
 };
 
 constexpr std::uint8_t kRightAngles = kAngleOppositeX | kAngleOppositeY;
-constexpr std::uint8_t kGeneralAngles = 8 | 16 | 32;
+constexpr std::size_t kFirstAngle = 3;
 constexpr int kInputsOfATriangle = 3;
 
 constexpr MultiInput::Shape kRightShape{
@@ -46,13 +47,9 @@ std::uint8_t inputName(int keyNumber, std::uint8_t mask) {
     return mask > kShift ? kNoInput : static_cast<std::uint8_t>(2 * keyNumber + mask);
 }
 
-std::uint8_t bitOf(std::span<const KeyInput> inputs, std::uint8_t name) {
-    for (const KeyInput& input : inputs) {
-        if (input.mask == name) {
-            return input.bit;
-        }
-    }
-    return 0;
+std::size_t placeOf(std::span<const KeyInput> inputs, std::uint8_t name) {
+    const auto found = std::ranges::find(inputs, name, &KeyInput::mask);
+    return static_cast<std::size_t>(found - inputs.begin());
 }
 
 int sideNumber(int key) {
@@ -64,45 +61,55 @@ int sideNumber(int key) {
 }  // namespace
 
 Triangles::Triangles(Engine& calculator)
-    : calc(calculator), right(calculator, kRightShape), general(calculator, kGeneralShape) {}
+    : calc(calculator), right{.taken{calculator, kRightShape}}, general{.taken{calculator, kGeneralShape}} {}
+
+double Triangles::Inputs::radians(std::size_t input) const {
+    return toRadians(taken.values().at(input), unit.at(input));
+}
 
 double Triangles::angleShown(double radians) const {
     return fromRadians(radians, calc.s.format.Angle);
 }
 
+double Triangles::asGiven(const Inputs& set, std::size_t input) const {
+    const bool sameUnit = set.unit.at(input) == calc.s.format.Angle;
+    return sameUnit ? set.taken.values().at(input) : angleShown(set.radians(input));
+}
+
 void Triangles::RightTriangle(int key) {
     const std::uint8_t name = inputName(key - kFirstRightKey, calc.s.modifiers.ModifierMask);
-    const std::uint8_t bit = bitOf(kRightInputs, name);
-    switch (right.press(name)) {
+    switch (right.taken.press(name)) {
         case MultiInput::Outcome::Reset:
             calc.s.functions.RightTriangleHasAngle = false;
             break;
-        case MultiInput::Outcome::Stored:
-            if ((bit & kRightAngles) != 0) {
-                right.revise(bit, toRadians(calc.xNumber(), calc.s.format.Angle));
-                calc.s.functions.RightTriangleHasAngle = true;
-            }
-            if (determinesRightTriangle(right.received())) {
+        case MultiInput::Outcome::Stored: {
+            const std::size_t input = placeOf(kRightInputs, name);
+            const std::uint8_t bit = kRightInputs[input].bit;
+            right.unit.at(input) = calc.s.format.Angle;
+            calc.s.functions.RightTriangleHasAngle |= (bit & kRightAngles) != 0;
+            if (determinesRightTriangle(right.taken.received())) {
                 solveRight(bit);
             }
             break;
+        }
         default:
             break;
     }
 }
 
 void Triangles::solveRight(std::uint8_t last) {
-    const std::uint8_t given = right.received();
-    tallyforge::RightTriangle t;
-    const InputValues& v = right.values();
-    t = {.hypotenuse = v[4], .x = v[2], .y = v[3], .oppositeX = v[0], .oppositeY = v[1]};
+    const std::uint8_t given = right.taken.received();
+    const InputValues& v = right.taken.values();
+    tallyforge::RightTriangle t{
+        .hypotenuse = v[4], .x = v[2], .y = v[3], .oppositeX = right.radians(0), .oppositeY = right.radians(1)};
+    const std::uint8_t wrong = outOfRange(given, t);
     double area = 0.0;
     try {
         t = solveRightTriangle(given, t);
         area = checked(t.x / 2.0 * t.y);
     } catch (const Failure&) {
-        right.takeBack(last);
-        calc.s.functions.RightTriangleHasAngle = (right.received() & kRightAngles) != 0;
+        right.taken.takeBack(wrong == 0 ? last : wrong);
+        calc.s.functions.RightTriangleHasAngle = (right.taken.received() & kRightAngles) != 0;
         throw;
     }
     struct Quantity {
@@ -123,37 +130,43 @@ void Triangles::solveRight(std::uint8_t last) {
         }
     }
     calc.s.functions.RightTriangleHasAngle = false;
-    deliver(right, findings);
+    deliver(right.taken, findings);
 }
 
 void Triangles::Triangle(int key) {
     const std::uint8_t name = inputName(sideNumber(key), calc.s.modifiers.ModifierMask);
-    if (general.press(name) != MultiInput::Outcome::Stored) {
+    if (general.taken.press(name) != MultiInput::Outcome::Stored) {
         return;
     }
-    const std::uint8_t bit = bitOf(kGeneralInputs, name);
-    if ((bit & kGeneralAngles) != 0) {
-        general.revise(bit, toRadians(calc.xNumber(), calc.s.format.Angle));
-    }
-    if (std::popcount(general.received()) == kInputsOfATriangle) {
-        solveGeneral(bit);
+    const std::size_t input = placeOf(kGeneralInputs, name);
+    general.unit.at(input) = calc.s.format.Angle;
+    if (std::popcount(general.taken.received()) == kInputsOfATriangle) {
+        solveGeneral(kGeneralInputs[input].bit);
     }
 }
 
 void Triangles::solveGeneral(std::uint8_t last) {
-    const std::uint8_t given = general.received();
-    const InputValues& v = general.values();
+    const std::uint8_t given = general.taken.received();
+    const InputValues& v = general.taken.values();
+    const tallyforge::Triangle sought{
+        .sides = {v[0], v[1], v[2]},
+        .angles = {general.radians(kFirstAngle), general.radians(kFirstAngle + 1), general.radians(kFirstAngle + 2)}};
     TriangleSolutions solutions;
     try {
-        solutions = solveTriangle(given, {.sides = {v[0], v[1], v[2]}, .angles = {v[3], v[4], v[5]}});
+        solutions = solveTriangle(given, sought);
     } catch (const Failure&) {
-        general.takeBack(last);
+        const std::uint8_t wrong = outOfRange(given, sought);
+        general.taken.takeBack(wrong == 0 ? last : wrong);
         throw;
     }
     std::vector<Finding> findings;
     const auto add = [&](const tallyforge::Triangle& t, std::string_view mark) {
-        for (std::size_t i = 0; i < 6; ++i) {
-            const double value = i < 3 ? t.sides.at(i) : angleShown(t.angles.at(i - 3));
+        for (std::size_t i = 0; i < std::size(kGeneralInputs); ++i) {
+            const bool isSide = i < kFirstAngle;
+            const bool isGiven = (given & kGeneralInputs[i].bit) != 0;
+            const double value = isGiven  ? (isSide ? v.at(i) : asGiven(general, i))
+                                 : isSide ? t.sides.at(i)
+                                          : angleShown(t.angles.at(i - kFirstAngle));
             findings.push_back({.value = value, .label = std::string(kGeneralInputs[i].label) + std::string(mark)});
         }
         findings.push_back({.value = t.area, .label = "Area" + std::string(mark)});
@@ -164,7 +177,7 @@ void Triangles::solveGeneral(std::uint8_t last) {
                      "There are two solutions, this is the first, the second is followed by asterisks.");
         add(*solutions.second, "*");
     }
-    deliver(general, findings);
+    deliver(general.taken, findings);
 }
 
 // X is the last input: it stands on the tape before what follows from it, and the first finding

@@ -108,6 +108,38 @@ TEST_F(MultiInputTest, AnInputMayBeComputedOnTheStack) {
     EXPECT_EQ(element(1), "7");
 }
 
+TEST_F(MultiInputTest, NumbersPutBetweenTwoInputsStayUntilTheSetIsComplete) {
+    commitText("7");
+    press(kCtrl, "50");
+    commitText("8");
+    commitText("9");
+    press(kCtrl, "100");
+    EXPECT_EQ(calc.s.stack.depth(), 5);
+    const char* const expected[] = {"7", "50", "8", "9", "100"};
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(element(i + 1), expected[i]);
+    }
+    commitText("4");
+    EXPECT_EQ(press(kAlt, "25"), Outcome::Solved);
+    EXPECT_EQ(calc.s.stack.depth(), 2);
+    EXPECT_EQ(element(1), "7");
+    EXPECT_EQ(element(2), "20");
+}
+
+TEST_F(MultiInputTest, ANumberThatHasTakenThePlaceOfAnInputStays) {
+    commitText("7");
+    press(kCtrl, "50");
+    stackKeys.cmdDown_Click();
+    commitText("8");
+    press(kCtrl, "100");
+    EXPECT_EQ(element(2), "8");
+    EXPECT_EQ(element(3), "100");
+    EXPECT_EQ(press(kAlt, "25"), Outcome::Solved);
+    EXPECT_EQ(calc.s.stack.depth(), 3);
+    EXPECT_EQ(element(2), "8");
+    EXPECT_EQ(element(3), "20");
+}
+
 TEST_F(MultiInputTest, AnInputThatStandsOnTheStackAlreadyIsReplacedInItsPlace) {
     commitText("7");
     commitText("100");

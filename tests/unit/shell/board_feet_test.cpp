@@ -46,5 +46,25 @@ TEST_F(BoardFeet, ComeInAllSixOrders) {
     }
 }
 
+TEST_F(BoardFeet, NumbersPutOnTheStackBetweenTwoInputsStayUntilTheSetIsComplete) {
+    enter("7");
+    type("1");
+    bank(kKey, kShift);
+    enter("8");
+    enter("9");
+    type("6");
+    bank(kKey, kCtrl);
+    ASSERT_EQ(s().stack.depth(), 5);
+    const char* const expected[] = {"6", "9", "8", "1", "7"};
+    for (int below = 0; below < 5; ++below) {
+        EXPECT_EQ(element(below), expected[below]);
+    }
+    type("8");
+    bank(kKey, kAlt);
+    EXPECT_EQ(s().stack.depth(), 2);
+    EXPECT_EQ(x(), "4");
+    EXPECT_EQ(element(1), "7");
+}
+
 }  // namespace
 }  // namespace tallyforge

@@ -112,6 +112,67 @@ TEST_F(TriangleKeys, AnImpossibleRightTriangleTakesTheLastInputBack) {
     EXPECT_EQ(label(), "Area");
 }
 
+TEST_F(TriangleKeys, NumbersPutOnTheStackBetweenTwoInputsStayUntilTheSetIsComplete) {
+    enter("7");
+    input("5", kS1);
+    enter("8");
+    enter("9");
+    input("6", kS2);
+    ASSERT_EQ(s().stack.depth(), 5);
+    const char* const expected[] = {"6", "9", "8", "5", "7"};
+    for (int below = 0; below < 5; ++below) {
+        EXPECT_EQ(element(below), expected[below]);
+    }
+    input("4", kHypotenuseKey);
+    EXPECT_EQ(s().stack.depth(), 6) << "the other triangle has inputs of its own";
+    input("7", kS3);
+    EXPECT_EQ(s().stack.depth(), 8);
+    EXPECT_EQ(element(7), "7");
+    EXPECT_EQ(element(6), "5") << "seven results from the place of the first input on";
+    EXPECT_EQ(label(), "Area");
+}
+
+TEST_F(TriangleKeys, WhatWasGivenStandsAsGivenInBothSolutions) {
+    input("12.745", kS1);
+    input("9.1", kS3);
+    input("33.335", kS1, kShift);
+    EXPECT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(line(13), "S1                12.74");
+    EXPECT_EQ(line(6), "S1*               12.74");
+    EXPECT_EQ(line(4), "S3*                9.10");
+    EXPECT_EQ(line(10), "A1                33.34");
+    EXPECT_EQ(line(3), "A1*               33.34");
+    EXPECT_EQ(element(6), "12.745");
+    EXPECT_EQ(element(3), "33.335");
+}
+
+TEST_F(TriangleKeys, AnAngleGivenInAnotherModeStandsInTheModeOfTheResults) {
+    input("3", kS1);
+    input("90", kS1, kShift);
+    choose(form().optRad);
+    input("4", kS2);
+    EXPECT_EQ(line(4), "S3                 5.00");
+    EXPECT_EQ(line(3), "A1                 1.57");
+}
+
+TEST_F(TriangleKeys, TheInputThatIsOutOfRangeIsTheOneTakenBack) {
+    input("200", kS1, kShift);
+    input("5", kS1);
+    input("6", kS2);
+    EXPECT_EQ(label(), "No Data!");
+    input("60", kS1, kShift);
+    EXPECT_EQ(line(4), "S3                 5.57") << "both sides were still there";
+    EXPECT_EQ(label(), "Area");
+    choose(form().cmdReset);
+    input("95", kAngle);
+    input("5", kHypotenuseKey);
+    EXPECT_EQ(label(), "No Data!");
+    EXPECT_TRUE(angleKeyShown()) << "the angle is to be given anew";
+    input("3", kLegs);
+    EXPECT_EQ(line(), "Area               6.00");
+    EXPECT_EQ(s().stack.depth(), 4);
+}
+
 TEST_F(TriangleKeys, ModifiersThatNameNoInputSaySo) {
     enter("3");
     for (const std::size_t key : {kS1, kS2, kS3, kAngle, kLegs}) {
