@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
 
@@ -116,34 +118,62 @@ constexpr std::array<double, kExactPowers + 1> kPowersOfTen{1e0,  1e1,  1e2,  1e
                                                             1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                                             1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-/// `size` times ten to the power of `scale`, as a rounded product and what it lacks, exactly.
-struct Scaled {
-    double product;
-    double rest;
-};
-Scaled scaled(double size, int scale) {
-    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(scale))];
-    if (scale >= 0) {
-        const double product = size * power;
-        return {product, std::fma(size, power, -product)};
-    }
-    const double quotient = size / power;
+constexpr double kLeastFifteen = 1e14;
+constexpr double kLeastSixteen = 1e15;
+
+/// The integer nearest to `value`, which lies within 2^51; a half goes to the even one.
+double nearestWhole(double value) {
+    // The sum has no places left for a fraction.
+    constexpr double kNoFraction = 4503599627370496.0;  // 2^52
+    return value + kNoFraction - kNoFraction;
+}
+
+double powerOfTen(int exponent) {
+    return kPowersOfTen[static_cast<std::size_t>(exponent)];
+}
+
+/// `size` times ten to the power of `scale`, -22 to 22.
+double scaled(double size, int scale) {
+    return scale >= 0 ? size * powerOfTen(scale) : size / powerOfTen(-scale);
+}
+
+/// What the rounded `product`, a result of scaled(), lacks.
+double lackOf(double product, double size, int scale) {
     // The remainder of a division is exact; its quotient is far below what a tie could turn on.
-    return {quotient, std::fma(-quotient, power, size) / power};
+    return scale >= 0 ? std::fma(size, powerOfTen(scale), -product)
+                      : std::fma(-product, powerOfTen(-scale), size) / powerOfTen(-scale);
 }
 
 /// `size` as a whole number of fifteen digits that stand `scale` places behind the point; the
 /// integer nearest to it, or 0 where only the decimal text can tell.
 double nearestFifteen(double size, int scale) {
-    const auto [product, rest] = scaled(size, scale);
-    const double whole = std::nearbyint(product);
+    const double product = scaled(size, scale);
+    const double whole = nearestWhole(product);
     const double fraction = product - whole;
+    // A product below 10^15 is rounded by a sixteenth at most.
+    constexpr double kSurelyNearest = 0.43;
+    if (std::abs(fraction) < kSurelyNearest) {
+        return whole;
+    }
+    const double beyond = fraction + lackOf(product, size, scale);
+    constexpr double kHalf = 0.5;
     // Where the halves meet the text decides: ties are rare, and it knows them exactly.
-    const double beyond = fraction + rest;
-    if (std::abs(std::abs(beyond) - 0.5) < 0.001) {
+    constexpr double kTooCloseToTell = 0.001;
+    if (std::abs(std::abs(beyond) - kHalf) < kTooCloseToTell) {
         return 0.0;
     }
-    return beyond > 0.5 ? whole + 1.0 : beyond < -0.5 ? whole - 1.0 : whole;
+    return beyond > kHalf ? whole + 1.0 : beyond < -kHalf ? whole - 1.0 : whole;
+}
+
+/// The decimal exponent of the power of two just below `size`; of `size` itself, or one less.
+int exponentBelow(double size) {
+    constexpr int kMantissaBits = 52;
+    constexpr int kBias = 1023;
+    // 1233 / 4096 is the logarithm of 2, near enough for the exponents that are asked for.
+    constexpr int kLogOfTwo = 1233;
+    constexpr int kLogShift = 12;
+    const int binary = static_cast<int>(std::bit_cast<std::uint64_t>(size) >> kMantissaBits) - kBias;
+    return binary * kLogOfTwo >> kLogShift;
 }
 
 double throughText(double value) {
@@ -270,8 +300,6 @@ std::string plainText(double value, char decimal) {
 }
 
 double fifteenDigits(double value) {
-    constexpr double kLeastFifteen = 1e14;
-    constexpr double kLeastSixteen = 1e15;
     const double size = std::abs(value);
     if (size < kLeastSixteen && size == static_cast<double>(static_cast<std::int64_t>(size))) {
         return value;
@@ -281,20 +309,20 @@ double fifteenDigits(double value) {
     if (!(size >= kLeast && size < kMost)) {
         return throughText(value);
     }
-    constexpr double kDigitsPerBit = 0.30103;
-    const int exponent = static_cast<int>(std::floor(std::ilogb(size) * kDigitsPerBit));
-    int scale = kTextDigits - 1 - exponent;
-    double whole = scale > kExactPowers ? 0.0 : nearestFifteen(size, scale);
-    if (whole >= kLeastSixteen) {
-        // The estimate of the exponent is one too small for the upper part of a binary step.
-        whole = nearestFifteen(size, --scale);
+    int scale = kTextDigits - 1 - exponentBelow(size);
+    if (scale > kExactPowers) {
+        return throughText(value);
     }
+    if (scaled(size, scale) >= kLeastSixteen) {
+        // The power of two lies below a power of ten, the number above it.
+        --scale;
+    }
+    const double whole = nearestFifteen(size, scale);
     if (whole <= kLeastFifteen || whole >= kLeastSixteen) {
         return throughText(value);
     }
     // Both are exact, so this is the double nearest to the decimal number.
-    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(scale))];
-    return std::copysign(scale >= 0 ? whole / power : whole * power, value);
+    return std::copysign(scale >= 0 ? whole / powerOfTen(scale) : whole * powerOfTen(-scale), value);
 }
 
 double roundHalfEven(double value, int places) {

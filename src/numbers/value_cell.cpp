@@ -25,40 +25,76 @@ std::string singleText(float value, char decimal) {
 
 }  // namespace
 
-double ValueCell::number(char decimal) const {
-    if (const auto* value = std::get_if<double>(&held_)) {
-        return *value;
+ValueCell::SharedText* ValueCell::shared(std::string text) {
+    return std::make_unique<SharedText>(SharedText{.cells = 1, .text = std::move(text)}).release();
+}
+
+void ValueCell::forget() {
+    const std::unique_ptr<SharedText> last(held_.text);
+}
+
+bool ValueCell::equals(const ValueCell& other) const {
+    if (kind_ != other.kind_) {
+        return false;
     }
-    if (const auto* value = std::get_if<std::string>(&held_)) {
-        return readNumber(*value, decimal);
+    switch (kind_) {
+        case Kind::Empty:
+            return true;
+        case Kind::Integer:
+            return held_.integer == other.held_.integer;
+        case Kind::Single:
+            return held_.single == other.held_.single;
+        case Kind::Double:
+            return held_.number == other.held_.number;
+        case Kind::Truth:
+            return held_.truth == other.held_.truth;
+        case Kind::Text:
+            return held_.text->text == other.held_.text->text;
+    }
+    return false;
+}
+
+double ValueCell::number(char decimal) const {
+    if (isText()) {
+        return readNumber(held_.text->text, decimal);
     }
     return tryNumber(decimal).value_or(0.0);
 }
 
 std::optional<double> ValueCell::readAny(char decimal) const {
-    struct Reader {
-        char decimal;
-        std::optional<double> operator()(std::monostate /*empty*/) const { return 0.0; }
-        std::optional<double> operator()(std::int16_t value) const { return value; }
-        std::optional<double> operator()(float value) const { return value; }
-        std::optional<double> operator()(double value) const { return value; }
-        std::optional<double> operator()(bool value) const { return value ? -1.0 : 0.0; }
-        std::optional<double> operator()(const std::string& value) const { return tryReadNumber(value, decimal); }
-    };
-    return std::visit(Reader{decimal}, held_);
+    switch (kind_) {
+        case Kind::Empty:
+            break;
+        case Kind::Integer:
+            return held_.integer;
+        case Kind::Single:
+            return held_.single;
+        case Kind::Double:
+            return held_.number;
+        case Kind::Truth:
+            return held_.truth ? -1.0 : 0.0;
+        case Kind::Text:
+            return tryReadNumber(held_.text->text, decimal);
+    }
+    return 0.0;
 }
 
 std::string ValueCell::text(char decimal) const {
-    struct Printer {
-        char decimal;
-        std::string operator()(std::monostate /*empty*/) const { return {}; }
-        std::string operator()(std::int16_t value) const { return std::to_string(value); }
-        std::string operator()(float value) const { return singleText(value, decimal); }
-        std::string operator()(double value) const { return plainText(value, decimal); }
-        std::string operator()(bool value) const { return value ? "True" : "False"; }
-        std::string operator()(const std::string& value) const { return value; }
-    };
-    return std::visit(Printer{decimal}, held_);
+    switch (kind_) {
+        case Kind::Empty:
+            break;
+        case Kind::Integer:
+            return std::to_string(held_.integer);
+        case Kind::Single:
+            return singleText(held_.single, decimal);
+        case Kind::Double:
+            return plainText(held_.number, decimal);
+        case Kind::Truth:
+            return held_.truth ? "True" : "False";
+        case Kind::Text:
+            return held_.text->text;
+    }
+    return {};
 }
 
 }  // namespace tallyforge

@@ -2,15 +2,16 @@
 //
 // ValueCell holds whatever may stand in X, on the stack, in a register or on the tape: nothing, a
 // number of some width, a truth value, or a text. A typed number stays the text that was typed
-// until arithmetic reads it; a number of a base ("#1FFh") stays a text for good.
+// until arithmetic reads it; a number of a base ("#1FFh") stays a text for good. A cell takes 16
+// bytes, so that numbers move in two words; copies of a text share it.
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <variant>
 
 namespace tallyforge {
 
@@ -18,52 +19,52 @@ class ValueCell {
 public:
     ValueCell() = default;
     // NOLINTBEGIN(google-explicit-constructor): a cell takes any of its kinds by plain assignment
-    ValueCell(std::int16_t value) : held_(value) {}
-    ValueCell(float value) : held_(value) {}
-    ValueCell(double value) : held_(value) {}
-    ValueCell(bool value) : held_(value) {}
-    ValueCell(std::string value) : held_(std::move(value)) {}
-    ValueCell(std::string_view value) : held_(std::string(value)) {}
-    ValueCell(const char* value) : held_(std::string(value)) {}
+    ValueCell(std::int16_t value) : kind_(Kind::Integer) { held_.integer = value; }
+    ValueCell(float value) : kind_(Kind::Single) { held_.single = value; }
+    ValueCell(double value) : kind_(Kind::Double) { held_.number = value; }
+    ValueCell(bool value) : kind_(Kind::Truth) { held_.truth = value; }
+    ValueCell(std::string value) : kind_(Kind::Text) { held_.text = shared(std::move(value)); }
+    ValueCell(std::string_view value) : ValueCell(std::string(value)) {}
+    ValueCell(const char* value) : ValueCell(std::string(value)) {}
     // NOLINTEND(google-explicit-constructor)
-    ValueCell(const ValueCell&) = default;
-    ValueCell(ValueCell&&) noexcept = default;
-    ~ValueCell() = default;
-    // Nearly all cells that a running program moves are doubles, so these go first.
+    ValueCell(const ValueCell& other) : held_(other.held_), kind_(other.kind_) { share(); }
+    ValueCell(ValueCell&& other) noexcept : held_(other.held_), kind_(std::exchange(other.kind_, Kind::Empty)) {}
+    ~ValueCell() { release(); }
     ValueCell& operator=(const ValueCell& other) {
-        if (const double* number = other.asDouble()) {
-            held_ = *number;
-        } else {
-            held_ = other.held_;
-        }
+        // First the new text, then the old one: the two may be the same.
+        other.share();
+        release();
+        held_ = other.held_;
+        kind_ = other.kind_;
         return *this;
     }
     ValueCell& operator=(ValueCell&& other) noexcept {
-        if (const double* number = other.asDouble()) {
-            held_ = *number;
-        } else {
-            held_ = std::move(other.held_);
-        }
+        const Held held = other.held_;
+        const Kind kind = std::exchange(other.kind_, Kind::Empty);
+        release();
+        held_ = held;
+        kind_ = kind;
         return *this;
     }
     ValueCell& operator=(double value) {
-        held_ = value;
+        release();
+        held_.number = value;
+        kind_ = Kind::Double;
         return *this;
     }
     /// The integer 0, as a cleared cell holds it.
     [[nodiscard]] static ValueCell zero() { return ValueCell{std::int16_t{0}}; }
 
-    [[nodiscard]] bool isEmpty() const { return std::holds_alternative<std::monostate>(held_); }
-    [[nodiscard]] bool isText() const { return std::holds_alternative<std::string>(held_); }
+    [[nodiscard]] bool isEmpty() const { return kind_ == Kind::Empty; }
+    [[nodiscard]] bool isText() const { return kind_ == Kind::Text; }
     /// The held double; nullptr for anything else.
-    [[nodiscard]] const double* asDouble() const { return std::get_if<double>(&held_); }
+    [[nodiscard]] const double* asDouble() const { return kind_ == Kind::Double ? &held_.number : nullptr; }
     /// The held text; an empty view for anything but a text.
     [[nodiscard]] std::string_view textView() const {
-        const auto* held = std::get_if<std::string>(&held_);
-        return held == nullptr ? std::string_view{} : std::string_view{*held};
+        return isText() ? std::string_view{held_.text->text} : std::string_view{};
     }
     /// True for the text "" and nothing else (an Empty cell is not the empty text).
-    [[nodiscard]] bool isEmptyText() const { return isText() && textView().empty(); }
+    [[nodiscard]] bool isEmptyText() const { return isText() && held_.text->text.empty(); }
     /// True for a text that starts with "#".
     [[nodiscard]] bool isTagged() const { return textView().starts_with('#'); }
 
@@ -80,12 +81,43 @@ public:
     /// with up to 15 significant digits ("1.5", "-3", "1E+20") and the locale's `decimal`.
     [[nodiscard]] std::string text(char decimal) const;
 
-    friend bool operator==(const ValueCell&, const ValueCell&) = default;
+    /// Same kind and same value.
+    friend bool operator==(const ValueCell& left, const ValueCell& right) { return left.equals(right); }
 
 private:
+    enum class Kind : std::uint8_t { Empty, Integer, Single, Double, Truth, Text };
+    /// A text is written once and then only read, by all cells that hold it.
+    struct SharedText {
+        std::size_t cells;
+        std::string text;
+    };
+    union Held {
+        double number;
+        float single;
+        std::int16_t integer;
+        bool truth;
+        SharedText* text;
+    };
+
+    [[nodiscard]] static SharedText* shared(std::string text);
+    void share() const {
+        if (isText()) {
+            ++held_.text->cells;
+        }
+    }
+    void release() {
+        if (isText() && --held_.text->cells == 0) {
+            forget();
+        }
+    }
+    void forget();
+    [[nodiscard]] bool equals(const ValueCell& other) const;
     [[nodiscard]] std::optional<double> readAny(char decimal) const;
 
-    std::variant<std::monostate, std::int16_t, float, double, bool, std::string> held_;
+    Held held_{.number = 0.0};
+    Kind kind_ = Kind::Empty;
 };
+
+static_assert(sizeof(ValueCell) == 16);
 
 }  // namespace tallyforge

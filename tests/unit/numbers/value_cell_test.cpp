@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+
 namespace tallyforge {
 namespace {
 
@@ -33,6 +36,32 @@ TEST(Cell, KnowsAnEmptyTextFromNothingAndATagFromANumber) {
     EXPECT_TRUE(ValueCell{""}.isEmptyText());
     EXPECT_TRUE(ValueCell{"#1b"}.isTagged());
     EXPECT_FALSE(ValueCell{5.0}.isTagged());
+}
+
+TEST(Cell, KeepsItsTextWhenACopyOfItChangesOrGoes) {
+    ValueCell typed{"1234567890123456789012345678901234567890"};
+    {
+        ValueCell copy{typed};
+        EXPECT_EQ(copy, typed);
+        copy = 5.0;
+        const ValueCell other = typed;
+    }
+    EXPECT_EQ(typed.textView(), "1234567890123456789012345678901234567890");
+    ValueCell& itself = typed;
+    typed = itself;
+    typed = std::move(itself);
+    EXPECT_EQ(typed.textView().size(), 40U);
+    const ValueCell taken = std::move(typed);
+    EXPECT_EQ(taken.textView().size(), 40U);
+}
+
+TEST(Cell, EqualsWhatIsOfTheSameKindAndValue) {
+    EXPECT_EQ(ValueCell{"1"}, ValueCell{std::string("1")});
+    EXPECT_NE(ValueCell{"1"}, ValueCell{1.0});
+    EXPECT_NE(ValueCell{1.0}, ValueCell{std::int16_t{1}});
+    EXPECT_EQ(ValueCell{1.0F}, ValueCell{1.0F});
+    EXPECT_NE(ValueCell{true}, ValueCell{false});
+    EXPECT_EQ(ValueCell{}, ValueCell{});
 }
 
 }  // namespace
