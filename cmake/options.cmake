@@ -11,15 +11,16 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # GCC 12 sees an overlap in every optimised assignment to a std::string (GCC bug 105329).
   target_compile_options(tallyforge_options INTERFACE -Wno-restrict)
 endif()
+
+# What the calculator's own code is compiled with beside that; its tests are compiled plain.
+add_library(tallyforge_checked INTERFACE)
 if(TALLYFORGE_SANITIZE)
-  target_compile_options(tallyforge_options INTERFACE
-                         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(tallyforge_checked INTERFACE -O1 -fno-omit-frame-pointer
+                         -fsanitize=address,undefined -fno-sanitize-recover=all)
   target_link_options(tallyforge_options INTERFACE -fsanitize=address,undefined)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # With the sanitizers GCC takes the unused kinds of a variant for uninitialised ones; the
-    # unsanitized builds keep the warning.
-    target_compile_options(tallyforge_options INTERFACE -Wno-maybe-uninitialized)
-  endif()
+endif()
+if(TALLYFORGE_FUZZ)
+  target_compile_options(tallyforge_checked INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # The compiler cache is used where there is one.

@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         options, [](std::string_view) {}, [](std::string_view) {});
     script.run(lines);
     const EngineState& state = script.calculator().engine().s;
-    require(state.StackPtr >= 1);
-    require(state.Stack.size() >= static_cast<std::size_t>(state.StackPtr) + 1);
+    require(state.stack.StackPtr >= 1);
+    require(state.stack.Stack.size() >= static_cast<std::size_t>(state.stack.StackPtr) + 1);
     return 0;
 }

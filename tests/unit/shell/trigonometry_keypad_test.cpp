@@ -201,10 +201,10 @@ TEST_F(TrigonometryKeypad, SolidsTakeTheirSizesFromTheStack) {
         int left;
     };
     // Diameters 4 and 2, height 3; the number below stays.
-    constexpr Solid kSolids[] = {{0, 3.14159265358979 * 3.0, "V_Cyl", 3},
-                                 {1, 3.14159265358979 * 3.0 * (4.0 + 2.0 + 1.0) / 3.0, "V_Fr", 2},
-                                 {2, 3.14159265358979, "V_Cone", 3},
-                                 {3, 3.14159265358979 * (1.0 + std::sqrt(10.0)), "A_Cone", 3}};
+    const Solid kSolids[] = {{0, 3.14159265358979 * 3.0, "V_Cyl", 3},
+                             {1, 3.14159265358979 * 3.0 * (4.0 + 2.0 + 1.0) / 3.0, "V_Fr", 2},
+                             {2, 3.14159265358979, "V_Cone", 3},
+                             {3, 3.14159265358979 * (1.0 + std::sqrt(10.0)), "A_Cone", 3}};
     for (const Solid& solid : kSolids) {
         SCOPED_TRACE(solid.label);
         s().stack.StackPtr = 1;
