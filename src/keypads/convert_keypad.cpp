@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The Convert keypad, a row a key.
+#include "electrical/value_codes.h"
 #include "functions/reciprocal_square.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -112,7 +113,8 @@ const KeypadTable kConvertKeypad{
                 "L (nH) [Alt+Click], Shift+key to find code // Right Click for color codes ",
          .colour = KeyColour::Blue,
          .under = {.shift = "R code", .ctrl = " C ", .shiftCtrl = "C code", .alt = " L ", .shiftAlt = "L code"},
-         .helpTopic = 1419},
+         .helpTopic = 1419,
+         .does = [](Keys& keys) { FindValue(keys.calc); }},
         {.key = 20,
          .caption = "Lt",
          .tip = " Convert between 11 Illuminances, 15 Luminances,  or Candlepower and Lumens ",

@@ -7,6 +7,7 @@
 #include "bases/binary_keys.h"
 #include "dialogs/dialog_hand_over.h"
 #include "dialogs/unit_tables.h"
+#include "electrical/wire_build.h"
 #include "engine/engine.h"
 #include "functions/dates.h"
 #include "functions/everyday.h"
@@ -33,6 +34,8 @@ struct Keys {
     Quiz quiz{calc};
     Statistics statistics{calc};
     Triangles triangles{calc};
+    /// The insulation of the wire keys, until the program ends.
+    WireBuild wireBuild = WireBuild::Single;
 };
 
 }  // namespace tallyforge

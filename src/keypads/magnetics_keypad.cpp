@@ -2,6 +2,8 @@
 //
 // The Magnetics keypad, a row a key.
 // Units in a tip stand as ranges of unit_tables.h in braces; the painter writes those in force.
+#include "electrical/bundle.h"
+#include "electrical/wire_keys.h"
 #include "functions/constants.h"
 #include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
@@ -125,7 +127,8 @@ const KeypadTable kMagneticsKeypad{
                    .shiftAlt = "om/ 1000'",
                    .ctrlAlt = "ohm /lb",
                    .all = " g/ ohm"},
-         .helpTopic = 1814},
+         .helpTopic = 1814,
+         .does = [](Keys& keys) { wireResistance(keys.calc); }},
         {.key = 15,
          .caption = " S \nAWG",
          .tip = "CMAi to AWG: Click | AWG to: CMAi, Shift+ | to CMAb, Ctrl+ | to lbs/ft, Sh+Ctrl | to Dia(in), Alt | "
@@ -138,7 +141,8 @@ const KeypadTable kMagneticsKeypad{
                    .shiftAlt = "dia\": awg",
                    .ctrlAlt = "awg: mm",
                    .all = "mm: awg"},
-         .helpTopic = 1815},
+         .helpTopic = 1815,
+         .does = [](Keys& keys) { wireSize(keys.calc, keys.wireBuild); }},
         {.key = 16,
          .caption = "'C'",
          .tip = " C Core Calculator ({CoreDimension}): D [Shift+Click] | E [Ctrl+Click] | F [Alt+Click] | G "
@@ -170,7 +174,8 @@ const KeypadTable kMagneticsKeypad{
          .caption = "dia",
          .tip = " # of wires [^], Wire dia [Click] | magnet wire AWG [Shift+] | Insulated (PTFE) AWG [Ctrl+ ] ",
          .under = {.shift = "awg mag", .ctrl = " awg Ins", .alt = "scr #"},
-         .helpTopic = 1819},
+         .helpTopic = 1819,
+         .does = [](Keys& keys) { bundleDiameter(keys.calc, keys.wireBuild); }},
         {.key = 20,
          .caption = "v-s",
          .tip = "SINE: F(Hz) [^], E to V-S [Click] |  F [^], V-S to E [Shift+] | V-S [^], E to F [Alt+] // SQR: F [^], "

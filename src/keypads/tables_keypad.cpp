@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The Tables keypad, a row a key.
+#include "electrical/drills.h"
+#include "electrical/machine_screws.h"
+#include "electrical/sheet_gauges.h"
+#include "electrical/table_wire.h"
+#include "engine/results.h"
 #include "functions/reciprocal_square.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -16,6 +21,12 @@ void boardFootCalculator(Keys& keys) {
     }
     keys.calc.s.stack.KeepX = keys.calc.s.stack.Xreg;
     keys.calc.s.stack.Xreg = kNothingDone;
+}
+
+/// A look-up, which no modifier gives another meaning.
+template <void (*LookUp)(Engine&)>
+void plain(Keys& keys) {
+    keys.calc.s.modifiers.ModifierMask == 0 ? LookUp(keys.calc) : refuseModifiers(keys.calc);
 }
 
 }  // namespace
@@ -40,11 +51,16 @@ const KeypadTable kTablesKeypad{
          .tip = " Ctrl+X ",
          .helpTopic = 3002,
          .does = [](Keys& keys) { squareRoot(keys.calc); }},
-        {.key = 3, .caption = " W Aw", .tip = " DCR, Aluminum Wire: AWG (8 - 44) - [Click]  ", .helpTopic = 3003},
+        {.key = 3,
+         .caption = " W Aw",
+         .tip = " DCR, Aluminum Wire: AWG (8 - 44) - [Click]  ",
+         .helpTopic = 3003,
+         .does = plain<aluminumResistance>},
         {.key = 4,
          .caption = "W 1/2",
          .tip = " DCR, Half-Size Copper Wire: Base AWG - [Click] (1/2 is added to base!) ",
-         .helpTopic = 3004},
+         .helpTopic = 3004,
+         .does = plain<halfSizeResistance>},
         {.key = 5, .caption = "Stl Wire", .tip = " Steel Wire, [Click] to View Table ", .helpTopic = 3005},
         {.key = 6,
          .caption = "UNF",
@@ -53,7 +69,8 @@ const KeypadTable kTablesKeypad{
         {.key = 7,
          .caption = "MS",
          .tip = " Machine Screw size number [Click], calculate diameter ",
-         .helpTopic = 3007},
+         .helpTopic = 3007,
+         .does = plain<machineScrew>},
         {.key = 8,
          .caption = "BFC",
          .tip = " Board Foot Calculator - [Click] ",
@@ -62,31 +79,37 @@ const KeypadTable kTablesKeypad{
         {.key = 9,
          .caption = "SS-T",
          .tip = " Stainless Steel Thickness, Gauge 6/0 (-5) - 38 [Click] ",
-         .helpTopic = 3009},
+         .helpTopic = 3009,
+         .does = plain<stainlessSteel>},
         {.key = 10,
          .caption = "MS tap",
          .tip = " Mach. Screw Tap Drill Size: X.YY; integer (X) is MS#, the decimal (.YY)is Threads per Inch (TPI not "
                 "required for 0, 00, or 000 MS)  [Click] ",
-         .helpTopic = 3010},
+         .helpTopic = 3010,
+         .does = plain<machineScrewTap>},
         {.key = 11, .caption = "nails", .tip = " Handy nail chart - [Click] to View ", .helpTopic = 3011},
         {.key = 12,
          .caption = {"½hy Ø"_t},
          .tip = " Half-Size Heavy Build Magnet Wire Diameter (4½ - 50½): Base AWG - [Click] (1/2 added to base!) "_t,
-         .helpTopic = 3012},
+         .helpTopic = 3012,
+         .does = plain<halfSizeHeavyDiameter>},
         {.key = 13,
          .caption = {"½hy cma"_t},
          .tip =
              " Half-Size Heavy Build Magnet Wire Cir Mil Area (4½ - 50½): Base AWG - [Click] (1/2 added to base!) "_t,
-         .helpTopic = 3013},
+         .helpTopic = 3013,
+         .does = plain<halfSizeHeavyArea>},
         {.key = 14,
          .caption = {"½sg Ø"_t},
          .tip = " Half-Size Single Build Magnet Wire Diameter (14½ - 50½): Base AWG - [Click] (1/2 added to base!) "_t,
-         .helpTopic = 3014},
+         .helpTopic = 3014,
+         .does = plain<halfSizeSingleDiameter>},
         {.key = 15,
          .caption = {"½sg cma"_t},
          .tip =
              " Half-Size Single Build Magnet Wire Cir Mil Area (14½ - 50½): Base AWG - [Click] (1/2 added to base!) "_t,
-         .helpTopic = 3015},
+         .helpTopic = 3015,
+         .does = plain<halfSizeSingleArea>},
         {.key = 16,
          .caption = "K",
          .tip = " Select between many useful constants - [Click] |  Display SI Prefixes [Ctrl+Click] ",
@@ -94,7 +117,8 @@ const KeypadTable kTablesKeypad{
         {.key = 17,
          .caption = "AL Thk",
          .tip = " Aluminum sheet thickness, AWG 000000 (-5) to 38 - [Click] ",
-         .helpTopic = 3017},
+         .helpTopic = 3017,
+         .does = plain<sheetAluminum>},
         {.key = 18,
          .caption = "UNC",
          .tip = " National Coarse Tap Drill Sizes - [Click] to View Table ",
@@ -107,7 +131,8 @@ const KeypadTable kTablesKeypad{
         {.key = 20,
          .caption = "Sht Stl",
          .tip = " Standard sheet steel thickness, Gage 3 - 38 [Click] ",
-         .helpTopic = 3020},
+         .helpTopic = 3020,
+         .does = plain<sheetSteel>},
         {.key = 21,
          .caption = "Bits",
          .tip = " Drill bit sizes: No. [Click] | Shift+[Click] for Letter Drills (mouse over letter). ",

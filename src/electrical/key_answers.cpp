@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "electrical/key_answers.h"
+
+#include "engine/engine.h"
+
+#include <cmath>
+
+namespace tallyforge {
+
+void answerWithDigits(Engine& calc, const Result& result, int digits, int operands) {
+    calc.display.SaveDisplay(digits);
+    replaceOperands(calc, operands, result);
+}
+
+void answerBySize(Engine& calc, const Result& result, int digits) {
+    answerWithDigits(calc, result, digits);
+    calc.commit.AutoDigits();
+}
+
+void refuse(Engine& calc, const Refusal& refusal) {
+    calc.message(refusal.kind, refusal.title, refusal.text);
+    if (refusal.label.empty()) {
+        calc.s.stack.KeepX = calc.s.stack.Xreg;
+        leaveNothing(calc);
+    } else {
+        replaceX(calc, {calc.s.stack.Xreg, refusal.label});
+    }
+}
+
+bool isWhole(double value) {
+    return value == std::trunc(value);
+}
+
+}  // namespace tallyforge
