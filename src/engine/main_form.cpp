@@ -30,6 +30,7 @@ MainForm::MainForm() : Form("frm_Tallyforge", "Tallyforge") {
     dressMenus();
     defaultKey = &cmdEnter;
     focus = &txtXreg;
+    typing = &txtXreg;
     place = {.left = 0, .top = 0, .width = kPlainWidth, .height = 6200};
     arrange();
 }

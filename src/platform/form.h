@@ -149,6 +149,8 @@ public:
     int helpTopic = 0;  ///< of F1; 0 for none
 
     Control* focus = nullptr;       ///< has the keyboard
+    Control* focusTold = nullptr;   ///< knows that it has the focus
+    Control* typing = nullptr;      ///< hears all typing, whatever key took the focus; none in a dialog
     Control* defaultKey = nullptr;  ///< clicked by Enter
     Control* cancelKey = nullptr;   ///< clicked by Esc
 
@@ -156,11 +158,14 @@ public:
     /// Gives a dialog its left and top, after `load`; without one `place` stands. A dialog is then
     /// moved as far as it must be to lie wholly on the screen.
     std::function<void()> placing;
+    /// F1; a dialog with a `helpTopic` gets one when it opens.
+    std::function<void()> help;
     /// Sees each key before the control that has the keyboard; returns whether it keeps it.
     std::function<bool(KeyEvent)> preview;
     std::function<void()> activate;  ///< once shown
     std::function<void()> deactivate;
-    std::function<void()> close;  ///< the close button; clears `open` if it agrees
+    std::function<void()> close;   ///< the close button; clears `open` if it agrees
+    std::function<void()> unload;  ///< a dialog is closed, by whatever way
 
     /// Height of what stands inside the window's frame, below a menu bar; twips.
     [[nodiscard]] virtual int contentHeight() const { return place.height; }

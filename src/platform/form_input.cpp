@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/form_input.h"
 
+#include "platform/form_acts.h"
+#include "platform/form_focus.h"
 #include "platform/key_codes.h"
 
 #include <algorithm>
@@ -12,36 +14,21 @@ namespace tallyforge {
 
 namespace {
 
-bool takesInput(const Control& control) {
-    return control.enabled && control.visible;
-}
-
 bool hearsKeys(const Control& control) {
     return control.keyDown || control.keyPress || control.keyUp;
 }
 
-/// The control that hears the keyboard: the one with the focus, or the form's field that has key
-/// handlers where a key or an option took the focus, so that typing is never lost.
-Control* keyboardTarget(Form& form) {
-    if (form.focus != nullptr && takesInput(*form.focus) &&
-        (hearsKeys(*form.focus) || form.focus->kind == ControlKind::Field)) {
+/// The control that hears the keyboard: the one with the focus. On a form with a field for all
+/// typing it is that field wherever a key or an option took the focus, so typing is never lost.
+Control* keyboardTarget(const Form& form) {
+    const bool reachable = form.focus != nullptr && takesInput(*form.focus);
+    if (form.typing == nullptr) {
+        return reachable ? form.focus : nullptr;
+    }
+    if (reachable && (hearsKeys(*form.focus) || form.focus->kind == ControlKind::Field)) {
         return form.focus;
     }
-    for (Control* control : form.controls()) {
-        if (control->kind == ControlKind::Field && takesInput(*control) && hearsKeys(*control)) {
-            return control;
-        }
-    }
-    return form.focus != nullptr && takesInput(*form.focus) ? form.focus : nullptr;
-}
-
-/// A handler may hang another one on the control, so it runs from a copy.
-template <typename Handler, typename... Arguments>
-void run(const Handler& handler, Arguments&&... arguments) {
-    if (handler) {
-        const Handler copy = handler;
-        copy(std::forward<Arguments>(arguments)...);
-    }
+    return takesInput(*form.typing) ? form.typing : nullptr;
 }
 
 void insertCharacter(Control& field, char character) {
@@ -92,102 +79,170 @@ int accessLetter(std::string_view caption) {
                : std::toupper(static_cast<unsigned char>(caption[mark + 1]));
 }
 
-Control* accessTarget(Form& form, int keyCode) {
+/// The control that Alt with the letter of `keyCode` reaches: a control with that access letter; for
+/// a label or a frame the one behind it that can have the focus.
+Control* accessTarget(const Form& form, int keyCode) {
+    bool behindLabel = false;
     for (Control* control : form.controls()) {
-        const bool pressable = control->kind == ControlKind::Key || control->kind == ControlKind::Option;
-        if (pressable && takesInput(*control) && accessLetter(control->text) == keyCode) {
+        if (behindLabel && takesFocus(*control)) {
             return control;
+        }
+        if (!takesInput(*control) || accessLetter(control->text) != keyCode) {
+            continue;
+        }
+        switch (control->kind) {
+            case ControlKind::Key:
+            case ControlKind::Option:
+            case ControlKind::Check:
+                return control;
+            case ControlKind::Label:
+            case ControlKind::Frame:
+                behindLabel = form.typing == nullptr;
+                break;
+            default:
+                break;
         }
     }
     return nullptr;
 }
 
-/// Options of one group exclude each other: an array, or neighbours that stand alone.
-bool sameGroup(const Control& left, const Control& right) {
-    return left.kind == ControlKind::Option && right.kind == ControlKind::Option &&
-           (left.index == kNoIndex ? right.index == kNoIndex : left.name == right.name);
+bool isPressable(const Control& control) {
+    return control.kind == ControlKind::Key || control.kind == ControlKind::Option ||
+           control.kind == ControlKind::Check;
 }
 
-void selectOption(Form& form, Control& option) {
-    for (Control* other : form.controls()) {
-        if (sameGroup(option, *other)) {
-            other->checked = other == &option;
+/// Enter, Tab and Esc where the control that has the keyboard leaves them to the form.
+bool leavesControl(Form& form, Control* target, KeyStroke stroke) {
+    switch (stroke.keyCode) {
+        case kKeyEnter: {
+            const bool onKey = target != nullptr && target->kind == ControlKind::Key;
+            Control* pressed = onKey ? target : form.defaultKey;
+            if (pressed == nullptr || (target != nullptr && target->takesEnter)) {
+                return false;
+            }
+            if (takesInput(*pressed)) {
+                actOn(form, *pressed);
+            }
+            return true;
         }
+        case kKeyEscape:
+            if (form.cancelKey == nullptr || (target != nullptr && target->takesEscape)) {
+                return false;
+            }
+            if (takesInput(*form.cancelKey)) {
+                actOn(form, *form.cancelKey);
+            }
+            return true;
+        case kKeyTab:
+            if (form.typing != nullptr || (stroke.shift & (kCtrl | kAlt)) != 0 ||
+                (target != nullptr && target->takesTab)) {
+                return false;
+            }
+            moveFocus(form, (stroke.shift & kShift) != 0);
+            return true;
+        default:
+            return false;
     }
 }
 
-/// The strokes that click a control: Enter, Esc, Alt with a letter, and Space on the key that has
-/// the keyboard. Returns whether the stroke was one of these.
+/// The strokes that click a control: Alt with a letter, and Space on what has the keyboard.
 bool clicksByKey(Form& form, Control* target, KeyStroke stroke) {
-    if (stroke.keyCode == kKeyEnter && form.defaultKey != nullptr) {
-        click(form, *form.defaultKey);
-        return true;
-    }
-    if (stroke.keyCode == kKeyEscape && form.cancelKey != nullptr) {
-        click(form, *form.cancelKey);
-        return true;
-    }
     if ((stroke.shift & kAlt) != 0 && (stroke.shift & kCtrl) == 0) {
         if (Control* reached = accessTarget(form, stroke.keyCode); reached != nullptr) {
             // The Alt that reaches a key by its letter is no modifier of the key.
             releaseModifiers(form);
-            click(form, *reached);
+            focusClicked(form, *reached);
+            if (isPressable(*reached)) {
+                actOn(form, *reached);
+            }
         }
         return true;
     }
-    if (target != nullptr && target->kind == ControlKind::Key && stroke.character == ' ') {
-        click(form, *target);
+    if (target != nullptr && isPressable(*target) && stroke.character == ' ') {
+        actOn(form, *target);
         return true;
     }
     return false;
 }
 
-}  // namespace
-
-bool click(Form& form, Control& control) {
-    if (!takesInput(control)) {
-        return false;
+void typeInto(const Form& form, Control& field, KeyStroke stroke, int character) {
+    constexpr int kFirstPrintable = 32;
+    const std::string before = field.text;
+    if (character >= kFirstPrintable) {
+        insertCharacter(field, static_cast<char>(character));
+    } else if (&field != form.typing && (stroke.character == 0 || character == stroke.character)) {
+        editField(field, stroke.keyCode);
     }
-    if (control.kind == ControlKind::Option) {
-        selectOption(form, control);
+    if (field.text != before) {
+        runHandler(field.changed);
     }
-    run(control.click);
-    return true;
 }
 
-void pressKey(Form& form, KeyStroke stroke) {
+void strike(Form& form, KeyStroke stroke) {
+    if (form.preview && form.preview({.keyCode = stroke.keyCode, .shift = stroke.shift})) {
+        return;
+    }
+    if (stroke.keyCode == kKeyF1 && stroke.shift == 0 && form.help) {
+        return runHandler(form.help);
+    }
     Control* target = keyboardTarget(form);
     if (target != nullptr) {
-        run(target->keyDown, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
+        runHandler(target->keyDown, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
     }
-    if (clicksByKey(form, target, stroke) || target == nullptr) {
+    if (leavesControl(form, target, stroke) || clicksByKey(form, target, stroke) || target == nullptr ||
+        stepsWithin(form, *target, stroke)) {
         return;
     }
     int character = stroke.character;
     if (character != 0) {
-        run(target->keyPress, character);
+        runHandler(target->keyPress, character);
     }
-    if (target->kind != ControlKind::Field) {
-        return;
+    if (target->kind == ControlKind::Field) {
+        typeInto(form, *target, stroke, character);
     }
-    constexpr int kFirstPrintable = 32;
-    if (character >= kFirstPrintable) {
-        insertCharacter(*target, static_cast<char>(character));
-    } else if (!hearsKeys(*target)) {
-        editField(*target, stroke.keyCode);
+}
+
+}  // namespace
+
+bool click(Form& form, Control& control, std::uint8_t shift) {
+    if (!takesInput(control)) {
+        return false;
+    }
+    focusClicked(form, control);
+    settleFocus(form);
+    if (takesInput(control)) {
+        // What the coming and going of the focus has set off may have disabled it.
+        actOn(form, control);
+    }
+    runHandler(control.mouseUp, MouseButton::Left, shift);
+    settleFocus(form);
+    return true;
+}
+
+void pressKey(Form& form, KeyStroke stroke) {
+    strike(form, stroke);
+    settleFocus(form);
+}
+
+void pasteText(Form& form, std::string_view text) {
+    for (const char& character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= ' ' && form.open) {
+            pressKey(form, {.keyCode = keyCodeOf(byte), .character = byte});
+        }
     }
 }
 
 void releaseKey(Form& form, KeyStroke stroke) {
     if (Control* target = keyboardTarget(form); target != nullptr) {
-        run(target->keyUp, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
+        runHandler(target->keyUp, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
     }
 }
 
 void holdModifiers(Form& form, std::uint8_t shift) {
     if (Control* target = keyboardTarget(form); target != nullptr) {
         const int keyCode = (shift & kAlt) != 0 ? kKeyAlt : ((shift & kCtrl) != 0 ? kKeyCtrl : kKeyShift);
-        run(target->keyDown, KeyEvent{.keyCode = keyCode, .shift = shift});
+        runHandler(target->keyDown, KeyEvent{.keyCode = keyCode, .shift = shift});
     }
 }
 
@@ -195,35 +250,45 @@ void releaseModifiers(Form& form) {
     releaseKey(form, {.keyCode = kKeyShift});
 }
 
-bool rightClick(Form& /*form*/, Control& control, std::uint8_t shift) {
+bool rightClick(Form& form, Control& control, std::uint8_t shift) {
     if (!takesInput(control)) {
         return false;
     }
-    run(control.mouseDown, MouseButton::Right, shift);
+    runHandler(control.mouseDown, MouseButton::Right, shift);
+    runHandler(control.mouseUp, MouseButton::Right, shift);
+    settleFocus(form);
     return true;
 }
 
-bool clickRow(Form& /*form*/, Control& list, std::size_t row) {
+bool clickRow(Form& form, Control& list, std::size_t row) {
     if (!takesInput(list) || list.rows == nullptr || row >= list.rows->count()) {
         return false;
     }
-    list.rows->select(row);
-    run(list.click);
+    focusClicked(form, list);
+    settleFocus(form);
+    chooseRow(list, row);
+    settleFocus(form);
     return true;
 }
 
-bool doubleClickRow(Form& /*form*/, Control& list, std::size_t row) {
+bool doubleClickRow(Form& form, Control& list, std::size_t row) {
     if (!takesInput(list) || list.rows == nullptr || row >= list.rows->count()) {
         return false;
     }
+    focusClicked(form, list);
+    settleFocus(form);
     list.rows->select(row);
-    run(list.doubleClick);
+    runHandler(list.doubleClick);
+    settleFocus(form);
     return true;
 }
 
 bool closeForm(Form& form) {
-    if (form.close) {
-        run(form.close);
+    if (form.cancelKey != nullptr && takesInput(*form.cancelKey)) {
+        actOn(form, *form.cancelKey);
+        settleFocus(form);
+    } else if (form.close) {
+        runHandler(form.close);
     } else {
         form.open = false;
     }

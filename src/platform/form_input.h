@@ -6,6 +6,8 @@
 
 #include "platform/form.h"
 
+#include <string_view>
+
 namespace tallyforge {
 
 /// One key with its modifiers. `character` is what it types: a byte, or the control character of
@@ -17,9 +19,16 @@ struct KeyStroke {
 };
 
 /// Presses a key: key-down, key-press and, where the character survives in a field, its typing at
-/// the caret. Enter clicks the form's default key, Esc its cancel key where it has one, Alt with
-/// an access letter clicks the control that has it, Space clicks a key that has the focus.
+/// the caret. Enter clicks the key that has the focus, else the form's default key; Esc its cancel
+/// key where it has one; Tab and Shift+Tab move the focus; a field may take these three for itself.
+/// Alt with an access letter clicks the control that has it, or leads to the one behind a label;
+/// Space clicks what has the focus. Arrows choose within a group of options, and with Home, End,
+/// the page keys and letters within a list.
 void pressKey(Form& form, KeyStroke stroke);
+
+/// Types `text` into the control that has the keyboard, a key a character, so that a field's filter
+/// sees each of them; line breaks and the like are left out.
+void pasteText(Form& form, std::string_view text);
 
 /// Lets the key go: key-up, with the modifiers still held.
 void releaseKey(Form& form, KeyStroke stroke);
@@ -30,9 +39,9 @@ void holdModifiers(Form& form, std::uint8_t shift);
 /// All modifiers came up.
 void releaseModifiers(Form& form);
 
-/// A click. For an option it also selects it and clears its neighbours of the same name.
-/// Returns false where the control takes no click.
-bool click(Form& form, Control& control);
+/// A click. In a dialog it gives the focus to what can have it. It selects an option and clears the
+/// others of its group, ticks and clears a box. Returns false where the control takes no click.
+bool click(Form& form, Control& control, std::uint8_t shift = kNoModifier);
 
 /// Right mouse button, with the modifiers in force.
 bool rightClick(Form& form, Control& control, std::uint8_t shift);
@@ -41,7 +50,7 @@ bool rightClick(Form& form, Control& control, std::uint8_t shift);
 bool clickRow(Form& form, Control& list, std::size_t row);
 bool doubleClickRow(Form& form, Control& list, std::size_t row);
 
-/// The window's close button. Returns whether the form is closed now.
+/// The window's close button: the cancel key where there is one, else `close`. Returns whether the form is closed now.
 bool closeForm(Form& form);
 
 }  // namespace tallyforge

@@ -4,6 +4,7 @@
 // data folder of its own that it removes at the end, and has a clock that stands.
 #pragma once
 
+#include "platform/dialog_run.h"
 #include "platform/platform.h"
 
 #include <cstdlib>
@@ -77,10 +78,13 @@ public:
         return text;
     }
     void showDialog(Form& dialog) override {
-        dialogs.push_back(dialog.name);
-        if (inDialog) {
-            inDialog(dialog);
-        }
+        runDialog(*this, dialog, [&] {
+            dialogs.push_back(dialog.name);
+            activateDialog(dialog);
+            if (inDialog && dialog.open) {
+                inDialog(dialog);
+            }
+        });
     }
     DesktopMetrics metrics() const override { return desktop; }
     char decimalCharacter() const override { return decimal; }

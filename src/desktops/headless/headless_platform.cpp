@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktops/headless/headless_platform.h"
 
+#include "platform/dialog_run.h"
+
 #include "platform/text.h"
 
 #include <algorithm>
@@ -89,13 +91,18 @@ std::string HeadlessPlatform::inputBox(const InputBox& box) {
 }
 
 void HeadlessPlatform::showDialog(Form& dialog) {
-    printLine_("dialog " + dialog.name + " " + inQuotes(dialog.title));
-    dialog.open = true;
-    if (driveDialog) {
-        driveDialog(dialog);
+    bool shown = false;
+    runDialog(*this, dialog, [&] {
+        shown = true;
+        printLine_("dialog " + dialog.name + " " + inQuotes(dialog.title));
+        activateDialog(dialog);
+        if (driveDialog && dialog.open) {
+            driveDialog(dialog);
+        }
+    });
+    if (shown) {
+        printLine_("dialog " + dialog.name + " closed");
     }
-    dialog.open = false;
-    printLine_("dialog " + dialog.name + " closed");
 }
 
 DesktopMetrics HeadlessPlatform::metrics() const {

@@ -247,6 +247,9 @@ void KeyScript::key(std::string_view rest) {
     if (shift != 0 && stroke.shift != 0) {
         holdModifiers(form(), stroke.shift);
     }
+    if (dialog_ != nullptr && stroke.keyCode == 'V' && stroke.shift == kCtrl) {
+        return pasteText(form(), platform_->clipboardText());
+    }
     pressKey(form(), stroke);
     releaseKey(form(), {.keyCode = stroke.keyCode, .shift = held_});
 }
@@ -284,7 +287,7 @@ KeyScript::Target KeyScript::target(std::string_view text) const {
     if (found.control == nullptr && number != kNoIndex) {
         found.control = form().find(name);
         found.row = number;
-        if (found.control != nullptr && found.control->kind != ControlKind::List) {
+        if (found.control != nullptr && found.control->rows == nullptr) {
             found.control = nullptr;
         }
     }
@@ -305,7 +308,7 @@ std::size_t KeyScript::rowOf(const Target& at) const {
 void KeyScript::clickControl(std::string_view rest) {
     const Target at = target(takeWord(rest));
     if (at.row < 0) {
-        withModifiers(at.shift, [&](std::uint8_t /*shift*/) { click(form(), *at.control); });
+        withModifiers(at.shift, [&](std::uint8_t shift) { click(form(), *at.control, shift); });
         return;
     }
     const std::size_t row = rowOf(at);

@@ -3,6 +3,7 @@
 
 #include "desktops/qt/form_view.h"
 #include "desktops/qt/theme.h"
+#include "platform/dialog_run.h"
 #include "platform/text.h"
 
 #include <QApplication>
@@ -125,6 +126,11 @@ std::string QtPlatform::inputBox(const InputBox& box) {
 }
 
 void QtPlatform::showDialog(Form& dialog) {
+    refresh();
+    runDialog(*this, dialog, [&] { runWindowOf(dialog); });
+}
+
+void QtPlatform::runWindowOf(Form& dialog) {
     QDialog window(window_);
     window.setWindowTitle(unicode(dialog.title));
     auto* layout = new QVBoxLayout(&window);
@@ -137,9 +143,10 @@ void QtPlatform::showDialog(Form& dialog) {
             window.accept();
         }
     };
-    dialog.open = true;
-    window.exec();
-    dialog.open = false;
+    activateDialog(dialog);
+    if (dialog.open) {
+        window.exec();
+    }
 }
 
 DesktopMetrics QtPlatform::metrics() const {

@@ -47,6 +47,7 @@ public:
 
 private:
     void refresh() const;
+    void runWindowOf(Form& dialog);
 
     QWidget* window_ = nullptr;
     RunWatch runWatch_;

@@ -32,7 +32,9 @@ public:
         note(apply, "apply");
     }
 
+    /// As on the main form: one field hears all typing.
     void hear() {
+        typing = &heard;
         heard.keyDown = [this](KeyEvent event) {
             log.push_back("down " + std::to_string(event.keyCode) + " " + std::to_string(event.shift));
         };
