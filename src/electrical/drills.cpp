@@ -6,6 +6,7 @@
 #include "numbers/number_format.h"
 #include "platform/text.h"
 
+#include <array>
 #include <string>
 
 namespace tallyforge {
@@ -26,13 +27,19 @@ constexpr std::array<TableRow, 78> kNumberRows{
      {65, 0.035},  {66, 0.033},  {67, 0.032}, {68, 0.031},  {69, 0.0292}, {70, 0.028},  {71, 0.026},  {72, 0.025},
      {73, 0.024},  {74, 0.0225}, {75, 0.021}, {76, 0.02},   {77, 0.018},  {78, 0.016}}};
 
-constexpr std::array<TableRow, 24> kLetterRows{
-    {{0, 0.3860},  {1, 0.1570},  {2, 0.1590},  {3, 0.1890},  {4, 0.2660},  {5, 0.2610},  {6, 0.3320},  {7, 0.2950},
-     {8, 0.3230},  {9, 0.3160},  {10, 0.3020}, {11, 0.2500}, {12, 0.2460}, {13, 0.2420}, {14, 0.2380}, {15, 0.2340},
-     {16, 0.3580}, {17, 0.3480}, {18, 0.3390}, {19, 0.4040}, {20, 0.2810}, {21, 0.2770}, {22, 0.2720}, {23, 0.2570}}};
+// Quirk: V, U and L are smaller than their neighbours, and stay so.
+constexpr std::array<TableRow, 26> kLetterRows{
+    {{'A', 0.2340}, {'B', 0.2380}, {'C', 0.2420}, {'D', 0.2460}, {'E', 0.2500}, {'F', 0.2570}, {'G', 0.2610},
+     {'H', 0.2660}, {'I', 0.2720}, {'J', 0.2770}, {'K', 0.2810}, {'L', 0.1890}, {'M', 0.2950}, {'N', 0.3020},
+     {'O', 0.3160}, {'P', 0.3230}, {'Q', 0.3320}, {'R', 0.3390}, {'S', 0.3480}, {'T', 0.3580}, {'U', 0.1590},
+     {'V', 0.1570}, {'W', 0.3860}, {'X', 0.3970}, {'Y', 0.4040}, {'Z', 0.4130}}};
 
-std::string letterOnKey(int key) {
-    return std::string(kDrillLetters.at(static_cast<std::size_t>(key)));
+/// By key of the bank.
+constexpr std::array<std::string_view, 24> kKeyLetters{"W/X", "V", "U", "L", "H", "G", "Q", "M",   "P", "O", "N", "E",
+                                                       "D",   "C", "B", "A", "T", "S", "R", "Y/Z", "K", "J", "I", "F"};
+
+std::string letter(int code) {
+    return {static_cast<char>(code)};
 }
 
 }  // namespace
@@ -46,18 +53,29 @@ constinit const LookupTable kNumberDrills{.name = "number-drills",
 
 constinit const LookupTable kLetterDrills{
     .name = "letter-drills",
-    .title = "Diameter of letter drills, as they lie on the bank",
+    .title = "Diameter of letter drills",
     .sizes = "letter",
     .unit = "in",
     .source =
         "the calculator's own rows, those of ASME B94.11M but for V, U and L, which are 0.377, 0.368 and 0.290 there "
-        "and stand as 0.157, 0.159 and 0.189; X is 0.397 and Z is 0.413",
+        "and stand as 0.157, 0.159 and 0.189",
     .rows = kLetterRows,
-    .sizeText = letterOnKey};
+    .sizeText = letter};
 
-constinit const std::array<std::string_view, 24> kDrillLetters{"W/X", "V", "U", "L",   "H", "G", "Q", "M",
-                                                               "P",   "O", "N", "E",   "D", "C", "B", "A",
-                                                               "T",   "S", "R", "Y/Z", "K", "J", "I", "F"};
+std::string_view drillLetters(int key) {
+    return kKeyLetters.at(static_cast<std::size_t>(key));
+}
+
+std::string letterDrillTip(int key) {
+    std::string tip;
+    for (const char each : drillLetters(key)) {
+        if (const auto inches = kLetterDrills.at(each)) {
+            tip += (tip.empty() ? " Letter " : "and Letter ") + letter(each) + " drill is " +
+                   fixedText(*inches, kDrillDigits) + std::string(" Ø "_t);
+        }
+    }
+    return tip;
+}
 
 void numberDrill(Engine& calc) {
     const double number = roundHalfEven(calc.xNumber(), 0);

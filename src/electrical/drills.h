@@ -5,7 +5,7 @@
 
 #include "electrical/lookup_table.h"
 
-#include <array>
+#include <string>
 #include <string_view>
 
 namespace tallyforge {
@@ -15,10 +15,13 @@ class Engine;
 /// Number drills 1 to 78.
 extern const LookupTable kNumberDrills;
 
-/// Letter drills by the key of the bank that shows them; a key of two letters holds the first.
+/// Letter drills, by the code of the letter, 'A' to 'Z'.
 extern const LookupTable kLetterDrills;
-/// The letters on those keys, "A" or "W/X".
-extern const std::array<std::string_view, 24> kDrillLetters;
+
+/// The letters of the bank's keys 0 to 23, "A" or "W/X".
+[[nodiscard]] std::string_view drillLetters(int key);
+/// " Letter A drill is 0.2340 Ø ", with both letters of a key of two, Latin-1.
+[[nodiscard]] std::string letterDrillTip(int key);
 
 /// X, rounded half to even, is a drill's number; its diameter.
 void numberDrill(Engine& calc);

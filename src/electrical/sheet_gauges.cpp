@@ -57,7 +57,8 @@ constinit const LookupTable kSheetSteel{
     .title = "Thickness of sheet steel",
     .sizes = "gauge",
     .unit = "in",
-    .source = "the calculator's own rows, those of the Manufacturers' Standard Gauge",
+    .source =
+        "the calculator's own rows, those of the Manufacturers' Standard Gauge (ounces per square foot over 669.12)",
     .rows = kSteelRows};
 
 constinit const LookupTable kStainlessSteel{
@@ -65,7 +66,9 @@ constinit const LookupTable kStainlessSteel{
     .title = "Thickness of stainless steel sheet",
     .sizes = "gauge",
     .unit = "in",
-    .source = "the calculator's own rows, those of the U.S. Standard Gauge cut to four places; -5 is 6/0",
+    .source =
+        "the calculator's own rows, those of the U.S. Standard Gauge (ounces per square foot over 640) rounded to four "
+        "places, a half down; -5 is 6/0",
     .rows = kStainlessRows};
 
 constinit const LookupTable kSheetAluminum{

@@ -194,7 +194,9 @@ void Dispatch::cmdFunctions_MouseDown(int index, MouseButton button, std::uint8_
     if (button != MouseButton::Right) {
         return;
     }
-    const KeyRow& key = row(index);
+    // The letters of the drills are all one key's.
+    constexpr int kDrillKey = 21;
+    const KeyRow& key = row(calc.s.modes.ActiveKeypad == Keypad::LetterDrill ? kDrillKey : index);
     if (calc.s.modes.ProgramMode || calc.s.modes.MemoryArrayMode) {
         constexpr int kModesTopic = 650;
         calc.platform.helpTopic(kModesTopic);

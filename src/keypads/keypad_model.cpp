@@ -2,6 +2,7 @@
 #include "keypads/keypad_model.h"
 
 #include "dialogs/unit_choice.h"
+#include "electrical/drills.h"
 #include "engine/engine.h"
 #include "numbers/word_size.h"
 
@@ -63,27 +64,56 @@ void KeypadModel::lay(Keypad keypad) {
     s.modes.TablesShown = false;
     calc.form.cmdF11.enabled = true;
     calc.form.cmdF12.enabled = true;
+    if (keypad == Keypad::LetterDrill || s.modes.ActiveKeypad == Keypad::LetterDrill) {
+        overlayBank(keypad == Keypad::LetterDrill);
+    }
     s.modes.ActiveKeypad = keypad;
     if (s.modes.BaseMode && keypad != Keypad::Binary) {
         leaveBinary();
     } else if (!s.modes.BaseMode && keypad == Keypad::Binary) {
         enterBinary();
     }
-    const bool convert = keypad == Keypad::Convert;
-    calc.form.lblCnvrt.visible = convert;
-    if (convert) {
-        calc.form.lblCnvrt.text = "Use Alt Click to save Cnv. Fctr.";
-        calc.form.lblCnvrt.tip = " Conversion Factor saved to Reg 2 ";
-        calc.form.lblCnvrt.font.points = 8.0F;
-    }
-    assign(calc.form.lblBank.text, keypadTable(keypad).name);
+    writeHint(keypad);
+    assign(calc.form.lblBank.text, keypad == Keypad::LetterDrill ? "Letter Drills" : keypadTable(keypad).name);
     paintPlain();
     tickMenu(keypad);
     s.modes.TablesShown = keypad == Keypad::Tables;
 }
 
+// The label beside the keypad's name.
+void KeypadModel::writeHint(Keypad keypad) {
+    Control& hint = calc.form.lblCnvrt;
+    hint.visible = keypad == Keypad::Convert || keypad == Keypad::LetterDrill;
+    hint.font.points = 8.0F;
+    if (keypad == Keypad::Convert) {
+        hint.text = "Use Alt Click to save Cnv. Fctr.";
+        hint.tip = " Conversion Factor saved to Reg 2 ";
+    } else if (keypad == Keypad::LetterDrill) {
+        hint.text = "F9 or KP\nto Exit!";
+        hint.tip.clear();
+    }
+}
+
+// While the letters lie on the bank the way out is by F9 or the arrows.
+void KeypadModel::overlayBank(bool letters) {
+    calc.form.enableKeypadMenu(!letters);
+    calc.form.cmdF11.enabled = !letters;
+    calc.form.cmdF12.enabled = !letters;
+}
+
+void KeypadModel::paintLetterDrills() {
+    for (int i = 0; i < kBankKeys; ++i) {
+        look(calc.form.cmdFunctions.at(static_cast<std::size_t>(i)), KeyCaption{drillLetters(i)}, letterDrillTip(i),
+             KeyColour::Plain);
+    }
+}
+
 void KeypadModel::paintPlain() {
     const Keypad keypad = calc.s.modes.ActiveKeypad;
+    if (keypad == Keypad::LetterDrill) {
+        paintLetterDrills();
+        return;
+    }
     calc.display.enableByteKeys(keypad != Keypad::Binary || calc.s.format.WordSize >= kSmallestByteWord);
     const KeypadTable& table = keypadTable(keypad);
     for (const KeyRow& row : table.rows) {
@@ -125,8 +155,7 @@ void KeypadModel::leaveBinary() {
 
 bool KeypadModel::bankIsLent() const {
     const EngineState& s = calc.s;
-    return s.modes.MemoryArrayMode || s.modes.ProgramMode || s.modes.QuizMode ||
-           s.modes.ActiveKeypad == Keypad::LetterDrill;
+    return s.modes.MemoryArrayMode || s.modes.ProgramMode || s.modes.QuizMode;
 }
 
 // Looks only: a short cut lends a function of another keypad for one key, and neither the base
@@ -196,7 +225,7 @@ void KeypadModel::previous() {
 }
 
 void KeypadModel::remember(Keypad keypad) {
-    if (!history_.empty() && history_.front() == keypad) {
+    if (keypad == Keypad::LetterDrill || (!history_.empty() && history_.front() == keypad)) {
         return;
     }
     history_.insert(history_.begin(), keypad);

@@ -54,6 +54,9 @@ public:
 
 private:
     void paintPlain();
+    void paintLetterDrills();
+    void overlayBank(bool letters);
+    void writeHint(Keypad keypad);
     void leaveBinary();
     void enterBinary();
     void remember(Keypad keypad);

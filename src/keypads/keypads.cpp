@@ -103,7 +103,9 @@ void Keypads::ProgramLetter(int letter) {
 }
 
 void Keypads::MemoryArray() {
-    run(above.toggleMemoryArray);
+    if (calc.s.modes.ActiveKeypad != Keypad::LetterDrill) {
+        run(above.toggleMemoryArray);
+    }
 }
 
 void Keypads::mnuCopy_Click() {

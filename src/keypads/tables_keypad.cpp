@@ -29,6 +29,24 @@ void plain(Keys& keys) {
     keys.calc.s.modifiers.ModifierMask == 0 ? LookUp(keys.calc) : refuseModifiers(keys.calc);
 }
 
+// The letters take the bank; X stays.
+void letterDrills(Engine& calc) {
+    calc.keypads().ShowKeypad(Keypad::LetterDrill);
+    calc.s.stack.KeepX = calc.s.stack.Xreg;
+    leaveNothing(calc);
+}
+
+void drillBits(Keys& keys) {
+    switch (keys.calc.s.modifiers.ModifierMask) {
+        case 0:
+            return numberDrill(keys.calc);
+        case kShift:
+            return letterDrills(keys.calc);
+        default:
+            return refuseModifiers(keys.calc);
+    }
+}
+
 }  // namespace
 
 const KeypadTable kTablesKeypad{
@@ -136,7 +154,8 @@ const KeypadTable kTablesKeypad{
         {.key = 21,
          .caption = "Bits",
          .tip = " Drill bit sizes: No. [Click] | Shift+[Click] for Letter Drills (mouse over letter). ",
-         .helpTopic = 3021},
+         .helpTopic = 3021,
+         .does = drillBits},
         {.key = 22,
          .caption = "ASP",
          .tip = " American Std. Pipe Tap Drill Sizes - [Click] to View Table ",
