@@ -2,6 +2,7 @@
 //
 // tallyforge-keys: runs a key script on a calculator without a desktop.
 #include "desktops/headless/key_script.h"
+#include "electrical/lookup_tables.h"
 #include "keypads/keypad_table.h"
 
 #include <charconv>
@@ -26,13 +27,15 @@ constexpr int kWrongCall = 2;
 constexpr int kTimeIsUp = 3;
 constexpr const char* kUsage =
     "usage: tallyforge-keys [--data DIR] [--home DIR] [--decimal point|comma] [--now \"YYYY-MM-DD HH:MM:SS\"]\n"
-    "                       [--seed N] [--dpi N] [--tips] [--timeout S] [--unfinished] [SCRIPT]\n";
+    "                       [--seed N] [--dpi N] [--tips] [--timeout S] [--unfinished] [--table [NAME]] [SCRIPT]\n";
 
 struct Call {
     HeadlessOptions options;
     std::optional<double> timeout;
     std::string script;
     bool unfinished = false;
+    /// The table to print; an empty name lists them all.
+    std::optional<std::string> table;
 };
 
 /// A private folder that goes with the program. It lies in memory where there is such a place: its
@@ -133,6 +136,9 @@ std::optional<Call> readCall(const std::vector<std::string>& words) {
             call.options.tips = true;
         } else if (words[i] == "--unfinished") {
             call.unfinished = true;
+        } else if (words[i] == "--table") {
+            const bool named = i + 1 < words.size() && !words[i + 1].starts_with("--");
+            call.table = named ? words[++i] : std::string();
         } else if (words[i].starts_with("--")) {
             if (i + 1 >= words.size() || !takeOption(call, words[i], words[i + 1])) {
                 return std::nullopt;
@@ -174,6 +180,16 @@ void printLine(std::string_view line) {
 
 void complain(std::string_view line) {
     putLine(line, stderr);
+}
+
+int printTable(const std::string& name) {
+    const auto text = name.empty() ? listOfTables() : printedTable(name);
+    if (!text) {
+        complain("tallyforge-keys: no table " + name + ", --table lists them");
+        return kWrongCall;
+    }
+    std::fwrite(text->data(), 1, text->size(), stdout);
+    return 0;
 }
 
 /// Ends the program when its time is up, whatever it does by then.
@@ -232,5 +248,5 @@ int main(int argc, char** argv) {
         listUnfinished();
         return 0;
     }
-    return runScript(*call);
+    return call->table ? printTable(*call->table) : runScript(*call);
 }
