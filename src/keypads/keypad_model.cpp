@@ -124,6 +124,9 @@ void KeypadModel::paintPlain() {
     if (dressUnits && unitsMatter(keypad)) {
         dressUnits(keypad);
     }
+    if (dressConversions && keypad == Keypad::Convert) {
+        dressConversions();
+    }
 }
 
 // The bank is painted after every key, so that tips with units are composed once a choice.
@@ -187,6 +190,10 @@ void KeypadModel::paint(std::uint8_t mask) {
             write(key, caption);
             hideWhereDue(key, row, calc.s);
         }
+    }
+    const bool keepsCaptions = mask == kShift || mask == kAlt;
+    if (dressConversions && keepsCaptions && table.id == Keypad::Convert) {
+        dressConversions();
     }
 }
 

@@ -11,7 +11,6 @@
 #include <array>
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,8 +48,8 @@ public:
     std::function<bool(Keypad)> hintDue;
     /// Writes the captions and tool tips that depend on the chosen units over those of the rows.
     std::function<void(Keypad)> dressUnits;
-    /// Key of the Convert keypad that holds the last conversion.
-    std::optional<int> markedConvertKey;
+    /// Writes what keys of the Convert keypad remember over the captions and tips of the rows.
+    std::function<void()> dressConversions;
 
 private:
     void paintPlain();

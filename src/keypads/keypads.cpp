@@ -36,6 +36,7 @@ constexpr std::array<BaseDigits, 4> kBaseDigits{{
 Keypads::Keypads(Engine& calculator)
     : model(calculator), keys{calculator}, dispatch(calculator, model, keys), arithmetic(calculator), calc(calculator) {
     calc.connect(*this);
+    model.dressConversions = [this] { keys.conversions.dress(); };
     arithmetic.bases = &keys.binary;
     hangOnForm();
 }
@@ -83,10 +84,10 @@ void Keypads::PerformConvertFn() {
     EngineState& s = calc.s;
     const Keypad shown = s.modes.ActiveKeypad;
     const bool bankIsLent = shown == Keypad::Program || shown == Keypad::MemoryArray;
-    if (model.markedConvertKey && !bankIsLent) {
+    if (keys.conversions.memory.marked && !bankIsLent) {
         model.lay(Keypad::Convert);
         s.modifiers.ModifierMask = 0;
-        dispatch.cmdFunctions_Click(*model.markedConvertKey);
+        dispatch.cmdFunctions_Click(*keys.conversions.memory.marked);
         model.lay(shown);
     }
     calc.focusEntry();
@@ -154,6 +155,7 @@ void Keypads::cmdEnter_Click() {
 
 void Keypads::ClearPartialStates() {
     calc.s.functions.FunctionResetMask = 0x7FFFFFFF;
+    keys.conversions.reset();
 }
 
 void Keypads::ResetProgram() {

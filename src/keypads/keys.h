@@ -5,6 +5,7 @@
 #pragma once
 
 #include "bases/binary_keys.h"
+#include "convert/conversion_keys.h"
 #include "dialogs/dialog_hand_over.h"
 #include "dialogs/unit_tables.h"
 #include "electrical/wire_build.h"
@@ -29,6 +30,7 @@ struct Keys {
     std::function<void(std::span<const UnitRange* const>)> saveUnits{};
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
+    ConversionKeys conversions{calc};
     Dates dates{calc};
     Fractions fractions{calc};
     Quiz quiz{calc};

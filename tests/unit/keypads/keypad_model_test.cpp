@@ -324,7 +324,7 @@ TEST_F(KeypadModelTest, F10WithoutAStoredConversionChangesNothing) {
 
 TEST_F(KeypadModelTest, F10ClicksTheMarkedConvertKeyAndRestoresTheKeypadWithoutATraceInTheHistory) {
     keypads.ShowKeypad(Keypad::Magnetics);
-    keypads.model.markedConvertKey = 1;
+    keypads.keys.conversions.memory.keep(15, 5.0, " inch to mm ", "mm");
     type("5");
     press(kKeyF10);
     EXPECT_EQ(x(), "25");

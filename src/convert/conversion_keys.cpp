@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "convert/conversion_keys.h"
+
+#include "engine/engine.h"
+#include "engine/results.h"
+#include "numbers/failure.h"
+
+#include <algorithm>
+#include <string>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr int kTemperatureKey = 3;
+constexpr int kFirstTopic = 1400;  ///< help topic of key 0
+
+std::size_t slot(int key) {
+    return static_cast<std::size_t>(key);
+}
+
+/// A caption of so many letters in the width of a key.
+float fittingPoints(std::size_t letters) {
+    constexpr float kUsual = 10.0F;
+    constexpr float kLeast = 4.5F;
+    constexpr float kWidth = 40.0F;
+    return letters == 0 ? kUsual : std::clamp(kWidth / static_cast<float>(letters), kLeast, kUsual);
+}
+
+void write(std::string& held, std::string_view wanted) {
+    if (held != wanted) {
+        held = wanted;
+    }
+}
+
+}  // namespace
+
+ConversionKeys::Gate ConversionKeys::ConversionKeyGate(int key) {
+    const std::uint8_t mask = calc.s.modifiers.ModifierMask;
+    const bool alt = mask == kAlt && key != kTemperatureKey;
+    if (mask != 0 && mask != kShift && !alt) {
+        refuseModifiers(calc);
+        return Gate::Done;
+    }
+    if (calc.s.stack.Xreg.isTagged()) {
+        throw Failure{FailureNumber::TypeMismatch};
+    }
+    const bool stored = key == kTemperatureKey ? memory.TemperatureHeld : memory.ConversionFactors.at(slot(key)) != 0.0;
+    if (mask == 0 && stored) {
+        convertStored(key);
+        return Gate::Done;
+    }
+    return alt ? Gate::DialogForAlt : Gate::Dialog;
+}
+
+void ConversionKeys::convertStored(int key) {
+    double value = 0.0;
+    if (key == kTemperatureKey) {
+        const UnitPair& pair = memory.former.at(slot(key)).value();
+        value = convert(kTemperatureTable.group(pair.group), pair.from, pair.to, calc.xNumber()).value;
+    } else {
+        value = applyFactor(calc.xNumber(), memory.ConversionFactors.at(slot(key)), memory.divides.at(slot(key)));
+    }
+    memory.MarkConversionKey(key);
+    replaceX(calc, {value, memory.ConversionLabels.at(slot(key))});
+    showFactor(key, Gate::Done);
+}
+
+ConversionDialog& ConversionKeys::dialogOf(const ConversionTable& table) {
+    auto& dialog = dialogs_.at(slot(table.key));
+    if (!dialog) {
+        dialog = std::make_unique<ConversionDialog>(table, calc, kFirstTopic + table.key);
+    }
+    return *dialog;
+}
+
+void ConversionKeys::press(int key) {
+    const ConversionTable& table = *conversionTableOf(key);
+    const Gate gate = ConversionKeyGate(key);
+    if (gate == Gate::Done) {
+        return;
+    }
+    calc.s.modifiers.ModifierMask = 0;
+    calc.LightModifiers(0);
+    const auto choice = dialogOf(table).ask(
+        {.x = calc.xNumber(), .former = memory.former.at(slot(key)), .sizes = memory.sizes.at(slot(key))});
+    // The dispatch leaves the Convert keypad as the modifier has painted it.
+    calc.keypads().RepaintKeypad();
+    if (choice) {
+        convertWith(table, *choice, gate);
+    } else {
+        calc.s.stack.KeepX = calc.s.stack.Xreg;
+        leaveNothing(calc);
+    }
+}
+
+void ConversionKeys::convertWith(const ConversionTable& table, const ConversionChoice& choice, Gate gate) {
+    const UnitGroup& group = table.group(choice.pair.group);
+    const Conversion result = convert(group, choice.pair.from, choice.pair.to, calc.xNumber(), choice.sizes);
+    memory.keep(table, choice.pair, choice.sizes, result, calc.s.format.DecimalChar);
+    const Result delivered{result.value, memory.ConversionLabels.at(slot(table.key))};
+    if (choice.keepsX) {
+        pushOnX(calc, delivered);
+    } else {
+        replaceX(calc, delivered);
+    }
+    showFactor(table.key, gate);
+    calc.keypads().RepaintKeypad();
+}
+
+void ConversionKeys::showFactor(int key, Gate gate) {
+    if (key == kTemperatureKey) {
+        return;
+    }
+    const double factor = memory.ConversionFactors.at(slot(key));
+    calc.s.stack.Xnum = factor;
+    write(calc.form.lblCnvrt.text, calc.text(ValueCell{factor}));
+    write(calc.form.lblCnvrt.tip, "Use Alt Click to save Cnv. Fctr.");
+    if (gate == Gate::DialogForAlt) {
+        storeInRegister2(factor);
+    }
+}
+
+void ConversionKeys::storeInRegister2(double factor) {
+    constexpr std::size_t kConstant = 2;
+    calc.s.memory.Registers.at(kConstant) = factor;
+    calc.s.memory.RegistersUsed = true;
+    calc.form.txtReg_m.at(kConstant - 1).text = calc.patternText(ValueCell{factor}, "0.0e+00");
+    calc.form.cmdSTO.enabled = true;
+}
+
+void ConversionKeys::dress() {
+    for (int key = 0; key < kBankKeys; ++key) {
+        Control& control = calc.form.cmdFunctions.at(slot(key));
+        if (!memory.holds(key) || !control.visible) {
+            continue;
+        }
+        const std::string& caption = memory.ConversionCaptions.at(slot(key));
+        write(control.text, caption);
+        const Font font{.face = Face::Arial, .points = fittingPoints(caption.size())};
+        if (control.font != font) {
+            control.font = font;
+        }
+        const std::string& warning = memory.warnings.at(slot(key));
+        if (!warning.empty() && !control.tip.ends_with(warning + " ")) {
+            control.tip += "// " + warning + " ";
+        }
+        constexpr std::string_view kExact = "(exact) ";
+        if (memory.sizes.at(slot(key)) == Sizes::Exact && !control.tip.ends_with(kExact)) {
+            control.tip += kExact;
+        }
+    }
+}
+
+}  // namespace tallyforge
