@@ -3,6 +3,8 @@
 
 #include "engine/engine.h"
 
+#include <utility>
+
 namespace tallyforge {
 
 void DialogHandOver::EnterDialog() {
@@ -16,7 +18,8 @@ void DialogHandOver::EnterDialog() {
 void DialogHandOver::LeaveDialog() {
     calc.dialogOpen = false;
     if (calc.s.delivery.FnLabel.empty()) {
-        calc.s.stack.Xreg = kNothingDone;
+        // What stands in X then, the dialog's last line or the X of before, stays.
+        calc.s.stack.KeepX = std::exchange(calc.s.stack.Xreg, kNothingDone);
     }
 }
 

@@ -97,9 +97,9 @@ std::string_view AngleLabel(AngleMode mode, bool state) {
 }
 
 void CharLimitMessage(Engine& calc, std::string_view text) {
-    calc.message(BoxKind::Notice, "Character Limit Reached!",
-                 "You've exceeded 15 characters! The " + std::string(text) +
-                     "previously entered number will be used.. Or press Esc or\n Click Clear to re-enter.");
+    calc.message(BoxKind::Info, "Character Limit Reached!",
+                 "\nYou've exceeded 15 characters! The \npreviously entered number will be used.\n" +
+                     std::string(text) + ". Or press Esc or\n Click Clear to re-enter.");
 }
 
 std::string MapLabelToPrint(std::string_view label) {

@@ -45,7 +45,7 @@ private:
 /// The angle mode for a caption ("Deg", "rad", "Grad"), or for a label ("(ø)", "(rad)", "(Gr)").
 [[nodiscard]] std::string_view AngleLabel(AngleMode mode, bool state);
 
-/// Tells that a number field holds more than 15 characters; `text` names the field.
+/// Tells that a number field takes no more than its 15 characters, `text`.
 void CharLimitMessage(Engine& calc, std::string_view text);
 
 /// A tape label with the usual characters in the place of the tape's glyphs, and back: both sides

@@ -142,6 +142,11 @@ inline constexpr std::array<UnitRow, 4> kDimension{{{"Millimeters (mm)", "mm", 1
                                                     {"Centimeters (cm)", "cm", 1.0 / 2.54},
                                                     {"Inches (in)", "in", 1.0},
                                                     {"Meters (m)", "m", 1.0 / 0.0254}}};
+/// The squares of those, named as the core's area is on the tape.
+inline constexpr std::array<UnitRow, 4> kDimensionArea{{{"", "Ae(mm²)"_t, 1.0 / (25.4 * 25.4)},
+                                                        {"", "Ae(cm²)"_t, 1.0 / (2.54 * 2.54)},
+                                                        {"", "Ae(in²)"_t, 1.0},
+                                                        {"", "Ae(m²)"_t, 1.0 / (0.0254 * 0.0254)}}};
 inline constexpr std::array<UnitRow, 3> kMeanTurn{
     {{"Centimeters (cm)", "cm", 1.0 / 30.48}, {"Inches (in)", "in", 1.0 / 12.0}, {"Feet (ft)", "ft", 1.0}}};
 inline constexpr std::array<UnitRow, 5> kWindow{{{"Circular mils (CM)", "CM", 1.0},
@@ -203,6 +208,7 @@ inline constexpr UnitRange kOhmR{"OhmR", &UnitWords::UnitsWordOhm, 27, unit_rows
 inline constexpr UnitRange kCoreDimension{"CoreDimension", &UnitWords::UnitsWordCore, 0, unit_rows::kDimension};
 inline constexpr UnitRange kCoreTurn{"CoreTurn", &UnitWords::UnitsWordCore, 4, unit_rows::kMeanTurn};
 inline constexpr UnitRange kCorePath{"CorePath", &UnitWords::UnitsWordCore, 7, unit_rows::kDimension};
+inline constexpr UnitRange kCorePathArea{"CorePathArea", &UnitWords::UnitsWordCore, 7, unit_rows::kDimensionArea};
 inline constexpr UnitRange kCoreWindow{"CoreWindow", &UnitWords::UnitsWordCore, 11, unit_rows::kWindow};
 inline constexpr UnitRange kCoreWeight{"CoreWeight", &UnitWords::UnitsWordCore, 16, unit_rows::kWeight};
 inline constexpr UnitRange kCoreL{"CoreL", &UnitWords::UnitsWordCore, 18, unit_rows::kInductance};
@@ -210,7 +216,7 @@ inline constexpr UnitRange kCoreLo{"CoreLo", &UnitWords::UnitsWordCore, 22, unit
 inline constexpr UnitRange kCoreQF{"CoreQF", &UnitWords::UnitsWordCore, 25, std::span(unit_rows::kFrequency).first(3)};
 inline constexpr UnitRange kCoreQL{"CoreQL", &UnitWords::UnitsWordCore, 28, std::span(unit_rows::kInductance).first(3)};
 
-inline constexpr std::array<const UnitRange*, 42> kUnitRanges{&kMagH,
+inline constexpr std::array<const UnitRange*, 43> kUnitRanges{&kMagH,
                                                               &kMagLe,
                                                               &kMagI,
                                                               &kMagB,
@@ -246,6 +252,7 @@ inline constexpr std::array<const UnitRange*, 42> kUnitRanges{&kMagH,
                                                               &kCoreDimension,
                                                               &kCoreTurn,
                                                               &kCorePath,
+                                                              &kCorePathArea,
                                                               &kCoreWindow,
                                                               &kCoreWeight,
                                                               &kCoreL,

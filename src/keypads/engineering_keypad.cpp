@@ -2,8 +2,10 @@
 //
 // The Engineering keypad, a row a key.
 // Units in a tip stand as ranges of unit_tables.h in braces; the painter writes those in force.
+#include "calculators/calculators.h"
 #include "functions/constants.h"
 #include "functions/trigonometry.h"
+#include "keypads/calculator_keys.h"
 #include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -49,14 +51,16 @@ const KeypadTable kEngineeringKeypad{
                 "Ctrl+Alt+: F({LcF})",
          .colour = KeyColour::Yellow,
          .under = {.shift = "X", .ctrl = "C", .alt = "L", .ctrlAlt = "F"},
-         .helpTopic = 1106},
+         .helpTopic = 1106,
+         .does = [](Keys& keys) { openCalculator(keys, kResonantFrequency); }},
         {.key = 7,
          .caption = {"W", Face::Symbol},
          .tip = " Ohms Law - Click: Calculator | Shift+ Click: P({OhmP}) | Ctrl+: I({OhmI}) | Alt+: E({OhmE}) | "
                 "Ctrl+Alt+: R({OhmR}) ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "P", .ctrl = "I", .alt = "E", .ctrlAlt = "R"},
-         .helpTopic = 1107},
+         .helpTopic = 1107,
+         .does = [](Keys& keys) { openCalculator(keys, kOhmsLaw); }},
         {.key = 8,
          .caption = {"w", Face::Symbol},
          .tip = " Freg.[^]: 2(pi)f [Click] | (2(pi)f)²[Ctrl+Click] | Reciprocal = Shift+key+ "_t,
@@ -86,7 +90,8 @@ const KeypadTable kEngineeringKeypad{
          .tip = " Geo. mean ({LcF}) - Click: Calculator | Shift+Click: Fo | Ctrl+Click: BW | Alt+: FL | Ctrl+Alt+: FU ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "Fo", .ctrl = "BW", .alt = "FL", .ctrlAlt = "FU"},
-         .helpTopic = 1111},
+         .helpTopic = 1111,
+         .does = [](Keys& keys) { openCalculator(keys, kGeometricMean); }},
         {.key = 12,
          .caption = "P:R",
          .tip = " Polar to Rect.: Ø [^], r [Click] | Rect. to Polar: jy [^], x [Shift+] "_t,
@@ -162,7 +167,8 @@ const KeypadTable kEngineeringKeypad{
                 "Ctrl+Alt+: T1 | Shift+Ctrl+Alt: T2 ",
          .colour = KeyColour::Yellow,
          .under = {.shift = {"a", Face::Symbol}, .ctrl = "R1", .alt = "R2", .ctrlAlt = "T1", .all = "T2"},
-         .helpTopic = 1121},
+         .helpTopic = 1121,
+         .does = [](Keys& keys) { openCalculator(keys, kTemperatureCoefficient); }},
         {.key = 22,
          .caption = {"DT", Face::Symbol},
          .tip = "{LmuShape}, Recalc [Shift+key] // Temp. Rise({LmuTemperature}): Surface Area({LmuSurface}) [Enter], W "

@@ -31,7 +31,7 @@ std::string failureMessage(FailureNumber number, int index, const EngineState& s
             }
             return std::string(kOutOfRange);
         case FailureNumber::DivisionByZero:
-            return "Division by zero - be sure all variables are defined!";
+            return std::string(kDividedByZero);
         case FailureNumber::ModifierNotValid:
             return "That Extended key (or keys) not valid for that function,\nsee Help file or tooltip for applicable "
                    "Extended keys";

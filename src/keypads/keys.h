@@ -28,6 +28,8 @@ struct Keys {
     std::function<void(std::string_view)> runProgram{};
     /// Asks whether the units in force of these ranges are to be the default.
     std::function<void(std::span<const UnitRange* const>)> saveUnits{};
+    /// A coefficient picked from the list of typical ones, Empty for none; not there without the list.
+    std::function<ValueCell()> typicalValue{};
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
     ConversionKeys conversions{calc};

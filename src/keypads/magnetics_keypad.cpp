@@ -2,9 +2,11 @@
 //
 // The Magnetics keypad, a row a key.
 // Units in a tip stand as ranges of unit_tables.h in braces; the painter writes those in force.
+#include "calculators/calculators.h"
 #include "electrical/bundle.h"
 #include "electrical/wire_keys.h"
 #include "functions/constants.h"
+#include "keypads/calculator_keys.h"
 #include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -42,21 +44,24 @@ const KeypadTable kMagneticsKeypad{
          .tip = " L vs n² ({CoreLo}) - Click: Calculator | Shift+click: L{CoreL} | Ctrl+Click: n | Alt+Click: Lo "_t,
          .colour = KeyColour::Yellow,
          .under = {.shift = "L", .ctrl = "n", .alt = "Lo"},
-         .helpTopic = 1805},
+         .helpTopic = 1805,
+         .does = [](Keys& keys) { openCalculator(keys, kInductanceByTurns); }},
         {.key = 6,
          .caption = {"Lµ"_t},
          .tip =
              " L vs µ - Click: Calculator | : Shift+Click: L({LmuL}) | Ctrl+click: n | Alt+Click: Ae({LmuAe}) | Ctrl+Alt+: le({LmuLe}) | Shift+Ctrl+Alt: µ "_t,
          .colour = KeyColour::Yellow,
          .under = {.shift = "L", .ctrl = "n", .alt = "Ae", .ctrlAlt = "le", .all = {"µ"_t}},
-         .helpTopic = 1806},
+         .helpTopic = 1806,
+         .does = [](Keys& keys) { openCalculator(keys, kInductanceByPermeability); }},
         {.key = 7,
          .caption = "Bm",
          .tip =
              " Flux Density ({MagB}) - Click: Calculator | Shift+Click: Bm |  Ctrl+Click: n | Alt+: Ae({MagAe}) | Ctrl+Alt+: F({MagWave}{MagF}) | Shift+Ctrl+Alt+: E "_t,
          .colour = KeyColour::Yellow,
          .under = {.shift = "Bm", .ctrl = "n", .alt = "Ae", .ctrlAlt = "F", .all = "E"},
-         .helpTopic = 1807},
+         .helpTopic = 1807,
+         .does = [](Keys& keys) { openCalculator(keys, kFluxDensity); }},
         {.key = 8,
          .caption = {"Nø"_t},
          .tip = " Volt-Secs turns: Øt [Click] | n [Ctrl+] | V-S [Alt+] | Recalc [Shift+key+] "_t,
@@ -149,7 +154,8 @@ const KeypadTable kMagneticsKeypad{
                 "[Ctrl+Alt+Click] ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "D", .ctrl = "E", .alt = "F", .ctrlAlt = "G"},
-         .helpTopic = 1816},
+         .helpTopic = 1816,
+         .does = [](Keys& keys) { openCalculator(keys, kCCore); }},
         {.key = 17,
          .caption = {"Bµ"_t},
          .tip =
@@ -195,7 +201,8 @@ const KeypadTable kMagneticsKeypad{
                 "I({MagI}) | Ctrl+Alt+Click: le({MagLe})",
          .colour = KeyColour::Yellow,
          .under = {.shift = "H", .ctrl = "n", .alt = "I", .ctrlAlt = "le"},
-         .helpTopic = 1822},
+         .helpTopic = 1822,
+         .does = [](Keys& keys) { openCalculator(keys, kMagnetizingForce); }},
         {.key = 23,
          .caption = "PL",
          .tip = " Ferrite Core Loss (Ctrl+Rt-Click to Input Matl): Freq (KHz) [Ctrl+Click] | Flux Density, B(g) "

@@ -88,12 +88,13 @@ TEST(DialogTexts, LabelsReadAlikeOnPaper) {
 class DialogMessages : public EngineTest {};
 
 TEST_F(DialogMessages, TellThatAFieldIsFull) {
-    CharLimitMessage(calc, "Current ");
+    CharLimitMessage(calc, "123456789012345");
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].title, "Character Limit Reached!");
+    EXPECT_EQ(platform.boxes[0].kind, BoxKind::Info);
     EXPECT_EQ(platform.boxes[0].text,
-              "You've exceeded 15 characters! The Current previously entered number will be used.. Or press Esc or\n"
-              " Click Clear to re-enter.");
+              "\nYou've exceeded 15 characters! The \npreviously entered number will be used.\n"
+              "123456789012345. Or press Esc or\n Click Clear to re-enter.");
 }
 
 }  // namespace

@@ -58,6 +58,7 @@ std::vector<Wanted> wantedRanges() {
         {kCoreDimension, &UnitWords::UnitsWordCore, 0, {"mm", "cm", "in", "m"}},
         {kCoreTurn, &UnitWords::UnitsWordCore, 4, {"cm", "in", "ft"}},
         {kCorePath, &UnitWords::UnitsWordCore, 7, {"mm", "cm", "in", "m"}},
+        {kCorePathArea, &UnitWords::UnitsWordCore, 7, {"Ae(mm²)"_t, "Ae(cm²)"_t, "Ae(in²)"_t, "Ae(m²)"_t}},
         {kCoreWindow, &UnitWords::UnitsWordCore, 11, {"CM", "mm²"_t, "cm²"_t, "in²"_t, "m²"_t}},
         {kCoreWeight, &UnitWords::UnitsWordCore, 16, {"lb", "kg"}},
         {kCoreL, &UnitWords::UnitsWordCore, 18, {"Hy", "mH", "µH"_t, "nH"}},

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calculators/calculators.h"
+
+#include <array>
+
+namespace tallyforge {
+
+std::span<const CalculatorTable* const> calculatorTables() {
+    static constexpr std::array<const CalculatorTable*, 9> kTables{
+        &kOhmsLaw,           &kResonantFrequency,        &kGeometricMean, &kFluxDensity,           &kMagnetizingForce,
+        &kInductanceByTurns, &kInductanceByPermeability, &kCCore,         &kTemperatureCoefficient};
+    return kTables;
+}
+
+}  // namespace tallyforge
