@@ -53,7 +53,9 @@ CalculatorDialog::CalculatorDialog(Engine& calculator, DialogHandOver& handOver,
     : CalculatorForm(calculator, lookOf(calculatorTable)),
       handOver_(handOver),
       services_(std::move(services)),
-      table(calculatorTable) {
+      table(calculatorTable),
+      asked_(handOver.DialogCalcId),
+      brought_(handOver.DialogValue) {
     addFields();
     addUnits();
     addAnswers();
@@ -120,11 +122,10 @@ void CalculatorDialog::showTypicalValue() {
 }
 
 void CalculatorDialog::takeX() {
-    const std::uint8_t asked = std::exchange(handOver_.DialogCalcId, std::uint8_t{0});
-    const ValueCell value = std::exchange(handOver_.DialogValue, ValueCell{""});
-    const auto field = std::find_if(table.fields.begin(), table.fields.end(), [asked](const Quantity& quantity) {
-        return quantity.modifiers != 0 && quantity.modifiers == asked;
+    const auto field = std::find_if(table.fields.begin(), table.fields.end(), [this](const Quantity& quantity) {
+        return quantity.modifiers != 0 && quantity.modifiers == asked_;
     });
+    const ValueCell& value = brought_;
     const bool nothingThere = value.isEmpty() || value.isEmptyText() || calc.s.stack.depth() == 0;
     if (field == table.fields.end() || nothingThere) {
         return;

@@ -87,6 +87,8 @@ private:
     DialogHandOver& handOver_;
     CalculatorServices services_;
     const CalculatorTable& table;
+    std::uint8_t asked_;  ///< modifiers with which the key was pressed
+    ValueCell brought_;   ///< and X
     std::array<std::optional<Held>, kMostFields> held_;
     std::array<double, kMostAnswers> answers_{};
     int EntryCount = 0;
