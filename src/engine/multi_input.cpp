@@ -5,6 +5,7 @@
 #include "numbers/checked_math.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tallyforge {
 
@@ -14,15 +15,9 @@ MultiInput::Outcome MultiInput::press() {
 
 MultiInput::Outcome MultiInput::press(std::uint8_t name) {
     EngineState& s = calc.s;
-    if ((s.functions.FunctionResetMask & shape.resetBit) != 0) {
-        s.functions.FunctionResetMask &= ~shape.resetBit;
-        clear();
-    }
+    clearIfDue();
     if (nothingEntered()) {
-        clear();
-        s.stack.Xreg = ValueCell::zero();
-        s.delivery.FnLabel = shape.resetLabel;
-        return Outcome::Reset;
+        return startAnew(shape.resetLabel);
     }
     const bool recalculates = shape.shiftRecalculates && (name & kShift) != 0;
     const KeyInput* input = named(recalculates ? static_cast<std::uint8_t>(name - kShift) : name);
@@ -30,29 +25,82 @@ MultiInput::Outcome MultiInput::press(std::uint8_t name) {
         s.stack.Xreg = kNoMeaning;
         return Outcome::NoMeaning;
     }
-    valueOf(*input) = calc.xNumber();
+    const double given = calc.xNumber();
+    double value = given;
     if (received_ == 0) {
         first_ = {};
     }
+    if (owner.refuse) {
+        if (const auto refusal = owner.refuse(*input, value); refusal) {
+            return turnAway(*refusal);
+        }
+    }
+    if (value != given) {
+        s.stack.Xreg = value;
+    }
+    valueOf(*input) = value;
     received_ |= input->bit;
     // The quantity that was solved for last is no input of that set, so it starts a new one.
     if (recalculates && received_ == input->bit && (lastSet_ & input->bit) != 0) {
         received_ = lastSet_;
     }
     if (const KeySolution* solved = solution(); solved != nullptr) {
-        deliver(*solved, *input, recalculates);
-        return Outcome::Solved;
+        if (owner.refuseSet) {
+            if (const auto refusal = owner.refuseSet(values_); refusal) {
+                received_ &= static_cast<std::uint8_t>(~refusal->takesBack);
+                return turnAway(*refusal);
+            }
+        }
+        return deliver(*solved, *input, recalculates || shape.alwaysEchoes);
     }
     settle();
-    s.delivery.FnLabel = input->label;
+    useLook(shape.givenLook);
+    s.delivery.FnLabel = labelOf(*input);
     return Outcome::Stored;
 }
 
-void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool showsAll) {
-    EngineState& s = calc.s;
-    double result = 0.0;
+bool MultiInput::clearIfDue() {
+    std::uint32_t& due = calc.s.functions.FunctionResetMask;
+    if ((due & shape.resetBit) == 0) {
+        return false;
+    }
+    due &= ~shape.resetBit;
+    clear();
+    return true;
+}
+
+MultiInput::Outcome MultiInput::startAnew(std::string_view label) {
+    clear();
+    setX(0.0, std::string(label));
+    return Outcome::Reset;
+}
+
+MultiInput::Outcome MultiInput::turnAway(const InputRefusal& refusal) {
+    if (!refusal.leavesX) {
+        calc.s.stack.Xreg = ValueCell::zero();
+    }
+    settle();
+    calc.s.delivery.FnLabel = refusal.label;
+    return Outcome::Refused;
+}
+
+std::vector<KeyResult> MultiInput::resultsOf(const KeySolution& solved) const {
+    std::vector<KeyResult> results;
+    if (solved.solve == nullptr) {
+        results = owner.solve(received_, values_);
+    } else {
+        results.push_back({.value = solved.solve(values_), .label = std::string(solved.label)});
+    }
+    for (const KeyResult& result : results) {
+        static_cast<void>(checked(result.value));
+    }
+    return results;
+}
+
+MultiInput::Outcome MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool echoes) {
+    std::vector<KeyResult> results;
     try {
-        result = checked(solved.solve(values_));
+        results = resultsOf(solved);
     } catch (const Failure&) {
         takeBack(last.bit);
         throw;
@@ -60,19 +108,30 @@ void MultiInput::deliver(const KeySolution& solved, const KeyInput& last, bool s
     const std::uint8_t given = received_;
     settle();
     complete();
-    for (const KeyInput& input : shape.inputs) {
-        if (showsAll && input.bit != last.bit && (given & input.bit) != 0) {
-            writeInput(input);
+    if (echoes) {
+        for (const KeyInput& input : shape.inputs) {
+            if ((given & input.bit) != 0) {
+                writeEcho(input);
+            }
         }
+    } else {
+        useLook(shape.givenLook);
+        setX(valueOf(last), labelOf(last));
+        calc.commit.cmdEnter_Click();
     }
-    writeInput(last);
-    s.stack.Xreg = result;
-    s.delivery.FnLabel = solved.label;
-    s.delivery.ValueInXreg = true;
-    if (shape.autoDigits) {
-        calc.display.SaveDisplay(2);
-        calc.commit.AutoDigits();
+    if (results.empty()) {
+        return startAnew(shape.undoneLabel.empty() ? shape.resetLabel : shape.undoneLabel);
     }
+    for (KeyResult& result : results) {
+        const bool pushes = &result != &results.front();
+        if (pushes) {
+            calc.commit.cmdEnter_Click();
+        }
+        setX(result.value, std::move(result.label));
+        useLook(shape.resultLook);
+        calc.s.entry.EntryOpen = pushes;
+    }
+    return Outcome::Solved;
 }
 
 void MultiInput::takeBack(std::uint8_t bits) {
@@ -90,11 +149,36 @@ void MultiInput::complete() {
     last_ = {};
 }
 
-void MultiInput::writeInput(const KeyInput& input) {
-    calc.s.stack.Xreg = valueOf(input);
-    calc.s.delivery.FnLabel = input.label;
-    calc.s.delivery.ValueInXreg = true;
+void MultiInput::writeEcho(const KeyInput& input) {
+    setX(valueOf(input), input.echoLabel.empty() ? labelOf(input) : std::string(input.echoLabel));
+    useLook(input.echoLook.value_or(shape.echoLook));
     calc.commit.cmdEnter_Click();
+}
+
+void MultiInput::setX(double value, std::string label) {
+    calc.s.stack.Xreg = value;
+    calc.s.delivery.FnLabel = std::move(label);
+    calc.s.delivery.ValueInXreg = true;
+}
+
+// For the number in X.
+void MultiInput::useLook(const LineLook& look) {
+    FormatState& format = calc.s.format;
+    calc.display.RestoreDisplay();
+    if (look.digits != LineLook::kUsersDigits) {
+        calc.display.SaveDisplay(look.digits);
+    } else if (look.bySize) {
+        const DisplayMode mode = format.Mode;
+        calc.display.SaveDisplay(format.DisplayDigits);
+        format.Mode = mode;
+    }
+    if (look.bySize) {
+        calc.commit.AutoDigits();
+    }
+}
+
+std::string MultiInput::labelOf(const KeyInput& input) const {
+    return owner.label ? owner.label(input) : std::string(input.label);
 }
 
 // The commit that follows takes the element on top. The input before it goes with it, if it still
@@ -141,8 +225,9 @@ const KeyInput* MultiInput::named(std::uint8_t mask) const {
 }
 
 const KeySolution* MultiInput::solution() const {
-    const auto found = std::find_if(shape.solutions.begin(), shape.solutions.end(),
-                                    [this](const KeySolution& solved) { return solved.bits == received_; });
+    const auto found = std::find_if(shape.solutions.begin(), shape.solutions.end(), [this](const KeySolution& solved) {
+        return solved.bits == (received_ & solved.among);
+    });
     return found == shape.solutions.end() ? nullptr : &*found;
 }
 

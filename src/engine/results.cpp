@@ -53,6 +53,18 @@ void replaceWithPair(Engine& calc, int operands, const Result& first, const Resu
     pushOnX(calc, second);
 }
 
+void chooseDigits(Engine& calc, int digits) {
+    calc.display.SaveDisplay(digits);
+    calc.commit.AutoDigits();
+}
+
+void writeTypedOperand(Engine& calc) {
+    if (calc.s.entry.EntryTouched) {
+        calc.s.delivery.ValueInXreg = true;
+        calc.commit.cmdEnter_Click();
+    }
+}
+
 void refuseModifiers(Engine& calc) {
     calc.s.stack.Xreg = kNoMeaning;
 }

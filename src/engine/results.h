@@ -36,6 +36,12 @@ void pushAtOnce(Engine& calc, const Result& result, bool keepsDigits);
 /// Two results take the place of the topmost `operands` elements; the second ends in X. The first
 /// chooses its digits by its size unless `keepsDigits`.
 void replaceWithPair(Engine& calc, int operands, const Result& first, const Result& second, bool keepsDigits = false);
+/// X chooses its digits by its size, fixed `digits` where it is neither large nor small; the user's
+/// format returns after the commit.
+void chooseDigits(Engine& calc, int digits = 2);
+/// The operand that a key has taken silently goes on the tape as it was typed; nothing where it
+/// stood on the stack already, and so on the tape.
+void writeTypedOperand(Engine& calc);
 /// These modifiers have no meaning for the key.
 void refuseModifiers(Engine& calc);
 /// There is nothing to commit.

@@ -97,7 +97,7 @@ Fractions::Fractions(Engine& calculator)
                          .inputs = kBoardInputs,
                          .solutions = kBoardSolutions,
                          .shiftRecalculates = false,
-                         .autoDigits = false}) {}
+                         .resultLook = kAsUserHasIt}) {}
 
 void Fractions::F2DandBF() {
     const bool onTables = calc.s.modes.ActiveKeypad == Keypad::Tables;

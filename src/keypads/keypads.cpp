@@ -156,6 +156,7 @@ void Keypads::cmdEnter_Click() {
 void Keypads::ClearPartialStates() {
     calc.s.functions.FunctionResetMask = 0x7FFFFFFF;
     keys.conversions.reset();
+    keys.electrical.clearPartialStates();
 }
 
 void Keypads::ResetProgram() {

@@ -8,7 +8,7 @@
 #include "convert/conversion_keys.h"
 #include "dialogs/dialog_hand_over.h"
 #include "dialogs/unit_tables.h"
-#include "electrical/wire_build.h"
+#include "electrical/electrical_keys.h"
 #include "engine/engine.h"
 #include "functions/dates.h"
 #include "functions/everyday.h"
@@ -34,12 +34,11 @@ struct Keys {
     BinaryKeys binary{calc};
     ConversionKeys conversions{calc};
     Dates dates{calc};
+    ElectricalKeys electrical{calc};
     Fractions fractions{calc};
     Quiz quiz{calc};
     Statistics statistics{calc};
     Triangles triangles{calc};
-    /// The insulation of the wire keys, until the program ends.
-    WireBuild wireBuild = WireBuild::Single;
 };
 
 }  // namespace tallyforge
