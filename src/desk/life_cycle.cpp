@@ -4,6 +4,8 @@
 #include "desk/view_keys.h"
 #include "engine/engine.h"
 #include "numbers/number_format.h"
+#include "platform/file_store.h"
+#include "platform/text.h"
 
 #include <algorithm>
 #include <array>
@@ -103,21 +105,48 @@ bool LifeCycle::findSettings() {
     const bool startedBefore = calc.platform.hasOption(kTipsOption) &&
                                std::filesystem::exists(calc.AppDataDir, error) &&
                                !std::filesystem::is_empty(calc.AppDataDir, error);
-    const bool firstStart = !startedBefore && !std::filesystem::exists(settings.path(), error);
+    if (!startedBefore && !std::filesystem::exists(settings.path(), error)) {
+        firstStart();
+        return true;
+    }
+    sweepTemporaries(calc.AppDataDir);
     const auto missing = [&](const Failure& /*failure*/) {
         endWith("Error loading program!",
                 "There is a missing or corrupt file! Remove and reinstall the software, or see the help on support.");
+        startAfresh();
     };
     return goOn(missing, [&] {
-        if (firstStart) {
-            std::filesystem::create_directories(calc.AppDataDir, error);
-            settings.create();
-            calc.platform.writeOption(kTipsOption, true);
-        }
         for (int number = 1; number <= SettingsFile::kRecords; ++number) {
             static_cast<void>(settings.read(number));
         }
     });
+}
+
+void LifeCycle::firstStart() {
+    std::error_code ignored;
+    std::filesystem::create_directories(calc.AppDataDir, ignored);
+    const auto cannotWrite = [&](const Failure& /*failure*/) {
+        settings.keepInMemory();
+        calc.message(BoxKind::Notice, "Settings",
+                     "The settings cannot be written to " + fromUnicode(calc.AppDataDir.string()) +
+                         ".\nThe calculator runs with its defaults, and nothing is kept when it ends.");
+    };
+    if (goOn(cannotWrite, [&] { settings.create(); })) {
+        calc.platform.writeOption(kTipsOption, true);
+    }
+}
+
+// The next start is to work, whatever this file holds; what it holds stays beside it for whoever can
+// read it.
+void LifeCycle::startAfresh() {
+    std::error_code ignored;
+    if (std::filesystem::exists(std::filesystem::symlink_status(settings.path(), ignored))) {
+        std::filesystem::path aside = settings.path();
+        aside += ".bad";
+        std::filesystem::rename(settings.path(), aside, ignored);
+    }
+    const auto stays = [](const Failure& /*failure*/) {};
+    goOn(stays, [&] { settings.create(); });
 }
 
 void LifeCycle::readFirstRecord() {
@@ -226,11 +255,7 @@ void LifeCycle::changeRecord(int number, Change change) {
     const auto report = [&](const Failure& failure) {
         calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
     };
-    goOn(report, [&] {
-        SettingsRecord record = settings.read(number);
-        change(record);
-        settings.write(number, record);
-    });
+    goOn(report, [&] { settings.change(number, change); });
 }
 
 void LifeCycle::Form_Unload() {

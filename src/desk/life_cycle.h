@@ -41,6 +41,8 @@ public:
 private:
     void prepareForm();
     bool findSettings();
+    void firstStart();
+    void startAfresh();
     void readFirstRecord();
     void readOptions();
     void readProgramAndPlace();

@@ -92,11 +92,7 @@ void ViewKeys::writeOption(int bit, bool on) {
         calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
     };
     calc.s.CurrentProc = "cmdView";
-    goOn(report, [&] {
-        SettingsRecord record = settings.read(2);
-        record.setOption(bit, on);
-        settings.write(2, record);
-    });
+    goOn(report, [&] { settings.change(2, [&](SettingsRecord& record) { record.setOption(bit, on); }); });
 }
 
 }  // namespace tallyforge

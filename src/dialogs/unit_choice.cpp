@@ -97,7 +97,7 @@ std::string MapUnitText(std::string_view label) {
     return text;
 }
 
-void askToSaveUnits(Engine& calc, const SettingsFile& settings, std::span<const UnitRange* const> ranges) {
+void askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRange* const> ranges) {
     const MessageBox question{.kind = BoxKind::Plain,
                               .title = "SAVE!",
                               .text = "Would you like to save these units as default?",

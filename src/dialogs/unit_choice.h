@@ -40,6 +40,6 @@ void chooseRow(const UnitRange& range, int row, UnitWords& words);
 
 /// Asks whether the units in force of these ranges are to be the default, and writes them to the
 /// settings on Yes. No other bits of the file change. A file that cannot be written is reported.
-void askToSaveUnits(Engine& calc, const SettingsFile& settings, std::span<const UnitRange* const> ranges);
+void askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRange* const> ranges);
 
 }  // namespace tallyforge

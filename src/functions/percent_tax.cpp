@@ -59,9 +59,8 @@ void changeRate(Engine& calc) {
     }
     SettingsFile settings;
     settings.setPath(calc.AppDataDir / SettingsFile::kName);
-    SettingsRecord record = settings.read(kOptionsRecord);
-    record.setTextB(kRateColumn, kRateWidth, text);
-    settings.write(kOptionsRecord, record);
+    settings.change(kOptionsRecord,
+                    [&](SettingsRecord& record) { record.setTextB(kRateColumn, kRateWidth, text); });
     calc.s.functions.TaxRate = static_cast<float>(wanted);
     calc.s.delivery.FnLabel = kRateLabel;
 }

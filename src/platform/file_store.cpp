@@ -2,10 +2,12 @@
 #include "platform/file_store.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 
 namespace tallyforge {
@@ -48,11 +50,14 @@ FileProblem problemOf(int error) {
 bool writeAll(int file, std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t written = ::write(file, bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR) {
-            return false;
-        }
         if (written > 0) {
             bytes.remove_prefix(static_cast<std::size_t>(written));
+        } else if (written == 0) {
+            // Nothing was taken, and nothing says that it ever will be.
+            errno = ENOSPC;
+            return false;
+        } else if (errno != EINTR) {
+            return false;
         }
     }
     return true;
@@ -65,6 +70,9 @@ void flushFolder(const std::filesystem::path& folder) {
         static_cast<void>(::fsync(open.number()));
     }
 }
+
+/// What a temporary's name ends with, before the six letters that make it unique.
+constexpr std::string_view kTemporary = ".writing-";
 
 /// Where `path` leads to in the end: a file is replaced, the links that name it stay.
 std::filesystem::path behindLinks(std::filesystem::path path) {
@@ -103,7 +111,7 @@ mode_t permissionsFor(const std::filesystem::path& path) {
 void writeWhole(const std::filesystem::path& path, std::string_view bytes) {
     const std::filesystem::path target = behindLinks(path);
     const mode_t permissions = permissionsFor(target);
-    std::string temporary = target.string() + ".XXXXXX";
+    std::string temporary = target.string() + std::string(kTemporary) + "XXXXXX";
     Descriptor file{::mkostemp(temporary.data(), O_CLOEXEC)};
     if (!file.ok()) {
         throw FileError{problemOf(errno)};
@@ -118,6 +126,60 @@ void writeWhole(const std::filesystem::path& path, std::string_view bytes) {
         throw FileError{problem};
     }
     flushFolder(target.has_parent_path() ? target.parent_path() : std::filesystem::path("."));
+}
+
+GrowingFile::GrowingFile(const std::filesystem::path& path) {
+    constexpr mode_t kNewFile = 0666;
+    file_ = ::open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, kNewFile);
+    struct stat opened {};
+    if (file_ < 0 || ::fstat(file_, &opened) != 0) {
+        throw FileError{problemOf(errno)};
+    }
+    if (!S_ISREG(opened.st_mode)) {
+        ::close(file_);
+        throw FileError{FileProblem::NoAccess};
+    }
+}
+
+GrowingFile::~GrowingFile() {
+    ::close(file_);
+}
+
+void GrowingFile::write(std::string_view bytes) {
+    if (!writeAll(file_, bytes)) {
+        throw FileError{problemOf(errno)};
+    }
+}
+
+void sweepTemporaries(const std::filesystem::path& folder) {
+    using namespace std::chrono_literals;
+    constexpr std::size_t kUniqueLetters = 6;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        const auto mark = name.rfind(kTemporary);
+        std::error_code ignored;
+        if (mark != name.npos && name.size() == mark + kTemporary.size() + kUniqueLetters &&
+            entry->is_regular_file(ignored) &&
+            entry->last_write_time(ignored) < std::filesystem::file_time_type::clock::now() - 1min) {
+            std::filesystem::remove(entry->path(), ignored);
+        }
+    }
+}
+
+FileLock::FileLock(const std::filesystem::path& path) {
+    constexpr mode_t kOwn = 0600;
+    file_ = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, kOwn);
+    if (file_ >= 0) {
+        while (::flock(file_, LOCK_EX) != 0 && errno == EINTR) {
+        }
+    }
+}
+
+FileLock::~FileLock() {
+    if (file_ >= 0) {
+        ::close(file_);
+    }
 }
 
 std::string readWhole(const std::filesystem::path& path, std::size_t limit) {

@@ -32,6 +32,39 @@ inline constexpr std::size_t kLargestFile = std::size_t{512} * 1024 * 1024;
 /// failure the old file is whole and the temporary gone. Raises FileError.
 void writeWhole(const std::filesystem::path& path, std::string_view bytes);
 
+/// A file that grows by what is written, each piece handed to the system at once. What is no plain
+/// file is left alone, and a pipe is not waited for.
+class GrowingFile {
+public:
+    /// Opens the file or begins it. Raises FileError.
+    explicit GrowingFile(const std::filesystem::path& path);
+    ~GrowingFile();
+    GrowingFile(const GrowingFile&) = delete;
+    GrowingFile& operator=(const GrowingFile&) = delete;
+    /// Raises FileError.
+    void write(std::string_view bytes);
+
+private:
+    int file_;
+};
+
+/// Removes what writeWhole left in `folder` when its program was killed: temporaries that are older
+/// than a minute. Raises nothing.
+void sweepTemporaries(const std::filesystem::path& folder);
+
+/// Keeps other programs that lock the same file waiting as long as it lives. Where the file cannot
+/// be made, as in a folder that is read-only, nothing is locked. Raises nothing.
+class FileLock {
+public:
+    explicit FileLock(const std::filesystem::path& path);
+    ~FileLock();
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+
+private:
+    int file_ = -1;
+};
+
 /// All bytes of the file. Raises FileError: NotFound, NoAccess, or TooLarge beyond `limit`.
 [[nodiscard]] std::string readWhole(const std::filesystem::path& path, std::size_t limit = kLargestFile);
 

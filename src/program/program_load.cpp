@@ -101,9 +101,7 @@ void Programs::rememberDefault(const std::string& name) {
     constexpr std::size_t kNameWidth = 40;
     const auto onFailure = [&](const Failure& failure) { fail(loadFaultText(failure.code())); };
     goOn(onFailure, [&] {
-        SettingsRecord record = parts.settings.read(3);
-        record.setTextA(1, kNameWidth, name);
-        parts.settings.write(3, record);
+        parts.settings.change(3, [&](SettingsRecord& record) { record.setTextA(1, kNameWidth, name); });
     });
 }
 

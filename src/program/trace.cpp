@@ -2,6 +2,7 @@
 #include "program/trace.h"
 
 #include "numbers/failure.h"
+#include "platform/file_name.h"
 #include "program/program_folders.h"
 
 #include <cstdio>
@@ -36,19 +37,24 @@ void Trace::open() {
     if (!state.TraceRenamed) {
         state.TraceFileName = kDefaultTrace;
     }
-    file_.open(folder / pathOf(state.TraceFileName), std::ios::app | std::ios::binary);
+    file_.emplace(folder / pathOf(bareName(state.TraceFileName)));
 }
 
 void Trace::write(int line, std::string_view word) {
-    if (!file_.is_open()) {
-        open();
-    }
-    if (!std::exchange(state.TraceHeaderDone, true)) {
-        file_ << '\n' << dateAndTime(calc.platform.now()) << '\n';
-    }
-    // Written out at once: a trace is read while its program waits, or after it was cut off.
-    file_ << ' ' << line << ' ' << word << printed(calc.s.stack.Xreg, calc.s.format.DecimalChar) << std::endl;
-    if (!file_) {
+    try {
+        if (!file_) {
+            open();
+        }
+        std::string text;
+        if (!std::exchange(state.TraceHeaderDone, true)) {
+            text = "\n" + dateAndTime(calc.platform.now()) + "\n";
+        }
+        text += " " + std::to_string(line) + " ";
+        text += word;
+        text += printed(calc.s.stack.Xreg, calc.s.format.DecimalChar) + "\n";
+        // Written out at once: a trace is read while its program waits, or after it was cut off.
+        file_->write(text);
+    } catch (const FileError&) {
         throw Failure{FailureNumber::PathAccess};
     }
 }

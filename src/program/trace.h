@@ -4,9 +4,10 @@
 #pragma once
 
 #include "engine/engine.h"
+#include "platform/file_store.h"
 #include "program/program_state.h"
 
-#include <fstream>
+#include <optional>
 #include <string_view>
 
 namespace tallyforge {
@@ -24,7 +25,7 @@ private:
 
     Engine& calc;
     ProgramState& state;
-    std::ofstream file_;
+    std::optional<GrowingFile> file_;
 };
 
 }  // namespace tallyforge

@@ -64,9 +64,9 @@ void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, c
         calc.reportIn(procedure, failure.code(), description(failure.number()));
     };
     goOn(report, [&] {
-        SettingsRecord record = settings.read(1);
-        record.setTextB(tape ? kTapeNameAt : kRegisterNameAt, kNameLength, name);
-        settings.write(1, record);
+        settings.change(1, [&](SettingsRecord& record) {
+            record.setTextB(tape ? kTapeNameAt : kRegisterNameAt, kNameLength, name);
+        });
     });
 }
 

@@ -11,6 +11,7 @@ namespace tallyforge {
 namespace {
 
 constexpr std::int64_t kFixedScale = 10000;
+constexpr const char* kLock = ".lock";
 
 constexpr std::uint32_t bits(std::initializer_list<int> set) {
     std::uint32_t word = 0;
@@ -135,16 +136,27 @@ SettingsRecord SettingsFile::defaults(int number) {
     return record;
 }
 
-void SettingsFile::create() const {
+std::string SettingsFile::fresh() {
     std::string file;
     for (int number = 1; number <= kRecords; ++number) {
         const SettingsRecord record = defaults(number);
         file.append(record.bytes.data(), record.bytes.size());
     }
-    onFile([&] { writeWhole(path_, file); });
+    return file;
+}
+
+void SettingsFile::create() const {
+    onFile([&] { writeWhole(path_, fresh()); });
+}
+
+void SettingsFile::keepInMemory() {
+    memory_ = fresh();
 }
 
 std::string SettingsFile::readFile() const {
+    if (memory_) {
+        return *memory_;
+    }
     std::string file = onFile([&] { return readWhole(path_, kRecordSize * kRecords); });
     if (file.size() != kRecordSize * kRecords) {
         throw Failure{FailureNumber::DamagedFile};
@@ -160,17 +172,23 @@ SettingsRecord SettingsFile::read(int number) const {
     return record;
 }
 
-void SettingsFile::write(int number, const SettingsRecord& record) const {
+void SettingsFile::change(int number, const std::function<void(SettingsRecord&)>& change) {
+    const FileLock alone(path_.parent_path() / kLock);
     std::string file = readFile();
     const auto first = file.begin() + static_cast<std::ptrdiff_t>(kRecordSize) * (number - 1);
+    SettingsRecord record;
+    std::copy_n(first, kRecordSize, record.bytes.begin());
+    change(record);
     std::copy(record.bytes.begin(), record.bytes.end(), first);
-    onFile([&] { writeWhole(path_, file); });
+    if (memory_) {
+        memory_ = std::move(file);
+    } else {
+        onFile([&] { writeWhole(path_, file); });
+    }
 }
 
-void SettingsFile::AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field) const {
-    SettingsRecord record = read(number);
-    record.setNumber(field, record.number(field) + added - taken);
-    write(number, record);
+void SettingsFile::AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field) {
+    change(number, [&](SettingsRecord& record) { record.setNumber(field, record.number(field) + added - taken); });
 }
 
 UnitWords SettingsFile::readUnits() const {
@@ -181,13 +199,13 @@ UnitWords SettingsFile::readUnits() const {
     return words;
 }
 
-void SettingsFile::replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen) const {
+void SettingsFile::replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen) {
     for (const UnitsField& units : kUnitsFields) {
         if (units.word == word) {
-            SettingsRecord record = read(units.record);
-            const auto held = static_cast<std::uint32_t>(record.number(units.field));
-            record.setNumber(units.field, (held & ~mask) | (chosen & mask));
-            write(units.record, record);
+            change(units.record, [&](SettingsRecord& record) {
+                const auto held = static_cast<std::uint32_t>(record.number(units.field));
+                record.setNumber(units.field, (held & ~mask) | (chosen & mask));
+            });
         }
     }
 }

@@ -16,6 +16,8 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -101,15 +103,19 @@ public:
     void create() const;
     /// Record 1 to 3. Raises 53 for a missing file, 54 for one that is not three records, 75.
     [[nodiscard]] SettingsRecord read(int number) const;
-    /// Puts a record back; the others stay. Raises as read() and 61.
-    void write(int number, const SettingsRecord& record) const;
+    /// Reads a record, lets `change` alter it, and writes it back; the others stay, and what another
+    /// calculator writes at the same time stays, too. Raises as read() and 61, and what `change` raises.
+    void change(int number, const std::function<void(SettingsRecord&)>& change);
+    /// For a folder that cannot be written: the defaults hold, and what changes them lasts as long
+    /// as this object.
+    void keepInMemory();
     /// Reads a record, changes one numeric field by `added` - `taken`, writes it.
-    void AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field) const;
+    void AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field);
 
     /// The five words of unit choices. Raises as read().
     [[nodiscard]] UnitWords readUnits() const;
     /// The bits of `mask` in one word become those of `chosen`; all others stay. Raises as write().
-    void replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen) const;
+    void replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen);
     /// The words of a fresh file.
     [[nodiscard]] static UnitWords freshUnits();
 
@@ -118,7 +124,10 @@ public:
 
 private:
     [[nodiscard]] std::string readFile() const;
+    [[nodiscard]] static std::string fresh();
+
     std::filesystem::path path_;
+    std::optional<std::string> memory_;  ///< the file's bytes where there can be no file
 };
 
 }  // namespace tallyforge
