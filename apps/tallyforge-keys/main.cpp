@@ -5,6 +5,10 @@
 #include "electrical/lookup_tables.h"
 #include "keypads/keypad_table.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <charconv>
 #include <chrono>
 #include <csignal>
@@ -52,6 +56,7 @@ public:
     ~PrivateFolder() {
         std::error_code ignored;
         std::filesystem::remove_all(path, ignored);
+        ::close(inUse_);
     }
     PrivateFolder(const PrivateFolder&) = delete;
     PrivateFolder& operator=(const PrivateFolder&) = delete;
@@ -59,12 +64,35 @@ public:
 
 private:
     bool makeIn(const std::filesystem::path& folder) {
-        std::string pattern = (folder / "tallyforge-XXXXXX").string();
+        std::string pattern = (folder / (std::string(kPrefix) + "XXXXXX")).string();
+        sweep(folder);
         if (const char* const made = folder.empty() ? nullptr : mkdtemp(pattern.data()); made != nullptr) {
             path = made;
+            inUse_ = ::open((path / kInUse).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+            static_cast<void>(::flock(inUse_, LOCK_EX));
         }
         return !path.empty();
     }
+    /// Removes the folders of runs that were killed: nobody holds their mark any more.
+    static void sweep(const std::filesystem::path& folder) {
+        std::error_code error;
+        for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+             entry.increment(error)) {
+            if (!entry->path().filename().string().starts_with(kPrefix)) {
+                continue;
+            }
+            const int mark = ::open((entry->path() / kInUse).c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+            std::error_code ignored;
+            if (mark >= 0 && ::flock(mark, LOCK_EX | LOCK_NB) == 0) {
+                std::filesystem::remove_all(entry->path(), ignored);
+            }
+            ::close(mark);
+        }
+    }
+
+    static constexpr const char* kPrefix = "tallyforge-run-";
+    static constexpr const char* kInUse = ".in-use";
+    int inUse_ = -1;
 };
 
 /// The whole of `text` as a number, or nothing.
@@ -229,7 +257,16 @@ int runScript(Call& call) {
         watch(*call.timeout, own ? own->path : std::filesystem::path());
     }
     KeyScript script(call.options, printLine, complain);
-    const ScriptEnd end = script.run(call.script.empty() ? std::cin : file);
+    std::istream& lines = call.script.empty() ? std::cin : file;
+    const ScriptEnd end = script.run(lines);
+    if (lines.bad()) {
+        complain("tallyforge-keys: the script cannot be read to its end");
+        return kWrongCall;
+    }
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain("tallyforge-keys: what the script shows cannot be written");
+        return kWrongCall;
+    }
     return static_cast<int>(end);
 }
 

@@ -4,6 +4,7 @@
 #include "desk/view_keys.h"
 #include "engine/engine.h"
 #include "numbers/number_format.h"
+#include "platform/file_name.h"
 #include "platform/file_store.h"
 #include "platform/text.h"
 
@@ -151,9 +152,14 @@ void LifeCycle::startAfresh() {
 
 void LifeCycle::readFirstRecord() {
     const SettingsRecord record = settings.read(1);
-    if (numberIn(record.textA(29, 2), 0) < kOldestVersion) {
+    const std::string version = record.textA(29, 2);
+    if (numberIn(version, 0) < kOldestVersion) {
         endWith("Version Conflict!",
                 "You must uninstall the previous version \ncompletely, then reinstall the new version.");
+        if (version.find_first_not_of(" 0123456789") != version.npos) {
+            // No version of this program wrote that.
+            startAfresh();
+        }
         return;
     }
     calc.s.files.TapeFileName = withoutTrailingBlanks(record.textB(3, 25));
@@ -176,7 +182,8 @@ void LifeCycle::readOptions() {
 void LifeCycle::readProgramAndPlace() {
     EngineState& s = calc.s;
     const SettingsRecord record = settings.read(3);
-    s.files.DefaultProgram = withoutTrailingBlanks(record.textA(1, 31));
+    // By its name only: a record that names another folder was not written by this program.
+    s.files.DefaultProgram = bareName(withoutTrailingBlanks(record.textA(1, 31)));
     s.window.SavedTop = 0;
     s.window.SavedLeft = 0;
     if (calc.form.mnuPosition.checked) {

@@ -5,6 +5,7 @@
 #include "engine/engine.h"
 #include "numbers/number_format.h"
 #include "records/data_files.h"
+#include "records/file_check.h"
 #include "records/file_failure.h"
 #include "records/settings_file.h"
 
@@ -250,10 +251,17 @@ void MemoryRegisters::mnuSaveMem_Click() {
     if (!path) {
         return;
     }
-    std::string text;
-    for (const RegisterLine& line : lines()) {
-        text += registerLine(line, calc.s.format.DecimalChar) + "\n";
-    }
+    const char decimal = calc.s.format.DecimalChar;
+    auto all = lines();
+    tellLeftOut(calc, "Save Memory Registers", leaveOutUnheld(all, decimal));
+    const auto text = [&] {
+        std::string file;
+        for (const RegisterLine& line : all) {
+            file += registerLine(line, decimal) + "\n";
+        }
+        checkReadsBack(all, file, decimal);
+        return file;
+    };
     if (saveOrReport(calc, "mnuSaveMem_Click", *path, text) && askForDefaultName(calc, *path)) {
         rememberFileName(calc, settings, DefaultName::Registers, *path);
     }

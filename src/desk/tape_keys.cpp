@@ -6,6 +6,7 @@
 #include "engine/engine.h"
 #include "engine/tape_width.h"
 #include "records/data_files.h"
+#include "records/file_check.h"
 #include "records/file_failure.h"
 #include "records/settings_file.h"
 
@@ -15,8 +16,6 @@
 namespace tallyforge {
 
 namespace {
-
-constexpr const char* kUndoFile = "undo.rec";
 
 bool endsInBaseLetter(std::string_view text) {
     return !text.empty() && std::string_view{"bdho"}.find(text.back()) != std::string_view::npos;
@@ -84,8 +83,17 @@ TapeFileContent TapeKeys::present(TapeFileKind kind) const {
 }
 
 void TapeKeys::saveTo(const std::filesystem::path& path) {
-    saveOrReport(calc, "mnuSaveTape_Click", path,
-                 formatTapeFile(present(calc.s.files.UndoKind), calc.s.format.DecimalChar));
+    const char decimal = calc.s.format.DecimalChar;
+    TapeFileContent content = present(calc.s.files.UndoKind);
+    const auto leftOut = leaveOutUnheld(content, decimal);
+    if (calc.s.files.UndoKind == TapeFileKind::SavedByUser) {
+        tellLeftOut(calc, "Save Running Tape", leftOut);
+    }
+    saveOrReport(calc, "mnuSaveTape_Click", path, [&] {
+        std::string text = formatTapeFile(content, decimal);
+        checkReadsBack(content, text, decimal);
+        return text;
+    });
 }
 
 void TapeKeys::mnuSaveTape_Click() {

@@ -60,6 +60,9 @@ bool isTooLarge(std::string_view text) {
     if (std::from_chars(power.data(), power.data() + power.size(), exponent).ec == std::errc::result_out_of_range) {
         return !power.starts_with('-');
     }
+    // Neither side comes near the limits of the sum: a mantissa has no 2^60 characters.
+    constexpr long long kFar = 1LL << 60;
+    exponent = std::clamp(exponent, -kFar, kFar);
     const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
     const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
     return exponent + point - first > 0;

@@ -33,6 +33,8 @@ struct InputBox {
     std::string title;
     std::string prompt;
     std::string preset;
+    /// A file's name is asked for: the answer is UTF-8, as names are on disk, and not eight-bit.
+    bool fileName = false;
 };
 
 /// Sizes of the desktop. Heights in pixels, screen in twips.
@@ -69,7 +71,7 @@ public:
 
     // Boxes and dialogs return when the user has answered.
     virtual Answer messageBox(const MessageBox& box) = 0;
-    /// The text entered; empty where the user cancelled.
+    /// The text entered, eight-bit but for a file's name; empty where the user cancelled.
     virtual std::string inputBox(const InputBox& box) = 0;
     /// Shows `dialog` over the main form until its `open` is false.
     virtual void showDialog(Form& dialog) = 0;

@@ -6,6 +6,8 @@
 #include "records/file_failure.h"
 #include "records/settings_file.h"
 
+#include <algorithm>
+
 namespace tallyforge {
 
 namespace {
@@ -14,27 +16,68 @@ constexpr std::size_t kNameLength = 25;
 constexpr std::size_t kTapeNameAt = 3;
 constexpr std::size_t kRegisterNameAt = 28;
 
-/// A file of the data folder by the name that was entered, without any folder in it.
+/// The first `most` characters of a UTF-8 text.
+std::string firstCharacters(const std::string& text, std::size_t most) {
+    std::size_t characters = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool begins = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
+        characters += begins ? 1 : 0;
+        if (characters > most) {
+            return text.substr(0, i);
+        }
+    }
+    return text;
+}
+
+/// A file of the data folder by the name that was entered (UTF-8), without any folder in it; empty
+/// where that leaves no name.
 std::optional<std::filesystem::path> inDataFolder(const Engine& calc, const std::string& entered) {
-    const std::string name = bareName(entered.substr(0, kNameLength));
-    return name.empty() ? std::nullopt : std::optional{calc.AppDataDir / pathOf(name)};
+    const std::string name = std::filesystem::path(firstCharacters(entered, kNameLength)).filename().string();
+    const bool blank = name.find_first_not_of(' ') == name.npos;
+    const bool control = std::any_of(name.begin(), name.end(), [](char c) {
+        constexpr unsigned char kDelete = 127;
+        return static_cast<unsigned char>(c) < ' ' || static_cast<unsigned char>(c) == kDelete;
+    });
+    const bool noName = blank || control || name == "." || name == "..";
+    return noName ? std::nullopt : std::optional{calc.AppDataDir / name};
+}
+
+/// Asks until the answer is a name, or none was given.
+template <typename Refused>
+std::optional<std::filesystem::path> askForName(Engine& calc, const InputBox& box, const Refused& refused) {
+    for (;;) {
+        const std::string entered = calc.platform.inputBox(box);
+        if (entered.empty()) {
+            return std::nullopt;
+        }
+        const auto path = inDataFolder(calc, entered);
+        const std::string_view complaint = path ? refused(*path) : "That is no name for a file, please enter another one.";
+        if (complaint.empty()) {
+            return path;
+        }
+        calc.message(BoxKind::Stop, box.title, complaint);
+    }
 }
 
 }  // namespace
 
 std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_view title, const std::string& preset) {
-    for (;;) {
-        const std::string entered = calc.platform.inputBox(
-            {.title = std::string(title),
-             .prompt = "Please enter a file name (only 25 characters are used), or Click OK to accept the default.The "
-                       "file is saved in the Oakhollow Application Data Folder. ",
-             .preset = preset});
-        auto path = inDataFolder(calc, entered);
-        if (path && nameOf(*path).starts_with('.')) {
-            calc.message(BoxKind::Stop, title,
-                         "Names that begin with a point are the calculator's own, please choose another one.");
-            continue;
+    const InputBox box{
+        .title = std::string(title),
+        .prompt = "Please enter a file name (only 25 characters are used), or Click OK to accept the default.The "
+                  "file is saved in the Oakhollow Application Data Folder. ",
+        .preset = preset,
+        .fileName = true};
+    const auto refused = [](const std::filesystem::path& path) -> std::string_view {
+        if (path.filename() == kUndoFile) {
+            return "Reset keeps what it clears under this name, please choose another one.";
         }
+        return path.filename().string().starts_with('.')
+                   ? "Names that begin with a point are the calculator's own, please choose another one."
+                   : "";
+    };
+    for (;;) {
+        auto path = askForName(calc, box, refused);
         std::error_code ignored;
         if (!path || !std::filesystem::exists(*path, ignored) ||
             calc.question("File Exists!", nameOf(*path) + " exists, do you want to overwrite it?")) {
@@ -45,14 +88,19 @@ std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_vi
 
 std::optional<std::filesystem::path> askWhatToRetrieve(Engine& calc, std::string_view title,
                                                        const std::string& preset) {
-    return inDataFolder(calc, calc.platform.inputBox({.title = std::string(title),
-                                                      .prompt = "Please enter a file name, or Click OK to accept the "
-                                                                "default. (Do not enter the Folder name).",
-                                                      .preset = preset}));
+    const InputBox box{.title = std::string(title),
+                       .prompt = "Please enter a file name, or Click OK to accept the default. (Do not enter the "
+                                 "Folder name).",
+                       .preset = preset,
+                       .fileName = true};
+    return askForName(calc, box, [](const std::filesystem::path&) { return std::string_view{}; });
 }
 
 bool askForDefaultName(Engine& calc, const std::filesystem::path& path) {
-    return calc.question("Save File Name?", "Do you want to save " + nameOf(path) + " as the default file name?");
+    // The record holds a name a byte a character, so one of another script cannot be kept there.
+    const bool recordHolds = pathOf(nameOf(path)) == path.filename();
+    return recordHolds &&
+           calc.question("Save File Name?", "Do you want to save " + nameOf(path) + " as the default file name?");
 }
 
 void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, const std::filesystem::path& path) {
@@ -70,11 +118,25 @@ void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, c
     });
 }
 
-bool saveOrReport(Engine& calc, std::string_view procedure, const std::filesystem::path& path, std::string_view text) {
+void tellLeftOut(Engine& calc, std::string_view title, const std::vector<std::string>& places) {
+    if (places.empty()) {
+        return;
+    }
+    constexpr std::size_t kNamed = 5;
+    std::string text = "A file cannot hold the text in ";
+    for (std::size_t i = 0; i < places.size() && i < kNamed; ++i) {
+        text += (i == 0 ? "" : ", ") + places[i];
+    }
+    text += places.size() > kNamed ? " and " + std::to_string(places.size() - kNamed) + " more" : "";
+    calc.message(BoxKind::Notice, title, text + ".\nIt is saved as 0, everything else as it is.");
+}
+
+bool saveOrReport(Engine& calc, std::string_view procedure, const std::filesystem::path& path,
+                  const std::function<std::string()>& makeText) {
     const auto report = [&](const Failure& failure) {
         calc.reportIn(procedure, failure.code(), description(failure.number()));
     };
-    return goOn(report, [&] { onFile([&] { writeWhole(path, text); }); });
+    return goOn(report, [&] { onFile([&] { writeWhole(path, makeText()); }); });
 }
 
 std::string retrievalMessage(const Failure& failure) {

@@ -7,14 +7,19 @@
 #include "numbers/failure.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyforge {
 
 class Engine;
 class SettingsFile;
+
+/// Where Reset keeps what it clears; no file of the user's has this name.
+inline constexpr const char* kUndoFile = "undo.rec";
 
 /// Which default file name is meant.
 enum class DefaultName { Tape, Registers };
@@ -31,8 +36,13 @@ enum class DefaultName { Tape, Registers };
 /// Keeps the name as the default, in the state and in the settings record.
 void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, const std::filesystem::path& path);
 
-/// Writes the file; a failure is reported as one of `procedure`. Returns whether it was written.
-bool saveOrReport(Engine& calc, std::string_view procedure, const std::filesystem::path& path, std::string_view text);
+/// Tells the user what a file that is about to be written cannot hold; nothing for an empty list.
+void tellLeftOut(Engine& calc, std::string_view title, const std::vector<std::string>& places);
+
+/// Writes the text that `makeText` gives, which may raise as well; a failure is reported as one of
+/// `procedure`. Returns whether the file was written.
+bool saveOrReport(Engine& calc, std::string_view procedure, const std::filesystem::path& path,
+                  const std::function<std::string()>& makeText);
 
 /// "File not found!" or "File error #" and the number.
 [[nodiscard]] std::string retrievalMessage(const Failure& failure);

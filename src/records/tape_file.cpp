@@ -204,7 +204,8 @@ std::string formatTapeFile(const TapeFileContent& content, char decimal) {
     }
     putLine(out, "");
     for (const std::string& line : content.lines) {
-        putLine(out, line);
+        // A line that reads as the marker would end the section; with a blank it looks the same.
+        putLine(out, line == kMarker ? std::string(kMarker) + " " : line);
     }
     putLine(out, kMarker);
     putLine(out, " " + std::to_string(content.fillers) + " ");

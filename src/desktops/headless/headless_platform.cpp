@@ -45,9 +45,11 @@ std::uint64_t seedFor(const HeadlessOptions& options) {
 
 }  // namespace
 
-std::string inQuotes(std::string_view eightBitText, Face face) {
+namespace {
+
+std::string quotedText(std::string_view unicode) {
     std::string out = "\"";
-    for (const char character : toUnicode(eightBitText, face)) {
+    for (const char character : unicode) {
         if (character == '\n') {
             out += "\\n";
         } else if (character == '"' || character == '\\') {
@@ -58,6 +60,12 @@ std::string inQuotes(std::string_view eightBitText, Face face) {
         }
     }
     return out + '"';
+}
+
+}  // namespace
+
+std::string inQuotes(std::string_view eightBitText, Face face) {
+    return quotedText(toUnicode(eightBitText, face));
 }
 
 HeadlessPlatform::HeadlessPlatform(HeadlessOptions options, Print printLine)
@@ -86,8 +94,8 @@ std::string HeadlessPlatform::inputBox(const InputBox& box) {
         texts_.pop_front();
     }
     printLine_("input " + inQuotes(box.title) + " " + inQuotes(box.prompt) + " " + inQuotes(box.preset) + " -> " +
-               inQuotes(text));
-    return text;
+               quotedText(text));
+    return box.fileName ? text : fromUnicode(text);
 }
 
 void HeadlessPlatform::showDialog(Form& dialog) {

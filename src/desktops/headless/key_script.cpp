@@ -347,7 +347,7 @@ void KeyScript::answer(std::string_view rest) {
         {{"yes", Answer::Yes}, {"no", Answer::No}, {"ok", Answer::Ok}, {"cancel", Answer::Cancel}}};
     const std::string_view word = takeWord(rest);
     if (word == "text") {
-        platform_->queueText(fromUnicode(rest.substr(std::min<std::size_t>(1, rest.size()))));
+        platform_->queueText(std::string(rest.substr(std::min<std::size_t>(1, rest.size()))));
         return;
     }
     for (const auto& [name, value] : kAnswers) {

@@ -11,6 +11,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDialog>
+#include <QDir>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QInputDialog>
@@ -122,7 +123,8 @@ std::string QtPlatform::inputBox(const InputBox& box) {
         prompt->setMinimumWidth(kReadableWidth);
     }
     const bool accepted = input.exec() == QDialog::Accepted;
-    return accepted ? fromUnicode(input.textValue().toStdString()) : std::string{};
+    const std::string entered = accepted ? input.textValue().toStdString() : std::string{};
+    return box.fileName ? entered : fromUnicode(entered);
 }
 
 void QtPlatform::showDialog(Form& dialog) {
@@ -166,7 +168,12 @@ char QtPlatform::decimalCharacter() const {
 
 std::filesystem::path QtPlatform::dataFolder() const {
     const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return std::filesystem::path(base.toStdString()) / "Oakhollow" / "Tallyforge";
+    std::filesystem::path folder = base.toStdString();
+    if (folder.is_relative()) {
+        // A relative XDG_DATA_HOME is to be ignored.
+        folder = std::filesystem::path(QDir::homePath().toStdString()) / ".local" / "share";
+    }
+    return folder / "Oakhollow" / "Tallyforge";
 }
 
 std::filesystem::path QtPlatform::installedFolder() const {

@@ -8,11 +8,14 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
 #include <string>
+#include <thread>
 
 namespace tallyforge {
 namespace {
@@ -177,6 +180,60 @@ TEST_F(FileStore, LinksInACircleEnd) {
     std::filesystem::create_symlink("a", disk.path / "b");
     EXPECT_EQ(problemOfWriting("a", "new"), FileProblem::NoAccess);
     EXPECT_EQ(entries(), 2);
+}
+
+TEST_F(FileStore, AGrowingFileKeepsWhatItHas) {
+    put("trace.txt", "old\n");
+    {
+        GrowingFile file(disk.path / "trace.txt");
+        file.write("one\n");
+        EXPECT_EQ(read("trace.txt"), "old\none\n") << "each piece is there at once";
+        file.write("two\n");
+    }
+    EXPECT_EQ(read("trace.txt"), "old\none\ntwo\n");
+    GrowingFile fresh(disk.path / "new.txt");
+    fresh.write("x");
+    EXPECT_EQ(read("new.txt"), "x");
+}
+
+TEST_F(FileStore, NothingGrowsInThePlaceOfAPipeAFolderOrADevice) {
+    ASSERT_EQ(mkfifo((disk.path / "pipe").c_str(), 0600), 0);
+    std::filesystem::create_directory(disk.path / "folder");
+    std::filesystem::create_symlink("circle", disk.path / "circle");
+    for (const std::filesystem::path& place :
+         {disk.path / "pipe", disk.path / "folder", disk.path / "circle", std::filesystem::path("/dev/null")}) {
+        EXPECT_THROW(GrowingFile{place}, FileError) << place;
+    }
+}
+
+TEST_F(FileStore, WhatAKilledProgramLeftIsSweptAndNothingElse) {
+    for (const char* name : {"a.txt.writing-Ab12Cd", "a.txt", "a.txt.writing-", "mine.writing-Ab12Cdx"}) {
+        put(name, "x");
+        std::filesystem::last_write_time(disk.path / name,
+                                         std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+    }
+    put("b.txt.writing-Ab12Cd", "another calculator writes this now");
+    sweepTemporaries(disk.path);
+    EXPECT_FALSE(std::filesystem::exists(disk.path / "a.txt.writing-Ab12Cd"));
+    for (const char* name : {"a.txt", "a.txt.writing-", "mine.writing-Ab12Cdx", "b.txt.writing-Ab12Cd"}) {
+        EXPECT_TRUE(std::filesystem::exists(disk.path / name)) << name;
+    }
+    sweepTemporaries(disk.path / "no such folder");
+}
+
+TEST_F(FileStore, ALockKeepsTheOtherWaiting) {
+    std::optional<FileLock> first{std::in_place, disk.path / "lock"};
+    std::atomic<bool> second = false;
+    std::thread other([&] {
+        const FileLock own(disk.path / "lock");
+        second = true;
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    EXPECT_FALSE(second);
+    first.reset();
+    other.join();
+    EXPECT_TRUE(second);
+    const FileLock nowhere(disk.path / "no such folder" / "lock");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <thread>
 #include <vector>
 
 namespace tallyforge {
@@ -71,6 +72,31 @@ TEST_F(AdjustRecord, TouchesNothingButItsField) {
     wanted.at(1250 + 116) = 2;
     wanted.at(1250 + 117) = 1;
     EXPECT_EQ(bytes(), wanted);
+}
+
+TEST_F(AdjustRecord, CalculatorsThatChangeSettingsAtTheSameTimeLoseNone) {
+    constexpr int kChanges = 100;
+    const auto changeBits = [&](int first) {
+        SettingsFile own;
+        own.setPath(file.path());
+        for (int i = 0; i < kChanges; ++i) {
+            own.AdjustRecord(1, 0, first, RecordField::LongA);
+        }
+    };
+    std::thread other([&] { changeBits(1); });
+    changeBits(2);
+    other.join();
+    EXPECT_EQ(file.read(1).RecLongA(), kChanges);
+    EXPECT_EQ(file.read(2).RecLongA(), kChanges);
+}
+
+TEST_F(AdjustRecord, InMemoryTheDefaultsHoldAndChangesLast) {
+    const auto before = bytes();
+    file.keepInMemory();
+    EXPECT_EQ(file.read(2).textB(48, 5), "7.75 ");
+    file.change(2, [](SettingsRecord& record) { record.setTextB(48, 5, "8.25"); });
+    EXPECT_EQ(file.read(2).textB(48, 5), "8.25 ");
+    EXPECT_TRUE(bytes() == before);
 }
 
 }  // namespace

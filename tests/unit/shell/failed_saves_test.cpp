@@ -176,7 +176,7 @@ TEST_F(FailedSave, ADefaultNameThatCannotBeKeptIsTold) {
     EXPECT_EQ(s().files.TapeFileName, "tape.txt");
 }
 
-TEST_F(FailedSave, AFirstStartWithoutRoomEndsWithAMessageAndLeavesNothingBehind) {
+TEST_F(FailedSave, AFirstStartWithoutRoomSaysSoOnceAndRuns) {
     std::filesystem::remove_all(platform.folder);
     platform.options.clear();
     platform.boxes.clear();
@@ -185,9 +185,13 @@ TEST_F(FailedSave, AFirstStartWithoutRoomEndsWithAMessageAndLeavesNothingBehind)
         start();
     }
     ASSERT_EQ(platform.boxes.size(), 1U);
-    EXPECT_EQ(platform.boxes[0].title, "Error loading program!");
-    EXPECT_FALSE(form().open);
+    EXPECT_TRUE(platform.boxes[0].text.starts_with("The settings cannot be written to "));
+    EXPECT_TRUE(form().open);
     EXPECT_TRUE(std::filesystem::is_empty(platform.folder));
+    enter("12");
+    choose(form().mnuPosition);
+    EXPECT_TRUE(form().mnuPosition.checked);
+    EXPECT_EQ(platform.boxes.size(), 1U) << "what changes a setting is not told again";
     platform.boxes.clear();
     start();
     EXPECT_TRUE(form().open) << "the next start is the first one again";

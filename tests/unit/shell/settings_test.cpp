@@ -193,8 +193,16 @@ TEST_F(Settings, AFileBehindALinkStaysThereWithItsPermissions) {
     EXPECT_TRUE(form().mnuAOT.checked);
 }
 
-TEST_F(Settings, AMissingShortOrNoisyFileIsToldAndHarmsNothing) {
+TEST_F(Settings, AMissingShortOrNoisyFileIsToldAndSetAsideAndTheNextStartWorks) {
     const std::string whole = bytes();
+    const auto expectNextStartWorks = [&] {
+        platform.boxes.clear();
+        start();
+        EXPECT_TRUE(platform.boxes.empty());
+        EXPECT_TRUE(form().open);
+        EXPECT_EQ(bytes().size(), 3750U);
+    };
+    const std::string aside = std::string(SettingsFile::kName) + ".bad";
     std::string noise(3750, 'x');
     for (const std::string& damaged : {std::string{}, whole.substr(0, 3749), whole + "x"}) {
         writeFile(SettingsFile::kName, damaged);
@@ -206,12 +214,15 @@ TEST_F(Settings, AMissingShortOrNoisyFileIsToldAndHarmsNothing) {
                   "There is a missing or corrupt file! Remove and reinstall the software, or");
         EXPECT_EQ(platform.boxes[0].kind, BoxKind::Stop);
         EXPECT_FALSE(form().open);
-        EXPECT_EQ(bytes(), damaged);
+        EXPECT_TRUE(file(aside) == damaged);
+        expectNextStartWorks();
     }
     writeFile(SettingsFile::kName, noise);
     platform.boxes.clear();
     start();
     EXPECT_EQ(platform.boxes.at(0).title, "Version Conflict!");
+    EXPECT_TRUE(file(aside) == noise);
+    expectNextStartWorks();
     std::filesystem::remove(platform.folder / SettingsFile::kName);
     ASSERT_TRUE(platform.hasOption("Show Tips at Startup")) << "a sign of the first start";
     writeFile("tape.txt", "a tape of the user's");
