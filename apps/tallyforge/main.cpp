@@ -14,6 +14,7 @@
 #include <QPalette>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <csignal>
 
 #include <fstream>
@@ -77,16 +78,24 @@ int render(const QString& picture, const QString& script, double scale) {
 int showWindow() {
     qt::QtPlatform platform;
     Calculator calculator(platform);
-    calculator.start();
+    calculator.load();
     MainForm& form = calculator.engine().form;
     if (!form.open) {
         return 1;
+    }
+    if ((QGuiApplication::queryKeyboardModifiers() & Qt::ShiftModifier) != 0) {
+        // The way round a default program that does not end.
+        calculator.engine().s.files.AutoLoadProgram = false;
     }
     qt::MainWindow window(form, calculator.engine().s.format.DecimalChar);
     platform.setWindow(&window);
     platform.showChanges = [&window] { window.view().sync(); };
     window.present();
     window.show();
+    QTimer::singleShot(0, &window, [&] {
+        calculator.activate();
+        window.view().sync();
+    });
     return QApplication::exec();
 }
 

@@ -234,10 +234,13 @@ void MemoryRegisters::take(const std::array<RegisterLine, kBankKeys>& all) {
         const auto number = static_cast<std::size_t>(registerOfKey(key));
         Control& field = calc.form.txtReg_m.at(number - 1);
         calc.s.memory.RegisterNames.at(static_cast<std::size_t>(key)) = line.name;
-        calc.s.memory.Registers.at(number) = line.value;
-        field.text = line.value.isEmptyText() ? "" : calc.patternText(line.value, kFieldPattern);
+        // A register of 0 comes back empty, from a file and from memory alike.
+        const auto held = line.value.tryNumber(calc.s.format.DecimalChar);
+        const bool empty = line.value.isEmptyText() || (!line.value.isTagged() && held == 0.0);
+        calc.s.memory.Registers.at(number) = empty ? ValueCell{""} : line.value;
+        field.text = empty ? "" : calc.patternText(line.value, kFieldPattern);
         field.tip = line.tip;
-        calc.s.memory.RegistersUsed = calc.s.memory.RegistersUsed || !line.value.isEmptyText();
+        calc.s.memory.RegistersUsed = calc.s.memory.RegistersUsed || !empty;
     }
     if (calc.s.modes.MemoryArrayMode) {
         calc.keypads().RepaintKeypad();

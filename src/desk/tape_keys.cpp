@@ -21,6 +21,12 @@ bool endsInBaseLetter(std::string_view text) {
     return !text.empty() && std::string_view{"bdho"}.find(text.back()) != std::string_view::npos;
 }
 
+std::optional<std::filesystem::file_time_type> changeOf(const std::filesystem::path& path) {
+    std::error_code error;
+    const auto time = std::filesystem::last_write_time(path, error);
+    return error ? std::nullopt : std::optional{time};
+}
+
 }  // namespace
 
 void TapeKeys::lstDisplayReg_DblClick() {
@@ -85,6 +91,9 @@ TapeFileContent TapeKeys::present(TapeFileKind kind) const {
 void TapeKeys::saveTo(const std::filesystem::path& path) {
     const char decimal = calc.s.format.DecimalChar;
     TapeFileContent content = present(calc.s.files.UndoKind);
+    if (calc.s.files.UndoKind != TapeFileKind::SavedByUser) {
+        keepForUndo(content);
+    }
     const auto leftOut = leaveOutUnheld(content, decimal);
     if (calc.s.files.UndoKind == TapeFileKind::SavedByUser) {
         tellLeftOut(calc, "Save Running Tape", leftOut);
@@ -114,6 +123,33 @@ void TapeKeys::mnuSaveTape_Click() {
     s.files.UndoKind = TapeFileKind::None;
 }
 
+// What Reset clears is kept in memory, too, so that no full disk and no file of another calculator
+// comes between; the file serves the next start. A tape too long to be kept twice lies in the file.
+void TapeKeys::keepForUndo(const TapeFileContent& content) {
+    constexpr std::size_t kMostLines = 1'000'000;
+    cleared_.reset();
+    if (content.lines.size() <= kMostLines) {
+        cleared_ = content;
+    }
+    hasReset_ = true;
+}
+
+void TapeKeys::noteUndoFile() {
+    undoFileAtStart_ = changeOf(calc.AppDataDir / kUndoFile);
+}
+
+void TapeKeys::undo() {
+    const std::filesystem::path path = calc.AppDataDir / kUndoFile;
+    if (cleared_) {
+        restore(*cleared_);
+    } else if (!hasReset_ && changeOf(path) != undoFileAtStart_) {
+        // Another calculator has reset since this one was started; that is its undo.
+        throw Failure{FailureNumber::FileNotFound};
+    } else {
+        retrieve(path);
+    }
+}
+
 std::optional<std::filesystem::path> TapeKeys::askForTape() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
@@ -126,11 +162,13 @@ std::optional<std::filesystem::path> TapeKeys::askForTape() {
 void TapeKeys::mnuTape_Click() {
     EngineState& s = calc.s;
     s.CurrentProc = "mnuTape";
-    const auto path =
-        s.files.UndoKind == TapeFileKind::Undo ? std::optional{calc.AppDataDir / kUndoFile} : askForTape();
+    const bool undoes = s.files.UndoKind == TapeFileKind::Undo;
+    const auto path = undoes ? std::nullopt : askForTape();
     s.CurrentProc = "mnuTape";
-    if (path) {
-        const auto report = [&](const Failure& failure) { calc.errorBox(BoxKind::Notice, retrievalMessage(failure)); };
+    const auto report = [&](const Failure& failure) { calc.errorBox(BoxKind::Notice, retrievalMessage(failure)); };
+    if (undoes) {
+        goOn(report, [&] { undo(); });
+    } else if (path) {
         goOn(report, [&] { retrieve(*path); });
     }
     s.files.UndoKind = TapeFileKind::None;
@@ -140,7 +178,10 @@ void TapeKeys::mnuTape_Click() {
 
 void TapeKeys::retrieve(const std::filesystem::path& path) {
     const std::string text = onFile([&] { return readWhole(path); });
-    const TapeFileContent content = parseTapeFile(text, calc.s.format.DecimalChar);
+    restore(parseTapeFile(text, calc.s.format.DecimalChar));
+}
+
+void TapeKeys::restore(const TapeFileContent& content) {
     if (content.hasStack()) {
         reset.clearStackAndTape();
     }
@@ -158,7 +199,9 @@ void TapeKeys::retrieve(const std::filesystem::path& path) {
 
 void TapeKeys::take(const TapeFileContent& content) {
     EngineState& s = calc.s;
-    const auto orZero = [](const ValueCell& value) { return value.isEmptyText() ? ValueCell::zero() : value; };
+    const auto orZero = [](const ValueCell& value) {
+        return value.isEmpty() || value.isEmptyText() ? ValueCell::zero() : value;
+    };
     s.stack.LastX = orZero(content.LastX);
     s.stack.Yreg = orZero(content.Yreg);
     s.stack.Xreg = orZero(content.Xreg);

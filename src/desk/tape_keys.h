@@ -32,9 +32,16 @@ public:
     /// or not at all.
     void mnuTape_Click();
 
+    /// Takes the "undo.rec" that there is at the start for one of an earlier run; a later one that
+    /// this calculator has not written is another's. Called once the data folder is known.
+    void noteUndoFile();
+
 private:
     void saveTo(const std::filesystem::path& path);
     void retrieve(const std::filesystem::path& path);
+    void restore(const TapeFileContent& content);
+    void keepForUndo(const TapeFileContent& content);
+    void undo();
     [[nodiscard]] TapeFileContent present(TapeFileKind kind) const;
     void take(const TapeFileContent& content);
     [[nodiscard]] std::optional<std::filesystem::path> askForTape();
@@ -43,6 +50,9 @@ private:
     SettingsFile& settings;
     MemoryRegisters& registers;
     MachineReset& reset;
+    std::optional<TapeFileContent> cleared_;  ///< by the last Reset of this run
+    bool hasReset_ = false;
+    std::optional<std::filesystem::file_time_type> undoFileAtStart_;
 };
 
 }  // namespace tallyforge

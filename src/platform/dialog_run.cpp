@@ -29,6 +29,9 @@ void runDialog(Platform& platform, Form& dialog, const std::function<void()>& un
     if (dialog.helpTopic != 0 && !dialog.help) {
         dialog.help = [&platform, topic = dialog.helpTopic] { platform.helpTopic(topic); };
     }
+    if (!dialog.failed) {
+        dialog.failed = platform.handlerFailed;
+    }
     runHandler(dialog.load);
     runHandler(dialog.placing);
     keepOnScreen(dialog.place, platform.metrics());

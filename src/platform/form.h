@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -158,6 +159,9 @@ public:
     /// Gives a dialog its left and top, after `load`; without one `place` stands. A dialog is then
     /// moved as far as it must be to lie wholly on the screen.
     std::function<void()> placing;
+    /// A handler raised what it should have caught, or memory ran out in it; without one it goes on
+    /// to whoever called form_input. A dialog gets the platform's when it opens.
+    std::function<void(const std::exception&)> failed;
     /// F1; a dialog with a `helpTopic` gets one when it opens.
     std::function<void()> help;
     /// Sees each key before the control that has the keyboard; returns whether it keeps it.

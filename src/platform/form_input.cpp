@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <exception>
 #include <string>
 #include <string_view>
 
@@ -178,6 +179,20 @@ void typeInto(const Form& form, Control& field, KeyStroke stroke, int character)
     }
 }
 
+/// The one place that handlers are called from: whatever one raises ends it, and not the program.
+template <typename Act>
+void guarded(Form& form, const Act& act) {
+    try {
+        act();
+    } catch (const std::exception& failure) {
+        if (!form.failed) {
+            throw;
+        }
+        const auto tell = form.failed;
+        tell(failure);
+    }
+}
+
 void strike(Form& form, KeyStroke stroke) {
     if (form.preview && form.preview({.keyCode = stroke.keyCode, .shift = stroke.shift})) {
         return;
@@ -208,20 +223,24 @@ bool click(Form& form, Control& control, std::uint8_t shift) {
     if (!takesInput(control)) {
         return false;
     }
-    focusClicked(form, control);
-    settleFocus(form);
-    if (takesInput(control)) {
-        // What the coming and going of the focus has set off may have disabled it.
-        actOn(form, control);
-    }
-    runHandler(control.mouseUp, MouseButton::Left, shift);
-    settleFocus(form);
+    guarded(form, [&] {
+        focusClicked(form, control);
+        settleFocus(form);
+        if (takesInput(control)) {
+            // What the coming and going of the focus has set off may have disabled it.
+            actOn(form, control);
+        }
+        runHandler(control.mouseUp, MouseButton::Left, shift);
+        settleFocus(form);
+    });
     return true;
 }
 
 void pressKey(Form& form, KeyStroke stroke) {
-    strike(form, stroke);
-    settleFocus(form);
+    guarded(form, [&] {
+        strike(form, stroke);
+        settleFocus(form);
+    });
 }
 
 void pasteText(Form& form, std::string_view text) {
@@ -234,16 +253,20 @@ void pasteText(Form& form, std::string_view text) {
 }
 
 void releaseKey(Form& form, KeyStroke stroke) {
-    if (Control* target = keyboardTarget(form); target != nullptr) {
-        runHandler(target->keyUp, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
-    }
+    guarded(form, [&] {
+        if (Control* target = keyboardTarget(form); target != nullptr) {
+            runHandler(target->keyUp, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
+        }
+    });
 }
 
 void holdModifiers(Form& form, std::uint8_t shift) {
-    if (Control* target = keyboardTarget(form); target != nullptr) {
-        const int keyCode = (shift & kAlt) != 0 ? kKeyAlt : ((shift & kCtrl) != 0 ? kKeyCtrl : kKeyShift);
-        runHandler(target->keyDown, KeyEvent{.keyCode = keyCode, .shift = shift});
-    }
+    guarded(form, [&] {
+        if (Control* target = keyboardTarget(form); target != nullptr) {
+            const int keyCode = (shift & kAlt) != 0 ? kKeyAlt : ((shift & kCtrl) != 0 ? kKeyCtrl : kKeyShift);
+            runHandler(target->keyDown, KeyEvent{.keyCode = keyCode, .shift = shift});
+        }
+    });
 }
 
 void releaseModifiers(Form& form) {
@@ -254,9 +277,11 @@ bool rightClick(Form& form, Control& control, std::uint8_t shift) {
     if (!takesInput(control)) {
         return false;
     }
-    runHandler(control.mouseDown, MouseButton::Right, shift);
-    runHandler(control.mouseUp, MouseButton::Right, shift);
-    settleFocus(form);
+    guarded(form, [&] {
+        runHandler(control.mouseDown, MouseButton::Right, shift);
+        runHandler(control.mouseUp, MouseButton::Right, shift);
+        settleFocus(form);
+    });
     return true;
 }
 
@@ -264,10 +289,12 @@ bool clickRow(Form& form, Control& list, std::size_t row) {
     if (!takesInput(list) || list.rows == nullptr || row >= list.rows->count()) {
         return false;
     }
-    focusClicked(form, list);
-    settleFocus(form);
-    chooseRow(list, row);
-    settleFocus(form);
+    guarded(form, [&] {
+        focusClicked(form, list);
+        settleFocus(form);
+        chooseRow(list, row);
+        settleFocus(form);
+    });
     return true;
 }
 
@@ -275,23 +302,27 @@ bool doubleClickRow(Form& form, Control& list, std::size_t row) {
     if (!takesInput(list) || list.rows == nullptr || row >= list.rows->count()) {
         return false;
     }
-    focusClicked(form, list);
-    settleFocus(form);
-    list.rows->select(row);
-    runHandler(list.doubleClick);
-    settleFocus(form);
+    guarded(form, [&] {
+        focusClicked(form, list);
+        settleFocus(form);
+        list.rows->select(row);
+        runHandler(list.doubleClick);
+        settleFocus(form);
+    });
     return true;
 }
 
 bool closeForm(Form& form) {
-    if (form.cancelKey != nullptr && takesInput(*form.cancelKey)) {
-        actOn(form, *form.cancelKey);
-        settleFocus(form);
-    } else if (form.close) {
-        runHandler(form.close);
-    } else {
-        form.open = false;
-    }
+    guarded(form, [&] {
+        if (form.cancelKey != nullptr && takesInput(*form.cancelKey)) {
+            actOn(form, *form.cancelKey);
+            settleFocus(form);
+        } else if (form.close) {
+            runHandler(form.close);
+        } else {
+            form.open = false;
+        }
+    });
     return !form.open;
 }
 

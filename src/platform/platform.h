@@ -107,6 +107,9 @@ public:
     /// A program runs and holds the form: lets the desktop see that the window is alive, and drops
     /// what is typed and clicked meanwhile. Returns what the user wants of the run.
     virtual Interruption breathe() { return Interruption::None; }
+
+    /// Tells the user that a handler of a dialog failed; set by the calculator.
+    std::function<void(const std::exception&)> handlerFailed;
 };
 
 }  // namespace tallyforge

@@ -4,6 +4,7 @@
 #include "dialogs/unit_choice.h"
 #include "shell/help_topics.h"
 
+#include <new>
 #include <utility>
 
 namespace tallyforge {
@@ -26,6 +27,8 @@ Calculator::Calculator(Platform& platform)
                  .registers = registers_,
                  .resetKey = resetKey_,
                  .settings = settings_}) {
+    engine_.form.failed = [this](const std::exception& failure) { tellFailure(failure); };
+    platform.handlerFailed = engine_.form.failed;
     hangEntry();
     hangHelpTopics(engine_);
     hangKeys();
@@ -142,11 +145,34 @@ void Calculator::hangPrograms() {
     engine_.form.mnuProgram.click = [this] { programs_.mnuProgram_Click(); };
 }
 
-void Calculator::start() {
+void Calculator::load() {
     engine_.form.load();
+    tapeKeys_.noteUndoFile();
+}
+
+void Calculator::activate() {
     if (engine_.form.open) {
-        engine_.form.activate();
+        try {
+            engine_.form.activate();
+        } catch (const std::exception& failure) {
+            tellFailure(failure);
+        }
     }
+}
+
+void Calculator::start() {
+    load();
+    activate();
+}
+
+// What a handler let through: the key ends, and what it has not touched stands.
+void Calculator::tellFailure(const std::exception& failure) {
+    EngineState& s = engine_.s;
+    s.delivery.ValueInXreg = false;
+    s.delivery.SkipCommitTail = false;
+    s.delivery.KeepEntryText = false;
+    const bool memory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr;
+    engine_.errorBox(BoxKind::Stop, memory ? "Error: there is not enough memory for that!" : "Error");
 }
 
 std::optional<std::size_t> Calculator::rowOf(const Control& list, int number) const {

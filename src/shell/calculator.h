@@ -19,6 +19,7 @@
 #include "shell/clipboard.h"
 
 #include <cstddef>
+#include <exception>
 #include <optional>
 
 namespace tallyforge {
@@ -31,6 +32,10 @@ public:
 
     /// Loads the form and activates it. The form is closed again where the start fails.
     void start();
+    /// The two halves of start(), for a desktop that shows its window in between: the default
+    /// program runs when the form is activated, and its user must see it and be able to end it.
+    void load();
+    void activate();
 
     [[nodiscard]] Engine& engine() { return engine_; }
     [[nodiscard]] const Engine& engine() const { return engine_; }
@@ -41,6 +46,7 @@ public:
     [[nodiscard]] std::optional<std::size_t> rowOf(const Control& list, int number) const;
 
 private:
+    void tellFailure(const std::exception& failure);
     void hangEntry();
     void hangKeys();
     void hangOptions();

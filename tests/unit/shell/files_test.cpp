@@ -115,7 +115,7 @@ TEST_F(Files, ANameIsCutAndLeadsNowhereElse) {
     EXPECT_FALSE(file("a-name-longer-than-").empty()) << "25 characters, the last part of them";
     platform.inputs.clear();
     save("..");
-    EXPECT_EQ(platform.inputs.size(), 1U);
+    EXPECT_EQ(platform.inputs.size(), 2U) << "asked again, and called off";
 }
 
 TEST_F(Files, AMissingFileIsToldAndNothingChanges) {
@@ -591,6 +591,100 @@ TEST_F(Files, ANameOfTwentyFiveCharactersIsTakenWholeAndALongerOneCut) {
     start();
     EXPECT_EQ(s().files.MemoryFileName, "registers-25-letters.text");
     EXPECT_EQ(s().files.TapeFileName, whole);
+}
+
+TEST_F(Files, WhatAFileCannotHoldIsToldAndTheRestSaved) {
+    enter("12.5");
+    const auto paste = [this](const char* text, const char* number) {
+        platform.clipboard = text;
+        choose(form().mnuPaste);
+        type(number);
+        clickWith(kShift, form().cmdSTO);
+    };
+    paste("1,234.56", "5");
+    const std::string many(300, '7');
+    paste(many.c_str(), "6");
+    type("8");
+    type("9");
+    clickWith(kShift, form().cmdSTO);
+    platform.boxes.clear();
+    save("t.txt");
+    ASSERT_FALSE(platform.boxes.empty());
+    EXPECT_NE(platform.boxes[0].text.find("A file cannot hold the text in Register"), std::string::npos)
+        << platform.boxes[0].text;
+    EXPECT_NE(platform.boxes[0].text.find("Register 5"), std::string::npos);
+    EXPECT_NE(platform.boxes[0].text.find("Register 6"), std::string::npos);
+    EXPECT_EQ(reg(5), "1,234.56") << "the calculator keeps it";
+    const auto stack = stackAndTape();
+    clickWith(kAlt, form().cmdReset);
+    retrieve("t.txt");
+    EXPECT_EQ(stackAndTape().front(), stack.front());
+    EXPECT_EQ(reg(5), "");
+}
+
+TEST_F(Files, UndoBringsBackWhatNoFileHolds) {
+    enter("12.5");
+    platform.clipboard = "1,234.56";
+    choose(form().mnuPaste);
+    type("5");
+    clickWith(kShift, form().cmdSTO);
+    platform.clipboard = "1\n2";
+    choose(form().mnuPaste);
+    type("6");
+    clickWith(kShift, form().cmdSTO);
+    const auto before = registers();
+    platform.boxes.clear();
+    clickWith(kAlt, form().cmdReset);
+    EXPECT_EQ(reg(5), "0");
+    EXPECT_TRUE(platform.boxes.empty()) << "nothing is lost, so there is nothing to tell";
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    EXPECT_EQ(registers(), before);
+}
+
+TEST_F(Files, AnotherCalculatorsUndoFileIsNotTakenForOnesOwn) {
+    enter("12.5");
+    clickWith(0, form().cmdReset);
+    enter("7");
+    const std::string others = file("undo.rec");
+    start();
+    // Taken over from the run before.
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    EXPECT_EQ(x(), "12.5");
+    start();
+    writeFile("undo.rec", others);
+    std::filesystem::last_write_time(platform.folder / "undo.rec",
+                                     std::filesystem::file_time_type::clock::now() + std::chrono::seconds(5));
+    platform.boxes.clear();
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].text, "File not found!");
+    EXPECT_EQ(s().stack.depth(), 0);
+}
+
+TEST_F(Files, ANameThatIsNoneIsRefusedAndAskedForAgain) {
+    enter("1");
+    for (const char* name : {"x/", "..", ".", "   ", "a\tb", "undo.rec", ".hidden"}) {
+        platform.boxes.clear();
+        platform.texts = {name, "t.txt"};
+        platform.answers = {};
+        choose(form().mnuSaveTape);
+        ASSERT_FALSE(platform.boxes.empty()) << name;
+        EXPECT_EQ(platform.boxes[0].kind, BoxKind::Stop) << name;
+        EXPECT_TRUE(std::filesystem::exists(platform.folder / "t.txt")) << name;
+        std::filesystem::remove(platform.folder / "t.txt");
+    }
+}
+
+TEST_F(Files, NamesOfOtherScriptsAreKeptOnDisk) {
+    enter("42");
+    for (const char* name : {"лента.txt", "纸带.txt", "bänd.txt"}) {
+        platform.texts = {name};
+        choose(form().mnuSaveTape);
+        EXPECT_TRUE(std::filesystem::exists(platform.folder / name)) << name;
+        clickWith(kAlt, form().cmdReset);
+        retrieve(name);
+        EXPECT_EQ(x(), "42") << name;
+    }
 }
 
 }  // namespace
