@@ -131,7 +131,7 @@ INSTANTIATE_TEST_SUITE_P(Of, FailedSaves, ::testing::ValuesIn(kSavings),
 
 class FailedSave : public ::testing::Test, protected CalculatorAtHand {};
 
-TEST_F(FailedSave, TheResetGoesOnWithoutItsUndo) {
+TEST_F(FailedSave, AResetWithoutRoomIsToldAndCanBeTakenBackAllTheSame) {
     enter("1");
     choose(form().cmdReset);
     enter("2");
@@ -142,7 +142,7 @@ TEST_F(FailedSave, TheResetGoesOnWithoutItsUndo) {
     EXPECT_EQ(s().stack.depth(), 0);
     EXPECT_EQ(calc().tape.lines(), 0U);
     clickWith(kShift | kCtrl | kAlt, form().cmdReset);
-    EXPECT_EQ(calc().text(s().stack.slot(1)), "1") << "the undo is the one before";
+    EXPECT_EQ(calc().text(s().stack.slot(1)), "2") << "what was cleared lies in memory, too";
 }
 
 TEST_F(FailedSave, ATapeThatFindsNoRoomStaysInTheCalculator) {
