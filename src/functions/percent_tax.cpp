@@ -59,8 +59,7 @@ void changeRate(Engine& calc) {
     }
     SettingsFile settings;
     settings.setPath(calc.AppDataDir / SettingsFile::kName);
-    settings.change(kOptionsRecord,
-                    [&](SettingsRecord& record) { record.setTextB(kRateColumn, kRateWidth, text); });
+    settings.change(kOptionsRecord, [&](SettingsRecord& record) { record.setTextB(kRateColumn, kRateWidth, text); });
     calc.s.functions.TaxRate = static_cast<float>(wanted);
     calc.s.delivery.FnLabel = kRateLabel;
 }

@@ -155,7 +155,8 @@ void sweepTemporaries(const std::filesystem::path& folder) {
     using namespace std::chrono_literals;
     constexpr std::size_t kUniqueLetters = 6;
     std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
         const std::string name = entry->path().filename().string();
         const auto mark = name.rfind(kTemporary);
         std::error_code ignored;

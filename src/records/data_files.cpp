@@ -51,7 +51,8 @@ std::optional<std::filesystem::path> askForName(Engine& calc, const InputBox& bo
             return std::nullopt;
         }
         const auto path = inDataFolder(calc, entered);
-        const std::string_view complaint = path ? refused(*path) : "That is no name for a file, please enter another one.";
+        const std::string_view complaint =
+            path ? refused(*path) : "That is no name for a file, please enter another one.";
         if (complaint.empty()) {
             return path;
         }
@@ -64,8 +65,9 @@ std::optional<std::filesystem::path> askForName(Engine& calc, const InputBox& bo
 std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_view title, const std::string& preset) {
     const InputBox box{
         .title = std::string(title),
-        .prompt = "Please enter a file name (only 25 characters are used), or Click OK to accept the default.The "
-                  "file is saved in the Oakhollow Application Data Folder. ",
+        .prompt =
+            "Please enter a file name (only 25 characters are used), or Click OK to accept the default.The "
+            "file is saved in the Oakhollow Application Data Folder. ",
         .preset = preset,
         .fileName = true};
     const auto refused = [](const std::filesystem::path& path) -> std::string_view {
@@ -89,8 +91,9 @@ std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_vi
 std::optional<std::filesystem::path> askWhatToRetrieve(Engine& calc, std::string_view title,
                                                        const std::string& preset) {
     const InputBox box{.title = std::string(title),
-                       .prompt = "Please enter a file name, or Click OK to accept the default. (Do not enter the "
-                                 "Folder name).",
+                       .prompt =
+                           "Please enter a file name, or Click OK to accept the default. (Do not enter the "
+                           "Folder name).",
                        .preset = preset,
                        .fileName = true};
     return askForName(calc, box, [](const std::filesystem::path&) { return std::string_view{}; });
