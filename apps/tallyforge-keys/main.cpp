@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // tallyforge-keys: runs a key script on a calculator without a desktop.
+#include "convert/convert_lines.h"
+#include "convert/unit_document.h"
 #include "desktops/headless/key_script.h"
 #include "electrical/lookup_tables.h"
 #include "keypads/keypad_table.h"
@@ -9,6 +11,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <csignal>
@@ -31,13 +34,18 @@ constexpr int kWrongCall = 2;
 constexpr int kTimeIsUp = 3;
 constexpr const char* kUsage =
     "usage: tallyforge-keys [--data DIR] [--home DIR] [--decimal point|comma] [--now \"YYYY-MM-DD HH:MM:SS\"]\n"
-    "                       [--seed N] [--dpi N] [--tips] [--timeout S] [--unfinished] [--table [NAME]] [SCRIPT]\n";
+    "                       [--seed N] [--dpi N] [--tips] [--timeout S] [--unfinished] [--table [NAME]] [SCRIPT]\n"
+    "       tallyforge-keys --convert [--exact] [--decimal point|comma] [FILE]\n"
+    "       tallyforge-keys --units\n";
 
 struct Call {
     HeadlessOptions options;
     std::optional<double> timeout;
     std::string script;
     bool unfinished = false;
+    bool converts = false;
+    bool exact = false;
+    bool units = false;
     /// The table to print; an empty name lists them all.
     std::optional<std::string> table;
 };
@@ -164,6 +172,12 @@ std::optional<Call> readCall(const std::vector<std::string>& words) {
             call.options.tips = true;
         } else if (words[i] == "--unfinished") {
             call.unfinished = true;
+        } else if (words[i] == "--convert") {
+            call.converts = true;
+        } else if (words[i] == "--exact") {
+            call.exact = true;
+        } else if (words[i] == "--units") {
+            call.units = true;
         } else if (words[i] == "--table") {
             const bool named = i + 1 < words.size() && !words[i + 1].starts_with("--");
             call.table = named ? words[++i] : std::string();
@@ -232,14 +246,47 @@ void watch(double seconds, const std::filesystem::path& toRemove) {
     }).detach();
 }
 
+/// The script or the lines to convert: a file, or standard input.
+bool openInput(const std::string& name, std::ifstream& file) {
+    if (!name.empty()) {
+        file.open(name);
+        if (!file || std::filesystem::is_directory(name)) {
+            complain("tallyforge-keys: cannot read " + name);
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Latin letters beyond ASCII are rare in units, and conversion of texts is not free.
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char each) { return static_cast<unsigned char>(each) < 0x80; });
+}
+
+int convertLines(const Call& call) {
+    std::ifstream file;
+    if (!openInput(call.script, file)) {
+        return kWrongCall;
+    }
+    LineConverter converter(call.exact ? Sizes::Exact : Sizes::Table, call.options.decimal);
+    std::istream& lines = call.script.empty() ? std::cin : file;
+    std::string line;
+    bool allConverted = true;
+    while (std::getline(lines, line)) {
+        const auto answer = isAscii(line) ? converter.convert(line) : converter.convert(fromUnicode(line));
+        if (!answer.warning.empty()) {
+            complain(line + ": " + toUnicode(answer.warning, Face::Arial));
+        }
+        printLine(isAscii(answer.text) ? answer.text : toUnicode(answer.text, Face::Arial));
+        allConverted = allConverted && answer.converted;
+    }
+    return allConverted ? 0 : 1;
+}
+
 int runScript(Call& call) {
     std::ifstream file;
-    if (!call.script.empty()) {
-        file.open(call.script);
-        if (!file || std::filesystem::is_directory(call.script)) {
-            complain("tallyforge-keys: cannot read " + call.script);
-            return kWrongCall;
-        }
+    if (!openInput(call.script, file)) {
+        return kWrongCall;
     }
     std::optional<PrivateFolder> own;
     if (call.options.data.empty()) {
@@ -284,6 +331,13 @@ int main(int argc, char** argv) {
     if (call->unfinished) {
         listUnfinished();
         return 0;
+    }
+    if (call->units) {
+        std::fputs(unitDocument().c_str(), stdout);
+        return 0;
+    }
+    if (call->converts) {
+        return convertLines(*call);
     }
     return call->table ? printTable(*call->table) : runScript(*call);
 }

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "convert/conversion_keys.h"
 
+#include "convert/conversion_file.h"
 #include "engine/engine.h"
 #include "engine/results.h"
-#include "numbers/failure.h"
+#include "platform/file_store.h"
+#include "records/data_files.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
+#include <system_error>
+#include <utility>
 
 namespace tallyforge {
 
@@ -14,6 +19,10 @@ namespace {
 
 constexpr int kTemperatureKey = 3;
 constexpr int kFirstTopic = 1400;  ///< help topic of key 0
+
+constexpr const char* kFile = ".conversions";
+constexpr const char* kSetAside = ".conversions.damaged";
+constexpr std::size_t kLargest = 64 * 1024;
 
 std::size_t slot(int key) {
     return static_cast<std::size_t>(key);
@@ -39,11 +48,13 @@ ConversionKeys::Gate ConversionKeys::ConversionKeyGate(int key) {
     const std::uint8_t mask = calc.s.modifiers.ModifierMask;
     const bool alt = mask == kAlt && key != kTemperatureKey;
     if (mask != 0 && mask != kShift && !alt) {
+        calc.s.stack.KeepX = calc.s.stack.Xreg;
         refuseModifiers(calc);
         return Gate::Done;
     }
     if (calc.s.stack.Xreg.isTagged()) {
-        throw Failure{FailureNumber::TypeMismatch};
+        leaveX();
+        return Gate::Done;
     }
     const bool stored = key == kTemperatureKey ? memory.TemperatureHeld : memory.ConversionFactors.at(slot(key)) != 0.0;
     if (mask == 0 && stored) {
@@ -76,22 +87,77 @@ ConversionDialog& ConversionKeys::dialogOf(const ConversionTable& table) {
 
 void ConversionKeys::press(int key) {
     const ConversionTable& table = *conversionTableOf(key);
-    const Gate gate = ConversionKeyGate(key);
-    if (gate == Gate::Done) {
-        return;
+    if (const Gate gate = ConversionKeyGate(key); gate != Gate::Done) {
+        open(table, memory.former.at(slot(key)), gate);
     }
+}
+
+void ConversionKeys::open(const ConversionTable& table, const std::optional<UnitPair>& former, Gate gate) {
     calc.s.modifiers.ModifierMask = 0;
     calc.LightModifiers(0);
-    const auto choice = dialogOf(table).ask(
-        {.x = calc.xNumber(), .former = memory.former.at(slot(key)), .sizes = memory.sizes.at(slot(key))});
+    const auto choice =
+        dialogOf(table).ask({.x = calc.xNumber(), .former = former, .sizes = memory.sizes.at(slot(table.key))});
     // The dispatch leaves the Convert keypad as the modifier has painted it.
     calc.keypads().RepaintKeypad();
     if (choice) {
         convertWith(table, *choice, gate);
     } else {
-        calc.s.stack.KeepX = calc.s.stack.Xreg;
-        leaveNothing(calc);
+        leaveX();
     }
+}
+
+// The key does nothing: X stays as it is, as number or as text.
+void ConversionKeys::leaveX() {
+    calc.s.stack.KeepX = calc.s.stack.Xreg;
+    leaveNothing(calc);
+}
+
+void ConversionKeys::findUnit() {
+    if (calc.s.stack.Xreg.isTagged()) {
+        return leaveX();
+    }
+    calc.s.modifiers.ModifierMask = 0;
+    calc.LightModifiers(0);
+    if (!finder_) {
+        finder_ = std::make_unique<FindUnitDialog>(calc);
+    }
+    const auto found = finder_->ask();
+    if (!found) {
+        return leaveX();
+    }
+    const UnitPlace& from = found->from;
+    UnitPair pair{.group = from.group, .from = from.unit, .to = found->to.value_or(-1)};
+    const auto& former = memory.former.at(slot(from.table->key));
+    if (!found->to && former && former->group == pair.group && former->to != pair.from) {
+        pair.to = former->to;
+    }
+    open(*from.table, pair, Gate::Dialog);
+}
+
+void ConversionKeys::load() {
+    const std::filesystem::path path = calc.AppDataDir / kFile;
+    std::optional<ConversionMemory> read;
+    try {
+        read = readConversionFile(readWhole(path, kLargest), calc.s.format.DecimalChar);
+    } catch (const FileError& error) {
+        if (error.problem() == FileProblem::NotFound) {
+            return;
+        }
+    }
+    if (read) {
+        memory = std::move(*read);
+        calc.keypads().RepaintKeypad();
+        return;
+    }
+    std::error_code ignored;
+    std::filesystem::rename(path, calc.AppDataDir / kSetAside, ignored);
+    calc.message(BoxKind::Notice, "Conversions",
+                 "The file \"" + std::string(kFile) + "\" is damaged and was set aside as \"" + kSetAside +
+                     "\".\nThe keys of the Convert keypad remember nothing.");
+}
+
+void ConversionKeys::save() const {
+    saveOrReport(calc, "mnuSave", calc.AppDataDir / kFile, conversionFileText(memory));
 }
 
 void ConversionKeys::convertWith(const ConversionTable& table, const ConversionChoice& choice, Gate gate) {

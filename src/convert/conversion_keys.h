@@ -7,10 +7,12 @@
 
 #include "convert/conversion_memory.h"
 #include "convert/conversion_tables.h"
+#include "convert/find_unit.h"
 #include "dialogs/conversion_dialog.h"
 
 #include <array>
 #include <memory>
+#include <optional>
 
 namespace tallyforge {
 
@@ -20,8 +22,12 @@ class ConversionKeys {
 public:
     explicit ConversionKeys(Engine& calculator) : calc(calculator) {}
 
-    /// A key with a table of units: gate, dialog, result. Raises 6, 11 and 13 (a number of a base).
+    /// A key with a table of units: gate, dialog, result. Raises 6 and 11. A number of a base
+    /// stays as it is.
     void press(int key);
+
+    /// Finds a unit among all, and opens its dialog with it. Raises as press().
+    void findUnit();
 
     enum class Gate {
         Dialog,        ///< the dialog is to be shown
@@ -36,16 +42,23 @@ public:
     void dress();
     /// What Reset does.
     void reset() { memory.clear(); }
+    /// Reads what the keys held when the settings were saved. A damaged file is set aside and told.
+    void load();
+    /// Writes it; a failure is told.
+    void save() const;
 
     ConversionMemory memory;
 
 private:
     [[nodiscard]] ConversionDialog& dialogOf(const ConversionTable& table);
+    void open(const ConversionTable& table, const std::optional<UnitPair>& former, Gate gate);
+    void leaveX();
     void convertWith(const ConversionTable& table, const ConversionChoice& choice, Gate gate);
     void convertStored(int key);
     void storeInRegister2(double factor);
 
     Engine& calc;
+    std::unique_ptr<FindUnitDialog> finder_;
     /// Made when first shown, and kept: a dialog has some hundred controls.
     std::array<std::unique_ptr<ConversionDialog>, kBankKeys> dialogs_;
 };

@@ -24,7 +24,7 @@ constexpr Unit kForce[] = {
     {"joule/meter", "j/m", 1, 1, "newton", Source::SiBrochure, "J/m|joule per meter|joules/meter"},
     {"Newton", "N", 1, 1, "kilogram meter per second squared", Source::SiBrochure, "newtons"},
     {"pound-force", "lbf", 4.4482216152605, kPoundForce, "pound at standard gravity", Source::Nist811,
-     "pound force|pounds-force|lb"},
+     "pound force|pounds-force"},
     {"kilogram-force", "kgf", 9.80665, kGravity, "kilogram at standard gravity", Source::Nist811,
      "kilogram force|kilograms-force|kilopond|kp"},
     {"sthene", "st", 1000, 1000, "1000 newtons", Source::Nist811, "sthenes|sn|kilonewton|kN"},

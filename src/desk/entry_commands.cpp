@@ -14,6 +14,7 @@ namespace {
 
 // Control characters that Ctrl with a letter types.
 constexpr int kCtrlC = 3;
+constexpr int kCtrlF = 6;
 constexpr int kCtrlP = 16;
 constexpr int kCtrlV = 22;
 constexpr int kCtrlX = 24;
@@ -86,6 +87,10 @@ void EntryCommands::controlCharacter(int key) {
         case kCtrlC:
             calc.closeEmptyEntry();
             calc.keypads().mnuCopy_Click();
+            break;
+        case kCtrlF:
+            calc.closeEmptyEntry();
+            calc.keypads().FindUnit();
             break;
         case kCtrlV:
             calc.keypads().mnuPaste_Click();

@@ -315,6 +315,9 @@ void LifeCycle::mnuSave_Click() {
         }
         changeRecord(2, [&](SettingsRecord& record) { writeOptions(record); });
         changeRecord(3, [&](SettingsRecord& record) { record.setTextA(42, 2, zeroPadded(s.format.WordSize, 2)); });
+        if (saveMore) {
+            saveMore();
+        }
     }
     calc.focusEntry();
 }

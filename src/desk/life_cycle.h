@@ -7,6 +7,7 @@
 #include "records/settings_file.h"
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 namespace tallyforge {
@@ -34,6 +35,9 @@ public:
     void mnuPosition_Click();
     void mnuLoad_Click();
     void mnuSkins_Click();
+
+    /// What the rooms above save with the settings.
+    std::function<void()> saveMore;
 
     /// Whether the first notice of a keypad is still due; counts it.
     bool countNotice(Keypad keypad);

@@ -18,8 +18,9 @@ std::string numberText(double value, char decimal) {
 
 std::string percent(double part, char decimal) {
     std::array<char, 32> text{};
-    constexpr double kHundred = 100.0;
-    const int length = std::snprintf(text.data(), text.size(), "%+.2g %%", part * kHundred);
+    const double percents = 100.0 * part;
+    const char* const pattern = std::fabs(percents) < 10.0 ? "%+.2g %%" : "%+.0f %%";
+    const int length = std::snprintf(text.data(), text.size(), pattern, percents);
     std::string out(text.data(), static_cast<std::size_t>(length));
     if (const auto point = out.find('.'); point != std::string::npos) {
         out[point] = decimal;

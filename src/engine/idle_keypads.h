@@ -19,6 +19,7 @@ public:
     void KeypadHistoryBack() override {}
     void KeypadHistoryForward() override {}
     void PerformConvertFn() override {}
+    void FindUnit() override {}
     void ToggleProgramMode() override {}
     void ProgramLetter(int /*letter*/) override {}
     void MemoryArray() override {}

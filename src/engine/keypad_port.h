@@ -30,6 +30,8 @@ public:
     virtual void KeypadHistoryBack() = 0;
     virtual void KeypadHistoryForward() = 0;
     virtual void PerformConvertFn() = 0;
+    /// Finds a unit among all and converts X with it, on any keypad.
+    virtual void FindUnit() = 0;
 
     virtual void ToggleProgramMode() = 0;
     /// A letter key of Program mode, 1 for A to 26 for Z.

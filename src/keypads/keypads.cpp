@@ -80,15 +80,32 @@ void Keypads::optKey_Click(int index) {
     calc.focusEntry();
 }
 
+// The Convert keypad is lent for one press, and the one that was shown comes back.
+template <typename Press>
+void Keypads::onConvertKeypad(Press press) {
+    const Keypad shown = calc.s.modes.ActiveKeypad;
+    model.lay(Keypad::Convert);
+    calc.s.modifiers.ModifierMask = 0;
+    press();
+    model.lay(shown);
+}
+
 void Keypads::PerformConvertFn() {
-    EngineState& s = calc.s;
-    const Keypad shown = s.modes.ActiveKeypad;
+    const Keypad shown = calc.s.modes.ActiveKeypad;
     const bool bankIsLent = shown == Keypad::Program || shown == Keypad::MemoryArray;
     if (keys.conversions.memory.marked && !bankIsLent) {
-        model.lay(Keypad::Convert);
-        s.modifiers.ModifierMask = 0;
-        dispatch.cmdFunctions_Click(*keys.conversions.memory.marked);
-        model.lay(shown);
+        onConvertKeypad([this] { dispatch.cmdFunctions_Click(*keys.conversions.memory.marked); });
+    }
+    calc.focusEntry();
+}
+
+void Keypads::FindUnit() {
+    static constexpr KeyRow kFind{.key = kBankKeys, .does = [](Keys& all) { all.conversions.findUnit(); }};
+    const ModeState& modes = calc.s.modes;
+    const bool onAKeypad =
+        !modes.ProgramMode && !modes.MemoryArrayMode && !modes.QuizMode && modes.ActiveKeypad != Keypad::LetterDrill;
+    if (onAKeypad) {
+        onConvertKeypad([this] { dispatch.press(kFind); });
     }
     calc.focusEntry();
 }

@@ -45,6 +45,7 @@ public:
     void KeypadHistoryBack() override { model.historyBack(); }
     void KeypadHistoryForward() override { model.historyForward(); }
     void PerformConvertFn() override;
+    void FindUnit() override;
     void ToggleProgramMode() override;
     void ProgramLetter(int letter) override;
     void MemoryArray() override;
@@ -65,6 +66,8 @@ public:
 
 private:
     void hangOnForm();
+    template <typename Press>
+    void onConvertKeypad(Press press);
 
     Engine& calc;
 };

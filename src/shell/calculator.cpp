@@ -118,7 +118,13 @@ void Calculator::hangMenus() {
 
 void Calculator::hangLifeCycle() {
     MainForm& form = engine_.form;
-    form.load = [this] { lifeCycle_.Form_Load(); };
+    form.load = [this] {
+        lifeCycle_.Form_Load();
+        if (engine_.form.open) {
+            keypads_.keys.conversions.load();
+        }
+    };
+    lifeCycle_.saveMore = [this] { keypads_.keys.conversions.save(); };
     form.activate = [this] { lifeCycle_.Form_Activate(); };
     form.deactivate = [this] { lifeCycle_.Form_Deactivate(); };
     form.close = [this] { lifeCycle_.Form_Unload(); };

@@ -35,6 +35,7 @@ public:
     void KeypadHistoryBack() override { pressed.emplace_back("back"); }
     void KeypadHistoryForward() override { pressed.emplace_back("forward"); }
     void PerformConvertFn() override { pressed.emplace_back("convert"); }
+    void FindUnit() override { pressed.emplace_back("find"); }
     void ToggleProgramMode() override { pressed.emplace_back("program"); }
     void ProgramLetter(int letter) override { pressed.push_back("letter " + std::to_string(letter)); }
     void MemoryArray() override { pressed.emplace_back("memory"); }
