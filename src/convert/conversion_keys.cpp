@@ -42,6 +42,12 @@ void write(std::string& held, std::string_view wanted) {
     }
 }
 
+void addToTip(Control& control, std::string_view text) {
+    if (!control.tip.ends_with(text)) {
+        control.tip += text;
+    }
+}
+
 }  // namespace
 
 ConversionKeys::Gate ConversionKeys::ConversionKeyGate(int key) {
@@ -157,7 +163,12 @@ void ConversionKeys::load() {
 }
 
 void ConversionKeys::save() const {
-    saveOrReport(calc, "mnuSave", calc.AppDataDir / kFile, conversionFileText(memory));
+    std::error_code ignored;
+    const bool empty = std::none_of(memory.former.begin(), memory.former.end(), [](const auto& pair) { return pair; });
+    if (empty && !std::filesystem::exists(calc.AppDataDir / kFile, ignored)) {
+        return;
+    }
+    saveOrReport(calc, "mnuSave", calc.AppDataDir / kFile, [this] { return conversionFileText(memory); });
 }
 
 void ConversionKeys::convertWith(const ConversionTable& table, const ConversionChoice& choice, Gate gate) {
@@ -198,23 +209,24 @@ void ConversionKeys::storeInRegister2(double factor) {
 void ConversionKeys::dress() {
     for (int key = 0; key < kBankKeys; ++key) {
         Control& control = calc.form.cmdFunctions.at(slot(key));
-        if (!memory.holds(key) || !control.visible) {
-            continue;
+        if (control.visible && memory.holds(key)) {
+            dressHeld(control, key);
         }
-        const std::string& caption = memory.ConversionCaptions.at(slot(key));
-        write(control.text, caption);
-        const Font font{.face = Face::Arial, .points = fittingPoints(caption.size())};
-        if (control.font != font) {
-            control.font = font;
+        if (control.visible && memory.sizes.at(slot(key)) == Sizes::Exact) {
+            addToTip(control, "(exact) ");
         }
-        const std::string& warning = memory.warnings.at(slot(key));
-        if (!warning.empty() && !control.tip.ends_with(warning + " ")) {
-            control.tip += "// " + warning + " ";
-        }
-        constexpr std::string_view kExact = "(exact) ";
-        if (memory.sizes.at(slot(key)) == Sizes::Exact && !control.tip.ends_with(kExact)) {
-            control.tip += kExact;
-        }
+    }
+}
+
+void ConversionKeys::dressHeld(Control& control, int key) const {
+    const std::string& caption = memory.ConversionCaptions.at(slot(key));
+    write(control.text, caption);
+    const Font font{.face = Face::Arial, .points = fittingPoints(caption.size())};
+    if (control.font != font) {
+        control.font = font;
+    }
+    if (const std::string& warning = memory.warnings.at(slot(key)); !warning.empty()) {
+        addToTip(control, "// " + warning + " ");
     }
 }
 
