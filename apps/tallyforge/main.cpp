@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // tallyforge: the calculator in its window. With --render FILE.png [SCRIPT] it draws the window as
-// it stands after a key script into a picture, and ends.
+// it stands after a key script into a picture, or the dialog that the script has left open, and ends.
 #include "desktops/headless/key_script.h"
-#include "desktops/qt/control_widget.h"
+#include "desktops/qt/control_interface.h"
+#include "desktops/qt/dialog_view.h"
 #include "desktops/qt/form_view.h"
 #include "desktops/qt/main_window.h"
 #include "desktops/qt/qt_platform.h"
@@ -56,10 +57,21 @@ int render(const QString& picture, const QString& script, double scale) {
         return 2;
     }
     std::istringstream nothing;
+    bool drawn = false;
+    keys.leftOpen = [&](Form& dialog) {
+        qt::DialogView view(dialog, '.', qt::FormView::kUsualScale * scale, nullptr);
+        view.sync();
+        view.show();
+        QApplication::processEvents();
+        drawn = view.grab().save(picture);
+    };
     std::istream& input = script.isEmpty() ? static_cast<std::istream&>(nothing) : file;
     if (keys.run(input) == ScriptEnd::WrongScript) {
         std::cerr << complaints.str();
         return 2;
+    }
+    if (drawn) {
+        return 0;
     }
     qt::MainWindow window(keys.calculator().engine().form, '.');
     window.fitsScreen = false;
@@ -90,6 +102,7 @@ int showWindow() {
     qt::MainWindow window(form, calculator.engine().s.format.DecimalChar);
     platform.setWindow(&window);
     platform.showChanges = [&window] { window.view().sync(); };
+    window.remembersSize = true;
     window.present();
     window.show();
     QTimer::singleShot(0, &window, [&] {

@@ -34,33 +34,6 @@ void whenModal(std::function<void(QWidget&)> act) {
     timer->start(1);
 }
 
-/// A dialog of a field, a key that takes it over, and a key that leaves.
-class SumDialog : public Form {
-public:
-    SumDialog() : Form("frm_Sum", "Sum") {
-        place = {.width = 3000, .height = 1500};
-        const auto put = [this](Control& control, const char* controlName, ControlKind kind, const char* text,
-                                int top) {
-            control.name = controlName;
-            control.kind = kind;
-            control.text = text;
-            control.place = {.left = 200, .top = top, .width = 2000, .height = 350};
-            enrol(control);
-        };
-        put(field, "txtValue", ControlKind::Field, "", 100);
-        put(twice, "cmdTwice", ControlKind::Key, "&Twice", 550);
-        put(leave, "cmdLeave", ControlKind::Key, "Leave", 1000);
-        field.spoken = "Value";
-        twice.click = [this] { sum += 2 * std::stoi(field.text); };
-        leave.click = [this] { open = false; };
-        focus = &field;
-        defaultKey = &twice;
-        cancelKey = &leave;
-    }
-    Control field, twice, leave;
-    int sum = 0;
-};
-
 class Dialogs : public testing::Test {
 protected:
     qt::QtPlatform platform;
@@ -105,30 +78,6 @@ TEST_F(Dialogs, AsksForATextWithItsPreset) {
     EXPECT_EQ(platform.inputBox({.title = "Digits", .prompt = "How many?", .preset = "2"}), "12");
     whenModal([](QWidget& modal) { dynamic_cast<QDialog&>(modal).reject(); });
     EXPECT_EQ(platform.inputBox({.title = "Digits", .prompt = "How many?", .preset = "2"}), "");
-}
-
-TEST_F(Dialogs, RunsADialogOfTheCalculatorToItsEnd) {
-    SumDialog sum;
-    whenModal([&](QWidget& modal) {
-        auto* view = modal.findChild<qt::FormView*>();
-        ASSERT_NE(view, nullptr);
-        EXPECT_EQ(QApplication::focusWidget(), view);
-        QTest::keyClicks(view, "21");
-        QTest::keyClick(view, Qt::Key_Return);
-        QTest::mouseClick(view->widgetOf(sum.twice), Qt::LeftButton);
-        QTest::mouseClick(view->widgetOf(sum.leave), Qt::LeftButton);
-    });
-    platform.showDialog(sum);
-    EXPECT_EQ(sum.sum, 84);
-    EXPECT_FALSE(sum.open);
-}
-
-TEST_F(Dialogs, EscClicksTheCancelKeyOfADialog) {
-    SumDialog sum;
-    whenModal([](QWidget& modal) { QTest::keyClick(modal.findChild<qt::FormView*>(), Qt::Key_Escape); });
-    platform.showDialog(sum);
-    EXPECT_FALSE(sum.open);
-    EXPECT_EQ(sum.sum, 0);
 }
 
 TEST_F(Dialogs, CarriesTextsOverTheClipboard) {

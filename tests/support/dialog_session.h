@@ -138,6 +138,7 @@ inline constexpr std::array kSession{
     SessionStep{"type g", "row:Gold"},
     SessionStep{"type g", "row:Gallium"},
     SessionStep{"click lstRows(1)", "row:Copper"},
+    SessionStep{"click lstRows(2)", "row:Gold"},
     SessionStep{"dblclick lstRows(2)", "twice:Gold"},
     SessionStep{"key Tab", "-lstRows +cboRows"},
     SessionStep{"key Down", "choice:one"},

@@ -29,6 +29,9 @@ public:
     /// Runs the script to its end.
     ScriptEnd run(std::istream& script);
 
+    /// The script has ended while this dialog is open; called for the topmost one.
+    std::function<void(Form&)> leftOpen;
+
     [[nodiscard]] Calculator& calculator() { return *calculator_; }
 
 private:

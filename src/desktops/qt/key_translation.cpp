@@ -14,7 +14,7 @@ namespace tallyforge::qt {
 
 namespace {
 
-constexpr std::array<std::pair<int, KeyStroke>, 15> kNamed{{
+constexpr std::array<std::pair<int, KeyStroke>, 18> kNamed{{
     {Qt::Key_Return, {.keyCode = kKeyEnter, .character = 13}},
     {Qt::Key_Enter, {.keyCode = kKeyEnter, .character = 13}},
     {Qt::Key_Escape, {.keyCode = kKeyEscape, .character = 27}},
@@ -28,6 +28,9 @@ constexpr std::array<std::pair<int, KeyStroke>, 15> kNamed{{
     {Qt::Key_Up, {.keyCode = kKeyUp}},
     {Qt::Key_Down, {.keyCode = kKeyDown}},
     {Qt::Key_Tab, {.keyCode = kKeyTab, .character = 9}},
+    {Qt::Key_Backtab, {.keyCode = kKeyTab, .character = 9}},
+    {Qt::Key_PageUp, {.keyCode = kKeyPageUp}},
+    {Qt::Key_PageDown, {.keyCode = kKeyPageDown}},
     {Qt::Key_Dead_Circumflex, {.keyCode = kKeyPunctuation, .character = '^'}},
     {Qt::Key_Dead_Grave, {.keyCode = kKeyPunctuation, .character = '`'}},
 }};

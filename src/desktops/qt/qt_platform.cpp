@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktops/qt/qt_platform.h"
 
-#include "desktops/qt/form_view.h"
+#include "desktops/qt/dialog_window.h"
+#include "desktops/qt/main_window.h"
 #include "desktops/qt/theme.h"
 #include "platform/dialog_run.h"
 #include "platform/text.h"
@@ -10,7 +11,6 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
-#include <QDialog>
 #include <QDir>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -27,9 +27,8 @@
 #include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
-#include <QVBoxLayout>
 
-#include <cmath>
+#include <utility>
 
 namespace tallyforge::qt {
 
@@ -76,9 +75,17 @@ void widenForTitle(QMessageBox& box) {
 
 QtPlatform::QtPlatform() : generator_(std::random_device{}()) {}
 
+void QtPlatform::setWindow(MainWindow* window) {
+    window_ = window;
+    mainWindow_ = window;
+}
+
 void QtPlatform::refresh() const {
     if (showChanges) {
         showChanges();
+    }
+    for (DialogWindow* dialog : dialogs_) {
+        dialog->sync();
     }
 }
 
@@ -133,22 +140,13 @@ void QtPlatform::showDialog(Form& dialog) {
 }
 
 void QtPlatform::runWindowOf(Form& dialog) {
-    QDialog window(window_);
-    window.setWindowTitle(unicode(dialog.title));
-    auto* layout = new QVBoxLayout(&window);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto* view = new FormView(dialog, decimalCharacter(), &window);
-    view->setFixedSize(view->sizeAt(FormView::kUsualScale));
-    layout->addWidget(view);
-    view->formChanged = [&] {
-        if (!dialog.open) {
-            window.accept();
-        }
-    };
-    activateDialog(dialog);
-    if (dialog.open) {
-        window.exec();
-    }
+    DialogWindow window(dialog, decimalCharacter(), mainWindow_, window_);
+    // What opens while the dialog is open, stands over it.
+    QWidget* const below = std::exchange(window_, &window);
+    dialogs_.push_back(&window);
+    window.run();
+    dialogs_.pop_back();
+    window_ = below;
 }
 
 DesktopMetrics QtPlatform::metrics() const {

@@ -8,17 +8,21 @@
 
 #include <functional>
 #include <random>
+#include <vector>
 
 class QWidget;
 
 namespace tallyforge::qt {
+
+class DialogWindow;
+class MainWindow;
 
 class QtPlatform final : public Platform {
 public:
     QtPlatform();
 
     /// Boxes and dialogs open over this window.
-    void setWindow(QWidget* window) { window_ = window; }
+    void setWindow(MainWindow* window);
     /// Shows what has changed in the main form; called before a box opens and while a program runs,
     /// when no handler ends that would show it.
     std::function<void()> showChanges;
@@ -49,7 +53,9 @@ private:
     void refresh() const;
     void runWindowOf(Form& dialog);
 
-    QWidget* window_ = nullptr;
+    QWidget* window_ = nullptr;  ///< the topmost of ours
+    const MainWindow* mainWindow_ = nullptr;
+    std::vector<DialogWindow*> dialogs_;  ///< open ones, the topmost last
     RunWatch runWatch_;
     std::mt19937_64 generator_;
 };
