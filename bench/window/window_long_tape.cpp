@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The calculator in its window, with as many lines on its tape as the first argument says.
-#include "desktops/qt/control_widget.h"
+#include "desktops/qt/control_interface.h"
 #include "desktops/qt/main_window.h"
 #include "desktops/qt/qt_platform.h"
 #include "shell/calculator.h"

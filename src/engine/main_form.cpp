@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/main_form.h"
 
+#include "platform/key_codes.h"
 #include "platform/text.h"
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyforge {
 
@@ -32,7 +34,80 @@ MainForm::MainForm() : Form("frm_Tallyforge", "Tallyforge") {
     focus = &txtXreg;
     typing = &txtXreg;
     place = {.left = 0, .top = 0, .width = kPlainWidth, .height = 6200};
+    giveStops();
+    giveStrokes();
     arrange();
+}
+
+// Tab goes entry line, tape, stack, bank, pad, modes.
+void MainForm::giveStops() {
+    constexpr int kEntry = 1;
+    constexpr int kTape = 2;
+    constexpr int kStack = 3;
+    constexpr int kBank = 4;
+    constexpr int kPad = 5;
+    constexpr int kFormat = 6;
+    constexpr int kAngle = 7;
+    constexpr int kHeld = 8;
+    for (Control* control : controls()) {
+        if (control->kind == ControlKind::Key) {
+            control->walkStop = kPad;
+        }
+    }
+    for (Control& key : cmdNumPad) {
+        key.tone = KeyTone::Number;
+    }
+    for (Control& key : cmdMath) {
+        key.tone = KeyTone::Operator;
+    }
+    for (Control* key : {&cmdSTO, &cmdView, &cmdDigits, &cmdF11, &cmdF12, &cmdReset}) {
+        key->tone = KeyTone::Mode;
+    }
+    cmdEnter.tone = KeyTone::Enter;
+    txtXreg.walkStop = kEntry;
+    lstDisplayReg.walkStop = kTape;
+    lstStack.walkStop = kStack;
+    for (Control& key : cmdFunctions) {
+        key.walkStop = kBank;
+    }
+    for (Control& option : optFix) {
+        option.walkStop = kFormat;
+        option.group = "Number format";
+    }
+    for (Control* option : {&optDeg, &optRad, &optGrad}) {
+        option->walkStop = kAngle;
+        option->group = "Angle";
+    }
+    for (Control& option : optKey) {
+        option.walkStop = kHeld;
+        option.group = "Keys held for the next click";
+    }
+    for (Control* told : {&lstDisplayReg, &lblName, &lblBank}) {
+        told->live = true;
+    }
+    nameLine = &lblName;
+}
+
+// The ways of the keyboard to the keys, for showing which one is pressed.
+void MainForm::giveStrokes() {
+    constexpr std::array<std::string_view, 4> kMath{"/", "*", "-", "+"};
+    for (std::size_t i = 0; i < kMath.size(); ++i) {
+        cmdMath.at(i).typedBy = kMath.at(i);
+    }
+    constexpr int kDecimalKey = 10;
+    for (int digit = 0; digit < kDecimalKey; ++digit) {
+        cmdNumPad.at(static_cast<std::size_t>(digit)).typedBy = std::to_string(digit);
+    }
+    cmdNumPad.at(kDecimalKey).typedBy = ".,";
+    cmdEex.typedBy = "eE";
+    cmdChs.typedBy = "\\";
+    const std::pair<Control*, int> struck[] = {
+        {&cmdEnter, kKeyEnter}, {&cmdBackSpace, kKeyBackspace}, {&cmdEsc, kKeyEscape}, {&cmdDown, kKeyDelete},
+        {&cmdXchgY, kKeyEnd},   {&cmdLastx, kKeyInsert},        {&cmdF11, kKeyF11},    {&cmdF12, kKeyF12},
+        {&cmdView, kKeyF8}};
+    for (const auto& [key, code] : struck) {
+        key->struckBy = code;
+    }
 }
 
 void MainForm::put(Control& control, std::string_view controlName, const Look& look, int index) {
@@ -217,6 +292,19 @@ void MainForm::dressRegisters() {
         put(txtReg_m.at(at), "txtReg_m", field, i);
         txtReg_m.at(at).rightAligned = true;
     }
+}
+
+std::string MainForm::lineFor(const Control* pointed) const {
+    // What a mode says of itself goes before all else, but for the contents of the register keys.
+    std::string words = pointed != nullptr && pointed->words && pointed->visible ? pointed->words() : std::string{};
+    if (!lblName.text.empty()) {
+        return words.find(':') == std::string::npos ? lblName.text : words;
+    }
+    if (!words.empty()) {
+        return words;
+    }
+    std::string present = status ? status() : std::string{};
+    return present.empty() && lblBank.visible ? lblBank.text : present;
 }
 
 std::array<KeypadEntry, 6> MainForm::keypadMenu() {

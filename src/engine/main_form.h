@@ -77,6 +77,10 @@ public:
     [[nodiscard]] std::array<KeypadEntry, 6> keypadMenu();
     void enableKeypadMenu(bool enabled);
     [[nodiscard]] int contentHeight() const override { return contentHeight_; }
+    void fill(int spareHeight) override;
+    [[nodiscard]] std::string lineFor(const Control* pointed) const override;
+    /// What the name line says besides the keypad's name; "" for nothing.
+    std::function<std::string()> status;
 
 private:
     /// What a control is before its first use.
@@ -95,6 +99,8 @@ private:
     void dressOptions();
     void dressRegisters();
     void dressMenus();
+    void giveStops();
+    void giveStrokes();
     void placeLists(bool extended, int extra);
     void placeEntry(bool extended, int extra);
     void placeBank(int top);
@@ -103,6 +109,9 @@ private:
     void placeRegisters();
 
     int contentHeight_ = 0;
+    bool extended_ = false;
+    int extraHeight_ = 0;
+    int spareHeight_ = 0;
 };
 
 }  // namespace tallyforge

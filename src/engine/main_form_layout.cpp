@@ -20,16 +20,16 @@ constexpr int kNameTop = 30;
 constexpr int kNameHeight = 210;
 constexpr int kListTop = 250;
 constexpr int kListHeight = 1400;
-constexpr int kStackLeft = 3380;
-constexpr int kMarkLeft = 3236;
+constexpr int kStackLeft = 3420;
+constexpr int kMarkLeft = 3276;
 constexpr int kMarkHeight = 175;
 constexpr int kEntryTop = 1700;
 constexpr int kEntryHeight = 450;
 constexpr int kBankTop = 2280;
 constexpr int kBankHeight = 2800;
-constexpr int kPadLeft = 2130;
+constexpr int kPadLeft = 2150;
 constexpr int kPadPitch = 520;
-constexpr int kPadKey = 460;
+constexpr int kPadKey = 440;  ///< as far apart as the keys of the bank
 
 /// Columns and rows of the bank's keys, by key index.
 struct Cell {
@@ -44,8 +44,10 @@ constexpr std::array<Cell, kBankKeys> kBankCells{{
 }  // namespace
 
 void MainForm::arrange(bool extended, int extraHeight) {
-    const int extra = std::max(extraHeight, 0);
-    contentHeight_ = kBankTop + kBankHeight + kOptionStrip + extra;
+    extended_ = extended;
+    extraHeight_ = std::max(extraHeight, 0);
+    contentHeight_ = kBankTop + kBankHeight + kOptionStrip + extraHeight_;
+    const int extra = extraHeight_ + spareHeight_;
     placeLists(extended, extra);
     placeEntry(extended, extra);
     placeBank(kBankTop + extra);
@@ -54,9 +56,17 @@ void MainForm::arrange(bool extended, int extraHeight) {
     placeRegisters();
 }
 
+void MainForm::fill(int spareHeight) {
+    if (spareHeight_ != spareHeight) {
+        spareHeight_ = spareHeight;
+        arrange(extended_, extraHeight_);
+    }
+}
+
 void MainForm::placeLists(bool extended, int extra) {
-    lblName.place = {.left = 1500, .top = kNameTop, .width = 1700, .height = kNameHeight};
-    lblBank.place = {.left = kMargin, .top = kNameTop, .width = 1380, .height = kNameHeight};
+    // One line for both: it shows the keypad's name where there is nothing else to say.
+    lblName.place = {.left = kMargin, .top = kNameTop, .width = 3080, .height = kNameHeight};
+    lblBank.place = {.left = kMargin, .top = kNameTop, .width = 0, .height = kNameHeight};
     lblLists.place = {
         .left = kStackLeft - 144, .top = kNameTop, .width = kRight - kStackLeft + 144, .height = kNameHeight};
     lblCnvrt.place = {.left = 1000, .top = kNameTop, .width = 2200, .height = kNameHeight};
@@ -136,15 +146,14 @@ void MainForm::placePad(int top) {
 
     // Format and angle fill the two key places above Enter.
     constexpr int kOptionHeight = 280;
-    constexpr int kFormatWidth = 510;
-    constexpr int kAngleWidth = 610;  // the angles' words are longer than the formats'
-    constexpr int kIntoTheGap = 30;
-    const int left = kPadLeft + 4 * kPadPitch - kIntoTheGap;
+    constexpr int kFormatWidth = 480;
+    const int left = kPadLeft + 4 * kPadPitch;
+    const int angleWidth = kRight - left - kFormatWidth;
     const int optionTop = top + 2 * kPitch;
     const auto option = [&](Control& control, int column, int row) {
         control.place = {.left = left + column * kFormatWidth,
                          .top = optionTop + row * (kOptionHeight + 16),
-                         .width = column == 0 ? kFormatWidth : kAngleWidth,
+                         .width = column == 0 ? kFormatWidth : angleWidth,
                          .height = kOptionHeight};
     };
     Control* const angles[] = {&optDeg, &optRad, &optGrad};
@@ -195,7 +204,7 @@ void MainForm::placeRegisters() {
     // Two columns of the array stand in one row of fields each; the first twelve are ever shown.
     constexpr int kShown = 12;
     constexpr int kLeft = 5330;
-    const int pitch = (contentHeight_ - kListTop) / kShown;
+    const int pitch = std::min(kPitch, (contentHeight_ + spareHeight_ - kListTop) / kShown);
     for (int i = 0; i < kRegisters; ++i) {
         const int row = i % kShown;
         const int top = kListTop + row * pitch;

@@ -42,6 +42,9 @@ enum class ControlKind {
 /// Back colour of a key: what kind of key it is.
 enum class KeyColour { Plain, Yellow, Blue, PaleYellow };
 
+/// The group of keys that a key belongs to; it decides the tone of its face.
+enum class KeyTone : std::uint8_t { Function, Number, Operator, Enter, Mode };
+
 /// Place on the form in twips, 1/1440 inch.
 struct Place {
     int left = 0;
@@ -95,6 +98,7 @@ struct Control {
     Place place{};
     Font font{};
     KeyColour colour = KeyColour::Plain;
+    KeyTone tone = KeyTone::Function;
     bool enabled = true;
     bool visible = true;
     bool checked = false;       ///< option selected, box or menu entry ticked
@@ -111,8 +115,17 @@ struct Control {
     bool takesEnter = false;    ///< fields: Enter, Tab or Esc come to its key handlers and
     bool takesTab = false;      ///< do nothing else
     bool takesEscape = false;
-    int progress = 0;   ///< 0 to 100
-    Drawing drawing{};  ///< pictures
+    std::string typedBy;  ///< keys: characters of the keyboard that press it
+    int struckBy = 0;     ///< keys: code of the key that presses it and types nothing
+    bool live = false;    ///< what becomes of its text, or its last row, is told to a listener
+    int walkStop = 0;     ///< where typing has a field of its own: the stop of Tab that it belongs to, from 1
+    int progress = 0;     ///< 0 to 100
+    Drawing drawing{};    ///< pictures
+
+    /// What it does at present, in words; eight-bit.
+    std::function<std::string()> words;
+    /// Fields: shown faintly while nothing is typed. Lists: lines shown faintly while there are no rows.
+    std::function<std::string()> resting;
 
     // Handlers; an empty one means that nothing happens.
     std::function<void()> click;
@@ -152,6 +165,7 @@ public:
     Control* focus = nullptr;       ///< has the keyboard
     Control* focusTold = nullptr;   ///< knows that it has the focus
     Control* typing = nullptr;      ///< hears all typing, whatever key took the focus; none in a dialog
+    Control* walked = nullptr;      ///< where Tab has led on a form with such a field
     Control* defaultKey = nullptr;  ///< clicked by Enter
     Control* cancelKey = nullptr;   ///< clicked by Esc
 
@@ -164,6 +178,8 @@ public:
     std::function<void(const std::exception&)> failed;
     /// F1; a dialog with a `helpTopic` gets one when it opens.
     std::function<void()> help;
+    /// Takes a text over to the clipboard.
+    std::function<void(std::string_view)> copy;
     /// Sees each key before the control that has the keyboard; returns whether it keeps it.
     std::function<bool(KeyEvent)> preview;
     std::function<void()> activate;  ///< once shown
@@ -173,6 +189,12 @@ public:
 
     /// Height of what stands inside the window's frame, below a menu bar; twips.
     [[nodiscard]] virtual int contentHeight() const { return place.height; }
+    /// The window has this much height to spare, in twips; a form may give it to its lists.
+    virtual void fill(int /*spareHeight*/) {}
+    /// The label that says what the control under the pointer does; nullptr where there is none.
+    Control* nameLine = nullptr;
+    /// What that label says for `pointed`, or for none; "" leaves it as it is.
+    [[nodiscard]] virtual std::string lineFor(const Control* /*pointed*/) const { return {}; }
 
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
     /// The control of that name and index, or nullptr.

@@ -39,7 +39,22 @@ bool stepsOption(Form& form, const Control& target, int keyCode) {
     return true;
 }
 
-/// The row to which a key leads from the selected one; the count where it leads nowhere.
+bool stepsRow(Control& list, KeyStroke stroke) {
+    if (list.rows == nullptr || list.rows->count() == 0 || (stroke.shift & (kCtrl | kAlt)) != 0) {
+        return false;
+    }
+    const std::size_t row = rowByKey(*list.rows, stroke);
+    if (row >= list.rows->count()) {
+        return false;
+    }
+    if (row != list.rows->selected()) {
+        chooseRow(list, row);
+    }
+    return true;
+}
+
+}  // namespace
+
 std::size_t rowByKey(const ListRows& rows, KeyStroke stroke) {
     constexpr std::size_t kPage = 8;
     const std::size_t count = rows.count();
@@ -74,22 +89,6 @@ std::size_t rowByKey(const ListRows& rows, KeyStroke stroke) {
     }
     return count;
 }
-
-bool stepsRow(Control& list, KeyStroke stroke) {
-    if (list.rows == nullptr || list.rows->count() == 0 || (stroke.shift & (kCtrl | kAlt)) != 0) {
-        return false;
-    }
-    const std::size_t row = rowByKey(*list.rows, stroke);
-    if (row >= list.rows->count()) {
-        return false;
-    }
-    if (row != list.rows->selected()) {
-        chooseRow(list, row);
-    }
-    return true;
-}
-
-}  // namespace
 
 void actOn(Form& form, Control& control) {
     if (control.kind == ControlKind::Option) {

@@ -25,6 +25,10 @@ void actOn(Form& form, Control& control);
 /// Selects row `row` of a list or choice that has it.
 void chooseRow(Control& list, std::size_t row);
 
+/// The row to which a key leads from the selected one; the count where it leads nowhere. There must
+/// be a row.
+[[nodiscard]] std::size_t rowByKey(const ListRows& rows, KeyStroke stroke);
+
 /// Keys that choose within the control that has the keyboard: arrows in a group of options; arrows,
 /// Home, End, the page keys and letters in a list. Returns whether the stroke was one of these.
 bool stepsWithin(Form& form, Control& target, KeyStroke stroke);

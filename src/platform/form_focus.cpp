@@ -60,18 +60,22 @@ bool takesInput(const Control& control) {
     return control.enabled && control.visible;
 }
 
-bool takesFocus(const Control& control) {
-    switch (control.kind) {
+bool canHaveFocus(ControlKind kind) {
+    switch (kind) {
         case ControlKind::Key:
         case ControlKind::Field:
         case ControlKind::List:
         case ControlKind::Option:
         case ControlKind::Check:
         case ControlKind::Choice:
-            return takesInput(control);
+            return true;
         default:
             return false;
     }
+}
+
+bool takesFocus(const Control& control) {
+    return takesInput(control) && canHaveFocus(control.kind);
 }
 
 bool sameGroup(const Control& left, const Control& right) {

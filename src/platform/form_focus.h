@@ -14,6 +14,9 @@ namespace tallyforge {
 /// Enabled and to be seen.
 [[nodiscard]] bool takesInput(const Control& control);
 
+/// Whether a control of this kind can have the keyboard.
+[[nodiscard]] bool canHaveFocus(ControlKind kind);
+
 /// Takes input, and is of a kind that can have the keyboard.
 [[nodiscard]] bool takesFocus(const Control& control);
 

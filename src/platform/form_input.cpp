@@ -3,6 +3,7 @@
 
 #include "platform/form_acts.h"
 #include "platform/form_focus.h"
+#include "platform/form_walk.h"
 #include "platform/key_codes.h"
 
 #include <algorithm>
@@ -70,14 +71,6 @@ void editField(Control& field, int keyCode) {
         default:
             break;
     }
-}
-
-/// Letter that Alt reaches a caption by, as a capital; 0 for none.
-int accessLetter(std::string_view caption) {
-    const auto mark = caption.find('&');
-    return mark == caption.npos || mark + 1 >= caption.size()
-               ? 0
-               : std::toupper(static_cast<unsigned char>(caption[mark + 1]));
 }
 
 /// The control that Alt with the letter of `keyCode` reaches: a control with that access letter; for
@@ -200,6 +193,9 @@ void strike(Form& form, KeyStroke stroke) {
     if (stroke.keyCode == kKeyF1 && stroke.shift == 0 && form.help) {
         return runHandler(form.help);
     }
+    if (form.typing != nullptr && walkBy(form, stroke)) {
+        return;
+    }
     Control* target = keyboardTarget(form);
     if (target != nullptr) {
         runHandler(target->keyDown, KeyEvent{.keyCode = stroke.keyCode, .shift = stroke.shift});
@@ -219,10 +215,18 @@ void strike(Form& form, KeyStroke stroke) {
 
 }  // namespace
 
+int accessLetter(std::string_view caption) {
+    const auto mark = caption.find('&');
+    return mark == caption.npos || mark + 1 >= caption.size()
+               ? 0
+               : std::toupper(static_cast<unsigned char>(caption[mark + 1]));
+}
+
 bool click(Form& form, Control& control, std::uint8_t shift) {
     if (!takesInput(control)) {
         return false;
     }
+    form.walked = nullptr;
     guarded(form, [&] {
         focusClicked(form, control);
         settleFocus(form);

@@ -36,6 +36,9 @@ void releaseKey(Form& form, KeyStroke stroke);
 /// Modifiers went down (or are still down and repeat): the control with the focus sees them.
 void holdModifiers(Form& form, std::uint8_t shift);
 
+/// Letter that Alt reaches a caption by, as a capital; 0 for none.
+[[nodiscard]] int accessLetter(std::string_view caption);
+
 /// All modifiers came up.
 void releaseModifiers(Form& form);
 

@@ -31,6 +31,7 @@ inline constexpr int kKeyPad6 = 102;
 /// Keys of punctuation have codes above the function keys; none of them is looked at by name.
 inline constexpr int kKeyPunctuation = 190;
 inline constexpr int kKeyF1 = 112;
+inline constexpr int kKeyF8 = 119;
 inline constexpr int kKeyF9 = 120;
 inline constexpr int kKeyF10 = 121;
 inline constexpr int kKeyF11 = 122;

@@ -2,6 +2,7 @@
 #include "shell/calculator.h"
 
 #include "dialogs/unit_choice.h"
+#include "shell/form_words.h"
 #include "shell/help_topics.h"
 
 #include <new>
@@ -36,6 +37,7 @@ Calculator::Calculator(Platform& platform)
     hangMenus();
     hangLifeCycle();
     hangPrograms();
+    hangWords(engine_);
 }
 
 void Calculator::hangEntry() {

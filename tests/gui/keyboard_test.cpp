@@ -83,7 +83,7 @@ TEST_F(WindowKeyboard, PassesTheOwnShiftOfACharacterAsNoModifier) {
 TEST_F(WindowKeyboard, LightsTheLampAndPaintsTheBankWhileShiftIsHeld) {
     const QImage before = picture();
     const std::string ln = form().cmdFunctions.at(14).text;
-    press(Qt::Key_Shift);
+    holdShift();
     EXPECT_TRUE(widget(form().shaShift).isVisible());
     EXPECT_EQ(engine().s.modifiers.ModifierMask, kShift);
     EXPECT_NE(form().cmdFunctions.at(14).text, ln);
@@ -92,6 +92,65 @@ TEST_F(WindowKeyboard, LightsTheLampAndPaintsTheBankWhileShiftIsHeld) {
     EXPECT_FALSE(widget(form().shaShift).isVisible());
     EXPECT_EQ(engine().s.modifiers.ModifierMask, kNoModifier);
     EXPECT_EQ(picture(), before);
+}
+
+TEST_F(WindowKeyboard, LeavesTheBankAloneForTheShiftOfACharacter) {
+    const std::string ln = form().cmdFunctions.at(14).text;
+    type("6");
+    strike(Qt::Key_Return, "\r");
+    type("7");
+    press(Qt::Key_Shift);
+    EXPECT_EQ(form().cmdFunctions.at(14).text, ln);
+    press(Qt::Key_Asterisk, "*", Qt::ShiftModifier);
+    release(Qt::Key_Asterisk, "*", Qt::ShiftModifier);
+    QTest::qWait(160);
+    EXPECT_EQ(form().cmdFunctions.at(14).text, ln);
+    EXPECT_EQ(engine().s.modifiers.ModifierMask, kNoModifier);
+    release(Qt::Key_Shift, {}, Qt::ShiftModifier);
+    EXPECT_DOUBLE_EQ(engine().xNumber(), 42.0);
+}
+
+TEST_F(WindowKeyboard, AClickRightAfterShiftIsShifted) {
+    type("0");
+    press(Qt::Key_Shift);
+    QTest::mouseClick(&widget(form().cmdFunctions.at(14)), Qt::LeftButton, Qt::ShiftModifier);
+    release(Qt::Key_Shift);
+    EXPECT_DOUBLE_EQ(engine().xNumber(), 1.0) << "e to the power of 0";
+}
+
+TEST_F(WindowKeyboard, ShowsTheKeyOfEachStrokeAsPressed) {
+    struct Stroke {
+        Qt::Key key;
+        const char* text;
+        const Control* pressed;
+    };
+    const Stroke strokes[] = {{Qt::Key_Backspace, "\b", &form().cmdBackSpace},
+                              {Qt::Key_Escape, "\x1b", &form().cmdEsc},
+                              {Qt::Key_End, "", &form().cmdXchgY},
+                              {Qt::Key_Delete, "", &form().cmdDown},
+                              {Qt::Key_Insert, "", &form().cmdLastx},
+                              {Qt::Key_Backslash, "\\", &form().cmdChs},
+                              {Qt::Key_Return, "\r", &form().cmdEnter},
+                              {Qt::Key_E, "e", &form().cmdEex}};
+    for (const Stroke& stroke : strokes) {
+        type("1");
+        press(stroke.key, stroke.text);
+        EXPECT_TRUE(widget(*stroke.pressed).isPressed()) << stroke.pressed->name;
+        release(stroke.key, stroke.text);
+        EXPECT_FALSE(widget(*stroke.pressed).isPressed()) << stroke.pressed->name;
+    }
+}
+
+TEST_F(WindowKeyboard, ZoomsByCtrlPlusMinusAndZero) {
+    const double usual = view().scale();
+    press(Qt::Key_Plus, {}, Qt::ControlModifier);
+    EXPECT_NEAR(view().scale(), usual * 1.1, 0.002);
+    press(Qt::Key_Minus, {}, Qt::ControlModifier);
+    press(Qt::Key_Minus, {}, Qt::ControlModifier);
+    EXPECT_LT(view().scale(), usual);
+    press(Qt::Key_0, {}, Qt::ControlModifier);
+    EXPECT_NEAR(view().scale(), usual, 0.002);
+    EXPECT_EQ(form().txtXreg.text, "");
 }
 
 TEST_F(WindowKeyboard, AddsModifiersAndTakesThemAwayOneByOne) {
@@ -140,7 +199,7 @@ TEST_F(WindowKeyboard, ShowsAKeyAsPressedWhileItIsDown) {
 }
 
 TEST_F(WindowKeyboard, ARepeatedModifierPaintsTheBankOnce) {
-    press(Qt::Key_Shift);
+    holdShift();
     int paints = 0;
     const auto plain = form().txtXreg.keyDown;
     form().txtXreg.keyDown = [&](KeyEvent event) {

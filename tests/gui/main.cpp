@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The window's tests draw off screen, in plain numbers and without the user's settings.
-#include "desktops/qt/control_widget.h"
+#include "desktops/qt/control_interface.h"
 
 #include <gtest/gtest.h>
 

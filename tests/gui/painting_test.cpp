@@ -62,7 +62,7 @@ bool paintsOutside(const Control& control, double pixelsPerTwip) {
     } else if (control.kind == ControlKind::Field) {
         qt::paintField(painter, area, control, theme, state);
     } else if (control.kind == ControlKind::Label) {
-        qt::paintLabel(painter, area, control, theme, state);
+        qt::paintLabel(painter, area, control, qt::shownText(control), theme, state);
     } else if (control.kind == ControlKind::Frame) {
         qt::paintFrame(painter, area, control, theme, state);
     }

@@ -63,6 +63,11 @@ protected:
         QKeyEvent event(QEvent::KeyRelease, key, modifiers, text);
         QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
+    /// Shift goes down and stays, long enough to be no character's own.
+    void holdShift() {
+        press(Qt::Key_Shift);
+        QTest::qWait(160);
+    }
     /// One key down and up as a layout would have it; the modifiers go down before and up after it.
     void strike(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, text, modifiers);

@@ -2,8 +2,10 @@
 #include "desktops/qt/control_painter.h"
 
 #include <QFontMetricsF>
+#include <QPolygonF>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tallyforge::qt {
@@ -14,10 +16,14 @@ namespace {
 constexpr double kRowTwips = 200.0;
 constexpr double kListFontShare = 0.86;
 constexpr double kStackRowTwips = 175.0;
-/// From one size of a caption to the next smaller: two of them lead from the ten points of the bank
-/// to the seven of the small captions, so few sizes are loaded for all of them.
+/// The sizes of captions, in points. A size is tried in a condensed face before a smaller one is.
+constexpr std::array kCaptionPoints{10.0, 7.0, 5.5};
 constexpr double kNextSmaller = 0.92;
+constexpr double kRaisedShare = 0.7;  ///< size of a raised exponent
+constexpr double kRaisedBy = 0.32;    ///< and how much of the height it is raised
+constexpr double kRadius = 40.0;      ///< of keys, fields and lists, twips
 constexpr double kSmallestPixels = 6.0;
+constexpr double kFieldMargin = 60.0;  ///< twips
 
 QString unicode(std::string_view bytes, Face face) {
     return QString::fromStdString(toUnicode(bytes, face));
@@ -41,10 +47,54 @@ QList<QStringList> breaks(const QString& caption) {
     return ways;
 }
 
-bool fits(const QStringList& lines, const QFontMetricsF& metrics, QSizeF size) {
-    const auto wide = [&](const QString& line) { return metrics.horizontalAdvance(line) > size.width(); };
+/// "y^x" is y with a raised x; the place of the sign, or -1 where nothing is raised.
+qsizetype raisedAt(const QString& line) {
+    const qsizetype sign = line.indexOf('^');
+    return sign > 0 && sign + 1 < line.size() ? sign : -1;
+}
+
+QFont raised(QFont font) {
+    font.setPixelSize(std::max(static_cast<int>(font.pixelSize() * kRaisedShare), 4));
+    return font;
+}
+
+double lineWidth(const QString& line, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    const qsizetype sign = raisedAt(line);
+    return sign < 0 ? metrics.horizontalAdvance(line)
+                    : metrics.horizontalAdvance(line.left(sign)) +
+                          QFontMetricsF(raised(font)).horizontalAdvance(line.mid(sign + 1));
+}
+
+void drawLine(QPainter& painter, QPointF at, const QString& line, const QFont& font) {
+    const qsizetype sign = raisedAt(line);
+    painter.setFont(font);
+    if (sign < 0) {
+        painter.drawText(at, line);
+        return;
+    }
+    painter.drawText(at, line.left(sign));
+    const QFontMetricsF metrics(font);
+    painter.setFont(raised(font));
+    painter.drawText(at + QPointF(metrics.horizontalAdvance(line.left(sign)), -metrics.ascent() * kRaisedBy),
+                     line.mid(sign + 1));
+}
+
+bool fits(const QStringList& lines, const QFont& font, QSizeF size) {
+    const auto wide = [&](const QString& line) { return lineWidth(line, font) > size.width(); };
     return std::none_of(lines.begin(), lines.end(), wide) &&
-           metrics.height() * 0.92 * static_cast<double>(lines.size()) <= size.height();
+           QFontMetricsF(font).height() * 0.92 * static_cast<double>(lines.size()) <= size.height();
+}
+
+/// A caption as the signs that it stands for.
+QString withSigns(QString caption) {
+    if (caption == "-") {
+        return QString(QChar(0x2212));
+    }
+    if (caption == "<-") {
+        return QString(QChar(0x232B));
+    }
+    return caption.replace("<----", QString(QChar(0x21B5)));
 }
 
 void box(QPainter& painter, const QRectF& area, const QColor& face, const QColor& edge, double radius) {
@@ -67,21 +117,35 @@ QString plainCaption(const Control& control) {
 }
 
 FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTwip) {
-    QString caption = shownText(control);
+    QString caption = withSigns(shownText(control));
     FittedCaption fitted;
     const qsizetype mark = caption.indexOf('&');
     const QChar access = mark >= 0 && mark + 1 < caption.size() ? caption.at(mark + 1) : QChar();
     caption.remove('&');
     const QList<QStringList> ways = breaks(caption);
-    for (double pixels = fontPixels(control.font, pixelsPerTwip); fitted.lines.isEmpty(); pixels *= kNextSmaller) {
-        fitted.font = faceFont(control.font, pixels);
-        const QFontMetricsF metrics(fitted.font);
-        for (const QStringList& way : ways) {
-            if (fits(way, metrics, size) || pixels <= kSmallestPixels) {
-                fitted.lines = way;
+    for (const double points : kCaptionPoints) {
+        if (points > std::max(static_cast<double>(control.font.points), kCaptionPoints.back())) {
+            continue;
+        }
+        const bool last = points == kCaptionPoints.back();
+        const double wished = control.font.points > kCaptionPoints.front() ? control.font.points : points;
+        for (const int stretch : {int{QFont::Unstretched}, int{QFont::SemiCondensed}}) {
+            fitted.font = faceFont(control.font, fontPixels({.points = static_cast<float>(wished)}, pixelsPerTwip));
+            fitted.font.setStretch(stretch);
+            const bool must = last && stretch != QFont::Unstretched;
+            const auto way = std::find_if(ways.begin(), ways.end(),
+                                          [&](const QStringList& lines) { return fits(lines, fitted.font, size); });
+            if (way != ways.end() || must) {
+                fitted.lines = way != ways.end() ? *way : ways.back();
                 break;
             }
         }
+        if (!fitted.lines.isEmpty()) {
+            break;
+        }
+    }
+    while (!fits(fitted.lines, fitted.font, size) && fitted.font.pixelSize() > kSmallestPixels) {
+        fitted.font.setPixelSize(fitted.font.pixelSize() - 1);
     }
     if (!access.isNull()) {
         for (int line = 0; line < fitted.lines.size() && fitted.accessLine < 0; ++line) {
@@ -92,25 +156,57 @@ FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTw
     return fitted;
 }
 
+namespace {
+
+/// The mark of a key that opens a dialog, and of one that has units: colour alone does not say it.
+void paintMark(QPainter& painter, const QRectF& area, const Control& key, const Theme& theme, double pixelsPerTwip) {
+    const double side = 50.0 * pixelsPerTwip;
+    const QRectF corner(area.right() - 1.7 * side, area.top() + 0.7 * side, side, side);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme.secondary);
+    if (key.colour == KeyColour::Blue) {
+        painter.drawEllipse(corner.adjusted(side * 0.1, side * 0.1, -side * 0.1, -side * 0.1));
+    } else if (key.colour != KeyColour::Plain) {
+        painter.drawPolygon(
+            QPolygonF{{corner.topLeft(), corner.bottomLeft(), QPointF(corner.right(), corner.center().y())}});
+    }
+}
+
+void paintRing(QPainter& painter, const QRectF& area, const Theme& theme, double radius) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme.accent, 2.0));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area.adjusted(1.0, 1.0, -1.0, -1.0), radius, radius);
+}
+
+}  // namespace
+
+void paintWell(QPainter& painter, const QRectF& area, const Theme& theme, double pixelsPerTwip) {
+    box(painter, area, theme.well, theme.well, kRadius * pixelsPerTwip);
+}
+
 void paintKey(QPainter& painter, const QRectF& area, const Control& control, const FittedCaption& caption,
               const Theme& theme, PaintState state) {
-    QColor face = theme.keyFace(control.colour);
+    QColor face = theme.keyFace(control);
     const bool dark = theme.window.lightness() < 128;
     if (state.pressed) {
         face = dark ? face.lighter(135) : face.darker(116);
+    } else if (state.hovered && control.enabled) {
+        face = dark ? face.lighter(115) : face.darker(105);
     }
-    box(painter, area, face, theme.keyEdge, area.height() * 0.1);
-    painter.setPen(control.enabled ? theme.text : theme.dimText);
-    painter.setFont(caption.font);
+    const double radius = kRadius * state.pixelsPerTwip;
+    box(painter, area, face, control.tone == KeyTone::Enter ? face : theme.keyEdge, radius);
+    paintMark(painter, area, control, theme, state.pixelsPerTwip);
+    painter.setPen(theme.keyText(control));
     const QFontMetricsF metrics(caption.font);
     const double lineHeight = metrics.height() * 0.92;
     double top = area.center().y() - lineHeight * static_cast<double>(caption.lines.size()) / 2.0;
     const double shift = state.pressed ? 1.0 : 0.0;
     for (int line = 0; line < caption.lines.size(); ++line) {
         const QString& text = caption.lines.at(line);
-        const double left = area.center().x() - metrics.horizontalAdvance(text) / 2.0;
+        const double left = area.center().x() - lineWidth(text, caption.font) / 2.0;
         const double baseline = top + (lineHeight - metrics.height()) / 2.0 + metrics.ascent();
-        painter.drawText(QPointF(left + shift, baseline + shift), text);
+        drawLine(painter, QPointF(left + shift, baseline + shift), text, caption.font);
         if (line == caption.accessLine) {
             const double from = left + metrics.horizontalAdvance(text.left(caption.accessAt));
             const double to = left + metrics.horizontalAdvance(text.left(caption.accessAt + 1));
@@ -119,14 +215,28 @@ void paintKey(QPainter& painter, const QRectF& area, const Control& control, con
         }
         top += lineHeight;
     }
+    if (state.focused) {
+        paintRing(painter, area, theme, radius);
+    }
+}
+
+QFont fieldFont(const Control& control, double height, double pixelsPerTwip) {
+    return faceFont(control.font, std::min(fontPixels(control.font, pixelsPerTwip), height * 0.72));
+}
+
+QString fittedFieldText(const Control& control, double width, const QFont& font) {
+    return QFontMetricsF(font).elidedText(shownText(control), Qt::ElideMiddle, width);
 }
 
 void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
-    box(painter, area, theme.field, state.focused ? theme.text : theme.fieldEdge, 3.0);
-    const QString text = shownText(control);
-    const double margin = 60.0 * state.pixelsPerTwip;
-    QFont font = faceFont(control.font, std::min(fontPixels(control.font, state.pixelsPerTwip), area.height() * 0.72));
+    box(painter, area, theme.field, state.focused ? theme.text : theme.fieldEdge, kRadius * state.pixelsPerTwip);
+    const double margin = kFieldMargin * state.pixelsPerTwip;
+    QFont font = fieldFont(control, area.height(), state.pixelsPerTwip);
     const double room = area.width() - 2.0 * margin;
+    const bool resting = control.text.empty() && !state.note.isEmpty();
+    const QString text = resting        ? state.note
+                         : state.typing ? shownText(control)
+                                        : fittedFieldText(control, room, font);
     if (const double needed = QFontMetricsF(font).horizontalAdvance(text); needed > room) {
         font.setPixelSize(std::max(static_cast<int>(font.pixelSize() * room / needed), 1));
     }
@@ -135,10 +245,11 @@ void paintField(QPainter& painter, const QRectF& area, const Control& control, c
     const double left = control.rightAligned ? area.right() - margin - width : area.left() + margin;
     const double baseline = area.center().y() - metrics.height() / 2.0 + metrics.ascent();
     painter.setFont(font);
-    painter.setPen(theme.fieldText);
+    painter.setPen(resting ? theme.secondary : theme.fieldText);
     painter.drawText(QPointF(left, baseline), text);
     if (state.focused) {
-        const auto caret = static_cast<qsizetype>(std::min(control.caret, control.text.size()));
+        const auto typed = static_cast<qsizetype>(std::min(control.caret, control.text.size()));
+        const qsizetype caret = resting ? text.size() : typed;
         const double at = left + metrics.horizontalAdvance(text.left(caret)) + 1.0;
         painter.setPen(QPen(theme.fieldText, std::max(1.0, 12.0 * state.pixelsPerTwip)));
         painter.drawLine(QPointF(at, baseline - metrics.ascent() * 0.9),
@@ -146,8 +257,8 @@ void paintField(QPainter& painter, const QRectF& area, const Control& control, c
     }
 }
 
-void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
-    const QString text = shownText(control);
+void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const QString& text, const Theme& theme,
+                PaintState state) {
     double pixels = std::min(fontPixels(control.font, state.pixelsPerTwip), area.height() * kListFontShare);
     while (pixels > kSmallestPixels &&
            QFontMetricsF(faceFont(control.font, pixels)).horizontalAdvance(text) > area.width()) {
@@ -162,7 +273,7 @@ void paintLabel(QPainter& painter, const QRectF& area, const Control& control, c
 void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
     painter.setRenderHint(QPainter::Antialiasing);
     const double size = std::min(area.height() * 0.72, 120.0 * state.pixelsPerTwip);
-    const QRectF ring(area.left() + 1.0, area.center().y() - size / 2.0, size, size);
+    const QRectF ring(area.left() + 2.0, area.center().y() - size / 2.0, size, size);
     painter.setPen(QPen(theme.text, 1.0));
     painter.setBrush(theme.field);
     painter.drawEllipse(ring);
@@ -170,27 +281,23 @@ void paintOption(QPainter& painter, const QRectF& area, const Control& control, 
         painter.setBrush(theme.text);
         painter.drawEllipse(ring.adjusted(size * 0.25, size * 0.25, -size * 0.25, -size * 0.25));
     }
-    const QRectF textArea = area.adjusted(size + 6.0, 0, 0, 0);
-    const FittedCaption caption = fitCaption(control, textArea.size(), state.pixelsPerTwip);
+    const QRectF textArea = area.adjusted(size + 5.0, 0, 0, 0);
+    FittedCaption caption = fitCaption(control, textArea.size(), state.pixelsPerTwip);
+    // All options alike, and narrow enough for the longest.
+    caption.font.setStretch(QFont::SemiCondensed);
     painter.setFont(caption.font);
     painter.setPen(control.enabled ? theme.text : theme.dimText);
     painter.drawText(textArea, Qt::AlignLeft | Qt::AlignVCenter, caption.lines.join(' '));
+    if (state.focused) {
+        paintRing(painter, area, theme, kRadius * state.pixelsPerTwip);
+    }
 }
 
 void paintFrame(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
-    painter.setRenderHint(QPainter::Antialiasing);
     const QFont font = faceFont(control.font, fontPixels(control.font, state.pixelsPerTwip));
-    const QFontMetricsF metrics(font);
-    const QRectF frame = area.adjusted(0.5, metrics.height() / 2.0, -0.5, -0.5);
-    painter.setPen(QPen(theme.fieldEdge, 1.0));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(frame, 3.0, 3.0);
-    const QString text = plainCaption(control);
-    const QRectF head(area.left() + 8.0, area.top(), metrics.horizontalAdvance(text) + 8.0, metrics.height());
-    painter.fillRect(head, theme.window);
     painter.setFont(font);
-    painter.setPen(theme.text);
-    painter.drawText(head, Qt::AlignCenter, text);
+    painter.setPen(theme.secondary);
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, plainCaption(control));
 }
 
 void paintLamp(QPainter& painter, const QRectF& area, const Theme& theme) {
@@ -217,11 +324,57 @@ QFont listFont(const Control& list, const ListMetrics& rows, double pixelsPerTwi
     return faceFont(list.font, std::min(rows.rowHeight * kListFontShare, fontPixels(list.font, pixelsPerTwip)));
 }
 
+QString fittedRow(const Control& list, std::size_t row, double width, const QFont& font) {
+    return QFontMetricsF(font).elidedText(unicode(list.rows->row(row), list.font.face), Qt::ElideMiddle, width);
+}
+
+namespace {
+
+/// A line of a log is a label and a value behind at least two blanks, a value alone, or words.
+struct LogLine {
+    QString label;
+    QString value;
+};
+
+LogLine parted(const QString& line) {
+    const QString text = line.trimmed();
+    const qsizetype gap = text.lastIndexOf("  ");
+    if (gap >= 0) {
+        return {.label = text.left(gap).trimmed(), .value = text.mid(gap + 2)};
+    }
+    static const QString kOfNumbers = "0123456789.,:-+#eEABCDFabcdho ";
+    const bool number = !text.isEmpty() && (text.front().isDigit() || QString("-#.,").contains(text.front())) &&
+                        std::all_of(text.begin(), text.end(), [](QChar c) { return kOfNumbers.contains(c); });
+    return number ? LogLine{.label = {}, .value = text} : LogLine{.label = line, .value = {}};
+}
+
+void paintLogLine(QPainter& painter, const QRectF& place, double baseline, const QString& line, const Theme& theme) {
+    const LogLine parts = parted(line);
+    const QFontMetricsF metrics(painter.font());
+    painter.setPen(parts.value.isEmpty() ? theme.fieldText : theme.secondary);
+    painter.drawText(QPointF(place.left(), baseline), parts.label);
+    painter.setPen(theme.fieldText);
+    painter.drawText(QPointF(place.right() - metrics.horizontalAdvance(parts.value), baseline), parts.value);
+}
+
+void paintFirstSteps(QPainter& painter, const QRectF& area, const Control& list, const Theme& theme, PaintState state) {
+    QFont font = faceFont({.face = Face::Arial}, fontPixels(list.font, state.pixelsPerTwip) * 0.85);
+    painter.setFont(font);
+    painter.setPen(theme.secondary);
+    painter.drawText(area, Qt::AlignCenter, state.note);
+}
+
+}  // namespace
+
 void paintList(QPainter& painter, const QRectF& area, const Control& list, std::size_t first, const Theme& theme,
                PaintState state) {
-    box(painter, area, theme.field, theme.fieldEdge, 3.0);
+    const double radius = kRadius * state.pixelsPerTwip;
+    box(painter, area, theme.field, state.focused ? theme.text : theme.fieldEdge, radius);
     if (list.rows == nullptr) {
         return;
+    }
+    if (!state.note.isEmpty()) {
+        paintFirstSteps(painter, area, list, theme, state);
     }
     const ListMetrics rows = listMetrics(list, area.height(), state.pixelsPerTwip);
     const QFont font = listFont(list, rows, state.pixelsPerTwip);
@@ -238,9 +391,18 @@ void paintList(QPainter& painter, const QRectF& area, const Control& list, std::
         }
         painter.setPen(theme.fieldText);
         const double baseline = place.center().y() - metrics.height() / 2.0 + metrics.ascent();
-        painter.drawText(QPointF(area.left() + margin, baseline), unicode(list.rows->row(row), list.font.face));
+        const QRectF inside = place.adjusted(margin, 0.0, -margin - state.scrollBar, 0.0);
+        const QString text = fittedRow(list, row, inside.width(), font);
+        if (list.fromBottom) {
+            paintLogLine(painter, inside, baseline, text, theme);
+        } else {
+            painter.drawText(QPointF(inside.left(), baseline), text);
+        }
     }
     painter.setClipping(false);
+    if (state.focused) {
+        paintRing(painter, area, theme, radius);
+    }
 }
 
 }  // namespace tallyforge::qt

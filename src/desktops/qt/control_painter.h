@@ -33,13 +33,28 @@ struct FittedCaption {
 struct PaintState {
     bool pressed = false;
     bool focused = false;
+    bool typing = false;  ///< the field that all typing goes to
+    bool hovered = false;
     double pixelsPerTwip = 0.1;
+    int scrollBar = 0;  ///< pixels that a list's scroll bar takes
+    QString note{};     ///< shown faintly where there is nothing else: X at rest, the first steps
 };
+
+/// The text of a field as it fits: one that is too long has its middle left out, but for the field
+/// that is typed in.
+[[nodiscard]] QString fittedFieldText(const Control& control, double width, const QFont& font);
+/// The font of a field's text.
+[[nodiscard]] QFont fieldFont(const Control& control, double height, double pixelsPerTwip);
+/// A row of a list as it fits beside the scroll bar.
+[[nodiscard]] QString fittedRow(const Control& list, std::size_t row, double width, const QFont& font);
 
 void paintKey(QPainter& painter, const QRectF& area, const Control& control, const FittedCaption& caption,
               const Theme& theme, PaintState state);
 void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
-void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
+void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const QString& text, const Theme& theme,
+                PaintState state);
+/// What a hidden key leaves.
+void paintWell(QPainter& painter, const QRectF& area, const Theme& theme, double pixelsPerTwip);
 void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
 void paintFrame(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
 void paintLamp(QPainter& painter, const QRectF& area, const Theme& theme);

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktops/qt/control_widget.h"
 
+#include "desktops/qt/control_interface.h"
 #include "desktops/qt/form_view.h"
 
 #include <QAccessible>
-#include <QAccessibleWidget>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -16,85 +18,6 @@
 namespace tallyforge::qt {
 
 namespace {
-
-QAccessible::Role roleOf(ControlKind kind) {
-    switch (kind) {
-        case ControlKind::Key:
-            return QAccessible::PushButton;
-        case ControlKind::Option:
-            return QAccessible::RadioButton;
-        case ControlKind::Field:
-            return QAccessible::EditableText;
-        case ControlKind::List:
-            return QAccessible::List;
-        case ControlKind::Frame:
-            return QAccessible::Grouping;
-        case ControlKind::Lamp:
-            return QAccessible::Indicator;
-        default:
-            return QAccessible::StaticText;
-    }
-}
-
-/// What the control says at the moment: a field's text, a list's selected row.
-QString meaning(const Control& control) {
-    if (control.kind == ControlKind::List && control.rows != nullptr &&
-        control.rows->selected() < control.rows->count()) {
-        return QString::fromStdString(toUnicode(control.rows->row(control.rows->selected()), control.font.face));
-    }
-    return plainCaption(control);
-}
-
-QString spokenName(const Control& control) {
-    if (!control.spoken.empty()) {
-        return QString::fromStdString(toUnicode(control.spoken, Face::Arial));
-    }
-    const QString caption = plainCaption(control).replace('\n', ' ').trimmed();
-    return caption.isEmpty() ? QString::fromStdString(control.fullName()) : caption;
-}
-
-class ControlInterface : public QAccessibleWidget {
-public:
-    explicit ControlInterface(ControlWidget* widget)
-        : QAccessibleWidget(widget, roleOf(widget->control().kind)), widget_(widget) {}
-    [[nodiscard]] QString text(QAccessible::Text which) const override {
-        switch (which) {
-            case QAccessible::Name:
-                return spokenName(widget_->control());
-            case QAccessible::Value:
-                return meaning(widget_->control());
-            default:
-                return QAccessibleWidget::text(which);
-        }
-    }
-    [[nodiscard]] QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.checkable = widget_->control().kind == ControlKind::Option;
-        state.checked = widget_->control().checked;
-        state.disabled = !widget_->control().enabled;
-        state.focused = widget_->hasKeyboard();
-        return state;
-    }
-    // The form has the keyboard as a whole, so an assistive tool clicks instead of focusing.
-    [[nodiscard]] QStringList actionNames() const override {
-        const ControlKind kind = widget_->control().kind;
-        const bool clickable = kind == ControlKind::Key || kind == ControlKind::Option;
-        return clickable ? QStringList{pressAction()} : QStringList{};
-    }
-    void doAction(const QString& action) override {
-        if (action == pressAction()) {
-            widget_->clickForTool();
-        }
-    }
-
-private:
-    ControlWidget* widget_;
-};
-
-QAccessibleInterface* makeInterface(const QString& /*key*/, QObject* object) {
-    auto* widget = qobject_cast<ControlWidget*>(object);
-    return widget == nullptr ? nullptr : new ControlInterface(widget);
-}
 
 template <typename Value>
 bool take(Value& held, const Value& present) {
@@ -107,10 +30,6 @@ bool take(Value& held, const Value& present) {
 
 }  // namespace
 
-void installAccessibility() {
-    QAccessible::installFactory(makeInterface);
-}
-
 ControlWidget::ControlWidget(FormView& formView, Control& shown)
     : QWidget(&formView), view_(formView), control_(shown) {
     setFocusPolicy(Qt::NoFocus);
@@ -118,7 +37,7 @@ ControlWidget::ControlWidget(FormView& formView, Control& shown)
     if (isList()) {
         scrollBar_ = new QScrollBar(Qt::Vertical, this);
         scrollBar_->setFocusPolicy(Qt::NoFocus);
-        scrollBar_->setAccessibleName(spokenName(control_) + " scroll bar");
+        scrollBar_->setAccessibleName(QString::fromStdString(control_.spoken) + " scroll bar");
         scrollBar_->hide();
         connect(scrollBar_, &QScrollBar::valueChanged, this, [this] { update(); });
     }
@@ -130,16 +49,21 @@ ControlWidget::ControlWidget(FormView& formView, Control& shown)
 
 void ControlWidget::sync(double pixelsPerTwip, bool hasKeyboard) {
     const bool rescaled = take(pixelsPerTwip_, pixelsPerTwip);
-    if (take(place_, control_.place) || rescaled) {
-        setGeometry(view_.toPixels(place_));
+    const bool moved = take(place_, control_.place);
+    if (const QRect pixels = view_.toPixels(place_); moved || rescaled || pixels != geometry()) {
+        setGeometry(pixels);
     }
     bool changed = take(text_, control_.text);
+    changed |= take(note_, noteText());
+    changed |= take(label_, labelText());
     changed |= take(font_, control_.font);
     const bool refit = changed || rescaled || fresh_;
     changed |= take(colour_, control_.colour);
     changed |= take(enabled_, control_.enabled);
     changed |= take(checked_, control_.checked);
-    changed |= take(hasKeyboard_, hasKeyboard);
+    const bool keyboardMoved = take(hasKeyboard_, hasKeyboard);
+    const bool cameHere = keyboardMoved && hasKeyboard;
+    changed |= keyboardMoved;
     changed |= control_.kind == ControlKind::Field && take(caret_, control_.caret);
     if (refit && isKey()) {
         constexpr double kCaptionMargin = 36.0;
@@ -163,15 +87,58 @@ void ControlWidget::sync(double pixelsPerTwip, bool hasKeyboard) {
         update();
         syncMeaning();
     }
+    if (cameHere && QAccessible::isActive()) {
+        tellFocus(*this);
+    }
 }
 
+// A mask changes the names of all keys at once; a listener asks for those where the keyboard is.
 void ControlWidget::syncMeaning() {
-    if (!QAccessible::isActive()) {
-        return;
+    const bool heard = hasKeyboard_ || control_.live || control_.kind == ControlKind::Field;
+    if (QAccessible::isActive() && heard) {
+        tellChange(*this);
     }
-    QAccessibleEvent event(this,
-                           control_.kind == ControlKind::Field ? QAccessible::ValueChanged : QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&event);
+}
+
+QString ControlWidget::meaning() const {
+    if (control_.kind == ControlKind::List && control_.rows != nullptr &&
+        control_.rows->selected() < control_.rows->count()) {
+        return QString::fromStdString(toUnicode(control_.rows->row(control_.rows->selected()), control_.font.face))
+            .simplified();
+    }
+    if (control_.kind == ControlKind::Label) {
+        return label();
+    }
+    return control_.kind == ControlKind::Field && control_.text.empty() ? note_ : plainCaption(control_);
+}
+
+QString ControlWidget::labelText() const {
+    if (&control_ != view_.form().nameLine) {
+        return {};
+    }
+    return QString::fromStdString(toUnicode(view_.nameLine(), Face::Arial)).replace('\n', ' ').trimmed();
+}
+
+QString ControlWidget::label() const {
+    return label_.isEmpty() ? shownText(control_) : label_;
+}
+
+QString ControlWidget::noteText() const {
+    return control_.resting ? QString::fromStdString(toUnicode(control_.resting(), Face::Arial)) : QString();
+}
+
+QRect ControlWidget::rowPlace(std::size_t row) const {
+    const auto first = static_cast<std::size_t>(scrollBar_ == nullptr ? 0 : scrollBar_->value());
+    const ListMetrics metrics = listMetrics(control_, height(), pixelsPerTwip_);
+    if (row < first || row >= first + metrics.visibleRows) {
+        return {};
+    }
+    const double top = metrics.top + static_cast<double>(row - first) * metrics.rowHeight;
+    return {mapToGlobal(QPoint(0, static_cast<int>(top))), QSize(width(), static_cast<int>(metrics.rowHeight))};
+}
+
+std::size_t ControlWidget::rowUnder(QPoint global) const {
+    return isList() ? rowAt(mapFromGlobal(global).y()) : 0;
 }
 
 void ControlWidget::syncList() {
@@ -187,6 +154,10 @@ void ControlWidget::syncList() {
     const std::size_t selected = control_.rows->selected();
     if (selected + 1 >= count) {
         scrollBar_->setValue(hidden);
+    } else if (hasKeyboard_) {
+        const int row = static_cast<int>(selected);
+        const int page = static_cast<int>(metrics.visibleRows);
+        scrollBar_->setValue(std::clamp(scrollBar_->value(), row - page + 1, row));
     }
     update();
     syncMeaning();
@@ -206,6 +177,13 @@ void ControlWidget::setPressed(bool pressed) {
     }
 }
 
+void ControlWidget::setHovered(bool hovered) {
+    if (take(hovered_, hovered)) {
+        update();
+        view_.pointAt(hovered ? &control_ : nullptr);
+    }
+}
+
 void ControlWidget::clickForTool() {
     view_.clicked(control_, Qt::NoModifier);
 }
@@ -214,14 +192,20 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF area = rect();
     const Theme& theme = Theme::forPalette(palette());
-    const PaintState state{.pressed = pressed_, .focused = hasKeyboard_, .pixelsPerTwip = pixelsPerTwip_};
+    const PaintState state{.pressed = pressed_,
+                           .focused = hasKeyboard_,
+                           .typing = &control_ == view_.form().typing,
+                           .hovered = hovered_,
+                           .pixelsPerTwip = pixelsPerTwip_,
+                           .scrollBar = scrollBar_ != nullptr && scrollBar_->isVisible() ? scrollBar_->width() : 0,
+                           .note = note_};
     switch (control_.kind) {
         case ControlKind::Key:
             return paintKey(painter, area, control_, caption_, theme, state);
         case ControlKind::Field:
             return paintField(painter, area, control_, theme, state);
         case ControlKind::Label:
-            return paintLabel(painter, area, control_, theme, state);
+            return paintLabel(painter, area, control_, label(), theme, state);
         case ControlKind::Option:
             return paintOption(painter, area, control_, theme, state);
         case ControlKind::Frame:
@@ -304,7 +288,35 @@ bool ControlWidget::event(QEvent* event) {
         keyPressEvent(static_cast<QKeyEvent*>(event));
         return true;
     }
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (const QString whole = cutText(help->pos()); !whole.isEmpty()) {
+            QToolTip::showText(help->globalPos(), whole, this);
+            return true;
+        }
+    }
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+        setHovered(event->type() == QEvent::Enter);
+    }
     return QWidget::event(event);
+}
+
+QString ControlWidget::cutText(QPoint at) const {
+    constexpr double kMargins = 120.0;
+    if (control_.kind == ControlKind::Field) {
+        const QString whole = shownText(control_);
+        const QFont font = fieldFont(control_, height(), pixelsPerTwip_);
+        const bool cut = &control_ != view_.form().typing &&
+                         fittedFieldText(control_, width() - kMargins * pixelsPerTwip_, font) != whole;
+        return cut ? whole : QString();
+    }
+    if (!isList() || control_.rows == nullptr || rowAt(at.y()) >= control_.rows->count()) {
+        return {};
+    }
+    const std::size_t row = rowAt(at.y());
+    const QString whole = QString::fromStdString(toUnicode(control_.rows->row(row), control_.font.face));
+    const QFont font = listFont(control_, listMetrics(control_, height(), pixelsPerTwip_), pixelsPerTwip_);
+    return fittedRow(control_, row, width() - kMargins * pixelsPerTwip_, font) == whole ? QString() : whole;
 }
 
 }  // namespace tallyforge::qt

@@ -30,6 +30,13 @@ public:
     void setPressed(bool pressed);
     [[nodiscard]] bool isPressed() const { return pressed_; }
     [[nodiscard]] bool hasKeyboard() const { return hasKeyboard_; }
+    /// What the control says at the moment: a field's text, or X where it rests; a list's selected row.
+    [[nodiscard]] QString meaning() const;
+    /// What a label shows.
+    [[nodiscard]] QString label() const;
+    /// Where row `row` of a list stands on the screen; empty for one that is scrolled away.
+    [[nodiscard]] QRect rowPlace(std::size_t row) const;
+    [[nodiscard]] std::size_t rowUnder(QPoint global) const;
     /// Clicks the control for an assistive tool.
     void clickForTool();
 
@@ -48,9 +55,15 @@ protected:
 private:
     void syncList();
     void syncMeaning();
+    void setHovered(bool hovered);
+    [[nodiscard]] QString labelText() const;
+    [[nodiscard]] QString noteText() const;
     [[nodiscard]] bool isKey() const { return control_.kind == ControlKind::Key; }
     [[nodiscard]] bool isList() const { return control_.kind == ControlKind::List; }
     [[nodiscard]] std::size_t rowAt(double y) const;
+    /// The whole text of the field, or of the row at that place, where it is shown with its middle
+    /// left out.
+    [[nodiscard]] QString cutText(QPoint at) const;
 
     FormView& view_;
     Control& control_;
@@ -60,7 +73,10 @@ private:
     double pixelsPerTwip_ = 0.0;
     bool held_ = false;     ///< the mouse button went down on it
     bool pressed_ = false;  ///< and it looks so
+    bool hovered_ = false;
     bool hasKeyboard_ = false;
+    QString note_;   ///< shown faintly: X at rest, the first steps
+    QString label_;  ///< the name line's text
 
     // What was shown last.
     std::string text_;
@@ -75,8 +91,5 @@ private:
     bool checked_ = false;
     bool fresh_ = true;
 };
-
-/// Makes assistive tools see each control widget in its role, with its name and value.
-void installAccessibility();
 
 }  // namespace tallyforge::qt

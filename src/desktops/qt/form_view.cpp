@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktops/qt/form_view.h"
 
+#include "desktops/qt/control_interface.h"
 #include "desktops/qt/control_widget.h"
 #include "desktops/qt/key_translation.h"
 #include "platform/key_codes.h"
 
+#include <QAccessible>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -42,6 +44,11 @@ FormView::FormView(Form& form, char decimal, QWidget* parent) : QWidget(parent),
         }
     }
     setMinimumSize(sizeAt(kUsualScale * 0.6));
+    shiftWait_.setSingleShot(true);
+    connect(&shiftWait_, &QTimer::timeout, this, [this] {
+        holdModifiers(form_, kShift);
+        finish();
+    });
 }
 
 QSize FormView::sizeAt(double scale) const {
@@ -62,8 +69,10 @@ ControlWidget* FormView::widgetOf(const Control& control) const {
 }
 
 void FormView::sync() {
+    // Whatever key took the focus, typing goes to the field that hears it all.
+    const Control* keyboard = form_.walked != nullptr ? form_.walked : form_.focus;
     for (ControlWidget* widget : widgets_) {
-        widget->sync(scale_, hasFocus() && form_.focus == &widget->control());
+        widget->sync(scale_, hasFocus() && &widget->control() == keyboard);
     }
 }
 
@@ -75,15 +84,24 @@ void FormView::refit() {
     const double wide = static_cast<double>(width()) / std::max(form_.place.width, 1);
     const double high = static_cast<double>(height()) / std::max(form_.contentHeight(), 1);
     scale_ = std::min(wide, high);
-    // What a window of another shape has to spare stands on both sides.
+    // What a higher window has to spare goes to the lists; what a wider one has, stands on both sides.
     const QSize contents = sizeAt(scale_);
-    origin_ = {std::max(width() - contents.width(), 0) / 2, std::max(height() - contents.height(), 0) / 2};
+    form_.fill(static_cast<int>(std::max(height() - contents.height(), 0) / scale_));
+    origin_ = {std::max(width() - contents.width(), 0) / 2, 0};
     sync();
 }
 
 void FormView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.fillRect(event->rect(), Theme::forPalette(palette()).window);
+    const Theme& theme = Theme::forPalette(palette());
+    painter.fillRect(event->rect(), theme.window);
+    // A key that a mask hides leaves a well, so that the bank keeps its shape.
+    for (const ControlWidget* widget : widgets_) {
+        const Control& control = widget->control();
+        if (control.kind == ControlKind::Key && !control.visible && event->rect().intersects(widget->geometry())) {
+            paintWell(painter, widget->geometry(), theme, scale_);
+        }
+    }
 }
 
 void FormView::changeEvent(QEvent* event) {
@@ -96,8 +114,58 @@ void FormView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
 }
 
+void FormView::pointAt(const Control* control) {
+    pointed_ = control;
+    if (ControlWidget* line = form_.nameLine == nullptr ? nullptr : widgetOf(*form_.nameLine); line != nullptr) {
+        line->sync(scale_, line->hasKeyboard());
+    }
+}
+
+std::string FormView::nameLine() const {
+    return form_.lineFor(pointed_ != nullptr ? pointed_ : form_.walked);
+}
+
+void FormView::say(ControlWidget& widget, const QString& text) {
+    if (text.isEmpty()) {
+        return;
+    }
+    if (announced) {
+        announced(text);
+    }
+    if (QAccessible::isActive()) {
+        // The same result twice is told twice, so this does not ask what was told before.
+        tellChange(widget);
+    }
+}
+
+void FormView::announce() {
+    for (ControlWidget* widget : widgets_) {
+        const Control& control = widget->control();
+        if (!control.live) {
+            continue;
+        }
+        if (control.rows == nullptr) {
+            const QString text = QString::fromStdString(toUnicode(control.text, Face::Arial)).simplified();
+            if (told_.value(&control) != text) {
+                told_.insert(&control, text);
+                say(*widget, text);
+            }
+            continue;
+        }
+        const std::uint64_t revision = control.rows->revision();
+        const std::size_t count = control.rows->count();
+        if (counted_.contains(&control) && counted_.value(&control) != revision && form_.walked != &control &&
+            count > 0) {
+            say(*widget,
+                QString::fromStdString(toUnicode(control.rows->row(count - 1), control.font.face)).simplified());
+        }
+        counted_.insert(&control, revision);
+    }
+}
+
 void FormView::finish() {
     sync();
+    announce();
     if (formChanged) {
         formChanged();
     }
@@ -106,6 +174,8 @@ void FormView::finish() {
 template <typename Act>
 void FormView::underModifiers(Qt::KeyboardModifiers modifiers, Act act) {
     setFocus();
+    // A click counts as shifted while the bank still waits.
+    shiftWait_.stop();
     const std::uint8_t mask = modifierMask(modifiers);
     if (mask != 0) {
         holdModifiers(form_, mask);
@@ -142,11 +212,55 @@ std::uint8_t FormView::ownModifier(const QKeyEvent& event) const {
     return desktopKey ? std::uint8_t{0} : modifierOfKey(event.key());
 }
 
+bool FormView::zooms(const QKeyEvent& event) const {
+    const auto chord = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (!zoomed || chord != Qt::ControlModifier) {
+        return false;
+    }
+    switch (event.key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:
+            zoomed(1);
+            return true;
+        case Qt::Key_Minus:
+            zoomed(-1);
+            return true;
+        case Qt::Key_0:
+            zoomed(0);
+            return true;
+        default:
+            return false;
+    }
+}
+
+// A Shift that goes down alone may be the one of a character, so the bank waits before it changes.
+bool FormView::shiftAlone(const QKeyEvent& event) {
+    constexpr int kWait = 120;
+    if (event.key() != Qt::Key_Shift || held_ != 0 || event.isAutoRepeat() ||
+        (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
+        return false;
+    }
+    held_ = kShift;
+    shiftWait_.start(kWait);
+    return true;
+}
+
+void FormView::dropShiftWait() {
+    if (shiftWait_.isActive()) {
+        shiftWait_.stop();
+        held_ = 0;
+    }
+}
+
 void FormView::keyPressed(QKeyEvent& event) {
     event.accept();
+    if (zooms(event) || shiftAlone(event)) {
+        return;
+    }
     if (const std::uint8_t own = ownModifier(event); own != 0) {
         const auto mask = static_cast<std::uint8_t>(modifierMask(event.modifiers()) | own);
         if (!event.isAutoRepeat()) {
+            shiftWait_.stop();
             held_ = mask;
             holdModifiers(form_, mask);
             finish();
@@ -154,6 +268,13 @@ void FormView::keyPressed(QKeyEvent& event) {
         return;
     }
     const KeyStroke stroke = translate(event, decimal_);
+    if (shiftWait_.isActive()) {
+        dropShiftWait();
+        if (stroke.shift != 0 || (form_.walked != nullptr && stroke.keyCode == kKeySpace)) {
+            held_ = kShift;
+            holdModifiers(form_, held_);
+        }
+    }
     pressKey(form_, stroke);
     showPressed(stroke, true);
     finish();
@@ -166,7 +287,12 @@ void FormView::keyReleased(QKeyEvent& event) {
     }
     if (const std::uint8_t own = ownModifier(event); own != 0) {
         // Platforms differ in whether the modifier that comes up is still reported.
+        const bool unseen = shiftWait_.isActive();
+        dropShiftWait();
         held_ = static_cast<std::uint8_t>(modifierMask(event.modifiers()) & ~own);
+        if (unseen) {
+            return;
+        }
         releaseKey(form_, {.keyCode = kKeyShift, .shift = held_});
     } else {
         const KeyStroke stroke = translate(event, decimal_);
@@ -200,6 +326,7 @@ bool FormView::event(QEvent* event) {
 }
 
 void FormView::letGo() {
+    dropShiftWait();
     if (std::exchange(held_, std::uint8_t{0}) != 0) {
         releaseModifiers(form_);
     }
@@ -215,21 +342,18 @@ void FormView::focusOutEvent(QFocusEvent* event) {
 }
 
 ControlWidget* FormView::keyFor(const KeyStroke& stroke) const {
-    const Control* key = nullptr;
-    const int character = stroke.character;
-    if (stroke.keyCode == kKeyEnter) {
-        key = form_.defaultKey;
-    } else if (character >= '0' && character <= '9') {
-        key = form_.find("cmdNumPad", character - '0');
-    } else if (character == static_cast<unsigned char>(decimal_)) {
-        key = form_.find("cmdNumPad", 10);
-    } else if (const auto at = std::string("/*-+").find(static_cast<char>(character));
-               character != 0 && at != std::string::npos) {
-        key = form_.find("cmdMath", static_cast<int>(at));
-    } else if (stroke.keyCode == kKeyBackspace) {
-        key = form_.find("cmdBackSpace");
+    for (ControlWidget* widget : widgets_) {
+        const Control& key = widget->control();
+        const bool typed = stroke.character >= ' ' && !key.typedBy.empty() &&
+                           key.typedBy.find(static_cast<char>(stroke.character)) != std::string::npos;
+        const bool struck = key.struckBy != 0 && key.struckBy == stroke.keyCode && stroke.shift == 0;
+        const bool byLetter =
+            stroke.shift == kAlt && key.kind == ControlKind::Key && accessLetter(key.text) == stroke.keyCode;
+        if (typed || struck || byLetter) {
+            return widget;
+        }
     }
-    return key == nullptr ? nullptr : widgetOf(*key);
+    return nullptr;
 }
 
 void FormView::showPressed(const KeyStroke& stroke, bool pressed) {

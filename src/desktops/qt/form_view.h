@@ -9,10 +9,12 @@
 
 #include <QHash>
 #include <QPoint>
+#include <QTimer>
 #include <QWidget>
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace tallyforge::qt {
@@ -38,6 +40,13 @@ public:
     [[nodiscard]] QSize sizeAt(double scale) const;
     [[nodiscard]] ControlWidget* widgetOf(const Control& control) const;
 
+    /// The pointer is over this control, or over none.
+    void pointAt(const Control* control);
+    /// What the name line says at present, eight-bit.
+    [[nodiscard]] std::string nameLine() const;
+    /// Hears what a listener is told: results with their labels, modes, keypads.
+    std::function<void(const QString&)> announced;
+
     // Input, from the control widgets.
     void clicked(Control& control, Qt::KeyboardModifiers modifiers);
     void rightClicked(Control& control, Qt::KeyboardModifiers modifiers);
@@ -50,6 +59,8 @@ public:
 
     /// The form asked to be closed, or to be of another size.
     std::function<void()> formChanged;
+    /// Ctrl with +, - or 0: larger (1), smaller (-1), the usual size (0).
+    std::function<void(int steps)> zoomed;
     /// A menu has the access letter `key`.
     std::function<bool(int key)> menuHasLetter;
 
@@ -64,7 +75,12 @@ protected:
 
 private:
     void finish();
+    [[nodiscard]] bool zooms(const QKeyEvent& event) const;
+    [[nodiscard]] bool shiftAlone(const QKeyEvent& event);
+    void dropShiftWait();
     void letGo();
+    void announce();
+    void say(ControlWidget& widget, const QString& text);
     [[nodiscard]] std::uint8_t ownModifier(const QKeyEvent& event) const;
     void showPressed(const KeyStroke& stroke, bool pressed);
     [[nodiscard]] ControlWidget* keyFor(const KeyStroke& stroke) const;
@@ -76,9 +92,13 @@ private:
     double scale_ = kUsualScale;
     QPoint origin_;  ///< where the form's left upper corner stands
     std::uint8_t held_ = 0;
+    QTimer shiftWait_;  ///< runs while a Shift may still belong to a character
     std::vector<ControlWidget*> widgets_;
     QHash<const Control*, ControlWidget*> byControl_;
     ControlWidget* pressedKey_ = nullptr;
+    const Control* pointed_ = nullptr;
+    QHash<const Control*, QString> told_;           ///< what was last announced of a label
+    QHash<const Control*, std::uint64_t> counted_;  ///< and of a list
 };
 
 }  // namespace tallyforge::qt

@@ -7,10 +7,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMoveEvent>
 #include <QScreen>
+#include <QSettings>
 #include <QTimer>
 
 #include <algorithm>
@@ -24,6 +26,7 @@ namespace tallyforge::qt {
 namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
+constexpr const char* kZoomKey = "Window/Zoom";
 
 bool canPlaceWindows() {
     return !QGuiApplication::platformName().startsWith("wayland");
@@ -35,12 +38,14 @@ QString caption(const Control& control) {
 
 }  // namespace
 
-MainWindow::MainWindow(Form& form, char decimal) : form_(form), view_(new FormView(form, decimal, this)) {
+MainWindow::MainWindow(Form& form, char decimal)
+    : form_(form), view_(new FormView(form, decimal, this)), wish_(FormView::kUsualScale) {
     setWindowTitle(QString::fromStdString(toUnicode(form.title, Face::Arial)));
     setWindowIcon(appIcon());
     setCentralWidget(view_);
     buildMenus();
     view_->formChanged = [this] { syncWindow(); };
+    view_->zoomed = [this](int steps) { zoom(steps); };
     view_->menuHasLetter = [this](int key) {
         const auto actions = menuBar()->actions();
         return std::any_of(actions.begin(), actions.end(), [key](const QAction* action) {
@@ -75,11 +80,13 @@ void MainWindow::buildMenus() {
     menuBar()->setFocusPolicy(Qt::NoFocus);
 }
 
-// Esc closes a menu and leaves the menu bar in force; here it gives the keyboard back at once.
+// Esc closes a menu and leaves the menu bar in force, so that the pointer alone opens the next one;
+// a second Esc ends that, and the keyboard is given back at once.
 void MainWindow::leaveMenus() {
     QTimer::singleShot(0, this, [this] {
-        if (QApplication::activePopupWidget() == nullptr && menuBar()->activeAction() != nullptr) {
-            menuBar()->setActiveAction(nullptr);
+        if (QApplication::activePopupWidget() == nullptr) {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QApplication::sendEvent(menuBar(), &escape);
             view_->setFocus();
         }
     });
@@ -94,7 +101,10 @@ void MainWindow::choose(Control& entry) {
 
 void MainWindow::syncMenus() {
     for (const auto& [entry, action] : actions_) {
-        action->setEnabled(entry->enabled && static_cast<bool>(entry->click));
+        const bool enabled = entry->enabled && static_cast<bool>(entry->click);
+        action->setEnabled(enabled);
+        // A letter leads to an entry that can be chosen.
+        action->setText(enabled ? caption(*entry) : caption(*entry).remove('&'));
         action->setCheckable(entry->checked);
         action->setChecked(entry->checked);
     }
@@ -102,6 +112,9 @@ void MainWindow::syncMenus() {
 
 void MainWindow::present() {
     presented_ = true;
+    if (remembersSize) {
+        recallSize();
+    }
     syncMenus();
     syncWindow();
     if (canPlaceWindows() && (form_.place.left > 0 || form_.place.top > 0)) {
@@ -118,10 +131,9 @@ void MainWindow::syncWindow() {
     }
     const bool resized = shownWidth_ != form_.place.width || shownHeight_ != form_.contentHeight();
     if (presented_ && resized) {
-        const double scale = shownWidth_ == 0 ? FormView::kUsualScale : view_->scale();
         shownWidth_ = form_.place.width;
         shownHeight_ = form_.contentHeight();
-        takeSize(scale);
+        takeSize(wish_);
     }
     if (std::exchange(onTop_, form_.alwaysOnTop) != form_.alwaysOnTop && canPlaceWindows()) {
         // The window is made anew by this; it comes back where it was.
@@ -136,10 +148,16 @@ void MainWindow::syncWindow() {
     }
 }
 
+// The window manager's frame is unknown until the window stands; until then it is taken as usual.
+QSize MainWindow::frame() const {
+    constexpr QSize kUsual(4, 36);
+    const QSize around = frameGeometry().size() - size();
+    return knownFrame_.isValid() || !around.isNull() ? around : kUsual;
+}
+
 // The largest scale at which the whole form stands on the screen.
 double MainWindow::largestScale() const {
-    const QSize border = frameGeometry().size() - size();
-    const QSize room = screen()->availableSize() - border - QSize(0, menuBar()->sizeHint().height());
+    const QSize room = screen()->availableSize() - frame() - QSize(0, menuBar()->sizeHint().height());
     // A pixel less each way: sizes are rounded up.
     return std::min(static_cast<double>(room.width() - 1) / form_.place.width,
                     static_cast<double>(room.height() - 1) / form_.contentHeight());
@@ -150,10 +168,73 @@ void MainWindow::takeSize(double scale) {
     constexpr double kLegible = FormView::kUsualScale * 0.6;
     view_->setMinimumSize(view_->sizeAt(std::min(kLegible, limit)));
     if ((windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) == 0) {
+        const bool outer = !std::exchange(sizing_, true);
         const QSize contents = view_->sizeAt(std::min(scale, limit));
         resize(contents.width(), contents.height() + menuBar()->sizeHint().height());
+        sizing_ = !outer;
+        keepOnScreen();
     }
     view_->refit();
+}
+
+// A window that grew beyond the screen moves as far as it must, and back when it is small again.
+void MainWindow::keepOnScreen() {
+    if (!fitsScreen || !isVisible() || !canPlaceWindows()) {
+        return;
+    }
+    const QRect room = screen()->availableGeometry();
+    const QSize outer = size() + frame();
+    const QPoint wished = home_ && pos() == away_ ? *home_ : pos();
+    const QPoint kept(std::clamp(wished.x(), room.left(), std::max(room.left(), room.right() + 1 - outer.width())),
+                      std::clamp(wished.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outer.height())));
+    if (kept != pos()) {
+        home_ = kept == wished ? std::nullopt : std::optional(wished);
+        away_ = kept;
+        move(kept);
+    }
+}
+
+void MainWindow::noteFrame() {
+    const QSize around = frameGeometry().size() - size();
+    if (presented_ && fitsScreen && isVisible() && around != knownFrame_) {
+        knownFrame_ = around;
+        takeSize(wish_);
+    }
+}
+
+void MainWindow::zoom(int steps) {
+    constexpr double kStep = 1.1;
+    constexpr double kSmallest = FormView::kUsualScale * 0.75;
+    constexpr double kLargest = FormView::kUsualScale * 3.0;
+    const double next = steps == 0 ? FormView::kUsualScale : view_->scale() * std::pow(kStep, steps);
+    wish_ = std::clamp(next, kSmallest, kLargest);
+    takeSize(wish_);
+}
+
+void MainWindow::recallSize() {
+    const double stored = QSettings("Oakhollow", "Tallyforge").value(kZoomKey, 1.0).toDouble();
+    wish_ = FormView::kUsualScale * (stored >= 0.5 && stored <= 4.0 ? stored : 1.0);
+}
+
+void MainWindow::storeSize() const {
+    QSettings("Oakhollow", "Tallyforge").setValue(kZoomKey, wish_ / FormView::kUsualScale);
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    // Frames come some time after the window.
+    for (const int soon : {0, 150}) {
+        QTimer::singleShot(soon, this, [this] { noteFrame(); });
+    }
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    const bool filled = (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0;
+    if (presented_ && isVisible() && !sizing_ && !filled) {
+        view_->refit();
+        wish_ = view_->scale();
+    }
 }
 
 void MainWindow::moveEvent(QMoveEvent* event) {
@@ -163,6 +244,7 @@ void MainWindow::moveEvent(QMoveEvent* event) {
         form_.place.top = static_cast<int>(std::lround(pos().y() * kTwipsPerPixel));
     }
     QMainWindow::moveEvent(event);
+    noteFrame();
 }
 
 void MainWindow::changeEvent(QEvent* event) {
@@ -175,6 +257,9 @@ void MainWindow::changeEvent(QEvent* event) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (form_.open) {
         closeForm(form_);
+    }
+    if (remembersSize && !form_.open) {
+        storeSize();
     }
     event->setAccepted(!form_.open);
 }

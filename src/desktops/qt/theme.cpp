@@ -11,34 +11,46 @@ namespace tallyforge::qt {
 namespace {
 
 const Theme& lightTheme() {
-    static const Theme kLight{.window = QColor(0xE9, 0xEB, 0xEE),
+    static const Theme kLight{.window = QColor(0xE6, 0xE9, 0xED),
                               .text = QColor(0x16, 0x1A, 0x1F),
-                              .dimText = QColor(0x8C, 0x93, 0x9C),
-                              .keyPlain = QColor(0xFC, 0xFC, 0xFD),
-                              .keyYellow = QColor(0xFF, 0xFF, 0xA7),
-                              .keyBlue = QColor(0xD5, 0xEA, 0xFF),
-                              .keyEdge = QColor(0xA9, 0xB0, 0xBA),
+                              .dimText = QColor(0x5E, 0x66, 0x70),
+                              .keyPlain = QColor(0xFD, 0xFD, 0xFE),
+                              .keyYellow = QColor(0xFF, 0xF6, 0xB8),
+                              .keyBlue = QColor(0xD8, 0xEA, 0xFC),
+                              .keyEdge = QColor(0x7C, 0x83, 0x8D),
                               .field = QColor(0xFF, 0xFF, 0xFF),
                               .fieldText = QColor(0x10, 0x14, 0x18),
-                              .fieldEdge = QColor(0xB4, 0xBA, 0xC3),
-                              .selection = QColor(0xDC, 0xE6, 0xF2),
-                              .lamp = QColor(0xC6, 0x2F, 0x1E)};
+                              .fieldEdge = QColor(0x7C, 0x83, 0x8D),
+                              .selection = QColor(0xD6, 0xE4, 0xF5),
+                              .lamp = QColor(0xC6, 0x2F, 0x1E),
+                              .secondary = QColor(0x5A, 0x63, 0x6E),
+                              .accent = QColor(0x1D, 0x5A, 0xA0),
+                              .onAccent = QColor(0xFF, 0xFF, 0xFF),
+                              .keyOperator = QColor(0xD9, 0xE2, 0xEE),
+                              .keyMode = QColor(0xEF, 0xF1, 0xF4),
+                              .well = QColor(0xDB, 0xDF, 0xE4)};
     return kLight;
 }
 
 const Theme& darkTheme() {
-    static const Theme kDark{.window = QColor(0x23, 0x26, 0x2B),
+    static const Theme kDark{.window = QColor(0x1E, 0x21, 0x26),
                              .text = QColor(0xEC, 0xEE, 0xF1),
-                             .dimText = QColor(0x7D, 0x84, 0x8E),
-                             .keyPlain = QColor(0x39, 0x3E, 0x45),
-                             .keyYellow = QColor(0x66, 0x60, 0x1C),
-                             .keyBlue = QColor(0x24, 0x4A, 0x70),
-                             .keyEdge = QColor(0x59, 0x60, 0x6A),
-                             .field = QColor(0x15, 0x18, 0x1C),
+                             .dimText = QColor(0xA6, 0xAD, 0xB7),
+                             .keyPlain = QColor(0x33, 0x38, 0x40),
+                             .keyYellow = QColor(0x58, 0x53, 0x1E),
+                             .keyBlue = QColor(0x23, 0x45, 0x68),
+                             .keyEdge = QColor(0x70, 0x78, 0x83),
+                             .field = QColor(0x12, 0x15, 0x19),
                              .fieldText = QColor(0xF2, 0xF4, 0xF6),
-                             .fieldEdge = QColor(0x4D, 0x54, 0x5E),
-                             .selection = QColor(0x2F, 0x3C, 0x4C),
-                             .lamp = QColor(0xFF, 0x7A, 0x5C)};
+                             .fieldEdge = QColor(0x70, 0x78, 0x83),
+                             .selection = QColor(0x2B, 0x3E, 0x56),
+                             .lamp = QColor(0xFF, 0x7A, 0x5C),
+                             .secondary = QColor(0xA6, 0xAD, 0xB7),
+                             .accent = QColor(0x8F, 0xBE, 0xF5),
+                             .onAccent = QColor(0x0C, 0x18, 0x26),
+                             .keyOperator = QColor(0x3B, 0x46, 0x54),
+                             .keyMode = QColor(0x29, 0x2D, 0x33),
+                             .well = QColor(0x24, 0x28, 0x2E)};
     return kDark;
 }
 
@@ -65,8 +77,50 @@ const QColor& Theme::keyFace(KeyColour colour) const {
     return keyPlain;
 }
 
+const QColor& Theme::keyFace(const Control& key) const {
+    if (key.colour != KeyColour::Plain) {
+        return keyFace(key.colour);
+    }
+    switch (key.tone) {
+        case KeyTone::Operator:
+            return keyOperator;
+        case KeyTone::Enter:
+            return accent;
+        case KeyTone::Mode:
+            return keyMode;
+        default:
+            return keyPlain;
+    }
+}
+
+const QColor& Theme::keyText(const Control& key) const {
+    if (!key.enabled) {
+        return dimText;
+    }
+    return key.tone == KeyTone::Enter ? onAccent : text;
+}
+
 const Theme& Theme::forPalette(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128 ? darkTheme() : lightTheme();
+}
+
+QPalette Theme::paletteFor(const QPalette& desktop) {
+    const Theme& theme = forPalette(desktop);
+    QPalette palette = desktop;
+    palette.setColor(QPalette::Window, theme.window);
+    palette.setColor(QPalette::WindowText, theme.text);
+    palette.setColor(QPalette::Base, theme.field);
+    palette.setColor(QPalette::Text, theme.fieldText);
+    palette.setColor(QPalette::Button, theme.keyPlain);
+    palette.setColor(QPalette::ButtonText, theme.text);
+    palette.setColor(QPalette::Highlight, theme.accent);
+    palette.setColor(QPalette::HighlightedText, theme.onAccent);
+    palette.setColor(QPalette::ToolTipBase, theme.field);
+    palette.setColor(QPalette::ToolTipText, theme.fieldText);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, theme.dimText);
+    }
+    return palette;
 }
 
 QFont faceFont(const Font& font, double pixels) {

@@ -25,10 +25,21 @@ struct Theme {
     QColor fieldEdge;
     QColor selection;
     QColor lamp;
+    QColor secondary;  ///< labels on the tape, X at rest, first steps
+    QColor accent;     ///< Enter, the focus
+    QColor onAccent;
+    QColor keyOperator;
+    QColor keyMode;
+    QColor well;
 
     [[nodiscard]] const QColor& keyFace(KeyColour colour) const;
+    /// The face of a key of this kind and group.
+    [[nodiscard]] const QColor& keyFace(const Control& key) const;
+    [[nodiscard]] const QColor& keyText(const Control& key) const;
     /// The theme for a desktop of this palette: dark where its windows are.
     [[nodiscard]] static const Theme& forPalette(const QPalette& palette);
+    /// The desktop's palette with this theme's colours, for Qt's own widgets in a dialog.
+    [[nodiscard]] static QPalette paletteFor(const QPalette& desktop);
 };
 
 /// The font for `font` with text `pixels` high.

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/form_words.h"
+
+#include "engine/engine.h"
+#include "engine/number_display.h"
+#include "keypads/caption_words.h"
+#include "platform/form_input.h"
+#include "platform/key_codes.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace tallyforge {
+
+namespace {
+
+/// X as the display shows numbers; nothing before the first one.
+std::string restingX(const Engine& calc) {
+    const ValueCell& x = calc.s.stack.Xreg;
+    if (calc.s.stack.depth() == 0 || x.isEmptyText()) {
+        return {};
+    }
+    const auto number = x.isTagged() ? std::nullopt : x.tryNumber(calc.s.format.DecimalChar);
+    if (!number) {
+        return calc.text(x);
+    }
+    const NumberLook look{
+        .mode = calc.s.format.Mode, .digits = calc.s.format.DisplayDigits, .decimal = calc.s.format.DecimalChar};
+    return NumberDisplay::shownNumber(*number, look, 0);
+}
+
+/// What a key of the bank does under the modifiers in force.
+std::string bankWords(const Engine& calc, const Control& key) {
+    const EngineState& s = calc.s;
+    if (s.modes.MemoryArrayMode) {
+        // The keys stand for registers: what a register holds.
+        const std::string name = key.text;
+        for (int number = 1; number <= kRegisters; ++number) {
+            if (keyOfRegister(number) == key.index) {
+                const std::string held = calc.text(s.memory.Registers.at(static_cast<std::size_t>(number)));
+                return name + ": " + (held.empty() ? "empty" : held);
+            }
+        }
+        return name;
+    }
+    if (s.modes.ProgramMode) {
+        return {};
+    }
+    std::string caption = toUnicode(key.text, key.font.face);
+    std::replace(caption.begin(), caption.end(), '\n', ' ');
+    const std::string_view words = captionWords(s.modes.ActiveKeypad, caption);
+    return words.empty() ? fromUnicode(caption) : std::string(words);
+}
+
+std::string statusLine(const Engine& calc) {
+    const EngineState& s = calc.s;
+    const bool latched = !calc.form.optKey.back().checked;
+    if (calc.form.shaAlt.visible && !latched) {
+        return "Alt: click Alt below, then the key";
+    }
+    if (latched) {
+        return "Held for the next key";
+    }
+    if (!s.modes.BaseMode) {
+        return {};
+    }
+    return calc.form.lblBank.text + ", " + std::to_string(s.format.WordSize) + " bits";
+}
+
+void hangFunctionKeys(Engine& calc) {
+    MainForm& form = calc.form;
+    const std::array<Control*, 7> chosen{&form.optDeg,    &form.optRad,    &form.optGrad, &form.optFix[0],
+                                         &form.optFix[1], &form.optFix[2], &form.cmdView};
+    form.preview = [&form, chosen](KeyEvent event) {
+        constexpr int kF2 = kKeyF1 + 1;
+        const int at = event.keyCode - kF2;
+        if (event.shift != 0 || at < 0 || at >= static_cast<int>(chosen.size())) {
+            return false;
+        }
+        click(form, *chosen.at(static_cast<std::size_t>(at)));
+        return true;
+    };
+    constexpr int kIntroduction = 500;
+    form.help = [&calc] { calc.platform.helpTopic(kIntroduction); };
+}
+
+}  // namespace
+
+void hangWords(Engine& calc) {
+    MainForm& form = calc.form;
+    form.txtXreg.resting = [&calc] { return restingX(calc); };
+    form.lstDisplayReg.resting = [&calc] {
+        return static_cast<int>(calc.tape.count()) > calc.tape.fillers() || !calc.form.txtXreg.text.empty()
+                   ? std::string{}
+                   : std::string("3 Enter 4 + gives 7\nF1 shows help\nUp and Down change the keypad");
+    };
+    for (Control& key : form.cmdFunctions) {
+        key.words = [&calc, &key] { return bankWords(calc, key); };
+    }
+    form.status = [&calc] { return statusLine(calc); };
+    form.copy = [&calc](std::string_view text) { calc.platform.setClipboardText(text); };
+    hangFunctionKeys(calc);
+}
+
+}  // namespace tallyforge
