@@ -31,7 +31,7 @@ constexpr float kPoints = 8.0F;
 /// Width of a column that holds captions of `letters` letters.
 int columnWidth(std::size_t letters) {
     constexpr int kDot = 270;
-    constexpr int kLetter = 66;
+    constexpr int kLetter = 84;
     return kDot + kLetter * static_cast<int>(letters);
 }
 
@@ -162,8 +162,8 @@ void ConversionDialog::enrolAll() {
 
 void ConversionDialog::placeBank(Bank& placed, int left, int width) {
     const int rows = rowsFor(placed.units);
-    placed.heading.place = {
-        .left = left, .top = kHeadingTop, .width = width * columnsFor(placed.units), .height = kLine};
+    const int headingWidth = std::max(width * columnsFor(placed.units), columnWidth(placed.heading.text.size()));
+    placed.heading.place = {.left = left, .top = kHeadingTop, .width = headingWidth, .height = kLine};
     for (int unit = 0; unit < placed.units; ++unit) {
         placed.buttons[static_cast<std::size_t>(unit)].place = {.left = left + unit / rows * width,
                                                                 .top = kBanksTop + unit % rows * kLine,

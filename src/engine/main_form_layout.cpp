@@ -95,9 +95,10 @@ void MainForm::placeEntry(bool extended, int extra) {
     constexpr int kFieldHeight = 218;
     if (extended) {
         constexpr int kUnderStack = kListTop + kListHeight + 120;
-        Label7.place = {.left = kStackLeft, .top = kUnderStack, .width = kLabelWidth, .height = 260};
+        constexpr int kBesideField = kRight - kFieldWidth - kStackLeft;
+        Label7.place = {.left = kStackLeft, .top = kUnderStack, .width = kBesideField, .height = 260};
         txty_Reg.place = {.left = kRight - kFieldWidth, .top = kUnderStack, .width = kFieldWidth, .height = 260};
-        Label9.place = {.left = kStackLeft, .top = kUnderStack + 340, .width = kLabelWidth, .height = 260};
+        Label9.place = {.left = kStackLeft, .top = kUnderStack + 340, .width = kBesideField, .height = 260};
         txtLastx.place = {.left = kRight - kFieldWidth, .top = kUnderStack + 340, .width = kFieldWidth, .height = 260};
         return;
     }

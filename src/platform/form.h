@@ -165,7 +165,7 @@ public:
     Control* focus = nullptr;       ///< has the keyboard
     Control* focusTold = nullptr;   ///< knows that it has the focus
     Control* typing = nullptr;      ///< hears all typing, whatever key took the focus; none in a dialog
-    Control* walked = nullptr;      ///< where Tab has led on a form with such a field
+    Control* tabbedTo = nullptr;      ///< where Tab has led on a form with such a field
     Control* defaultKey = nullptr;  ///< clicked by Enter
     Control* cancelKey = nullptr;   ///< clicked by Esc
 
@@ -179,7 +179,7 @@ public:
     /// F1; a dialog with a `helpTopic` gets one when it opens.
     std::function<void()> help;
     /// Takes a text over to the clipboard.
-    std::function<void(std::string_view)> copy;
+    std::function<void(std::string_view)> copyText;
     /// Sees each key before the control that has the keyboard; returns whether it keeps it.
     std::function<bool(KeyEvent)> preview;
     std::function<void()> activate;  ///< once shown

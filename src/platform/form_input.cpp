@@ -226,7 +226,7 @@ bool click(Form& form, Control& control, std::uint8_t shift) {
     if (!takesInput(control)) {
         return false;
     }
-    form.walked = nullptr;
+    form.tabbedTo = nullptr;
     guarded(form, [&] {
         focusClicked(form, control);
         settleFocus(form);

@@ -42,11 +42,11 @@ void goToStop(Form& form, bool backwards) {
     for (const Control* control : form.controls()) {
         last = std::max(last, control->walkStop);
     }
-    const int here = form.walked != nullptr ? form.walked->walkStop : form.typing->walkStop;
+    const int here = form.tabbedTo != nullptr ? form.tabbedTo->walkStop : form.typing->walkStop;
     for (int step = 1; step <= last; ++step) {
         const int stop = 1 + (here - 1 + (backwards ? last - step : step)) % last;
         if (Control* found = entryOf(form, stop); found != nullptr) {
-            form.walked = found == form.typing ? nullptr : found;
+            form.tabbedTo = found == form.typing ? nullptr : found;
             return;
         }
     }
@@ -80,11 +80,11 @@ void stepBeside(Form& form, Direction direction) {
         return Direction{.right = control.place.left + control.place.width / 2,
                          .down = control.place.top + control.place.height / 2};
     };
-    const Direction here = middle(*form.walked);
+    const Direction here = middle(*form.tabbedTo);
     Control* nearest = nullptr;
     int best = 0;
     for (Control* control : form.controls()) {
-        if (control == form.walked || control->walkStop != form.walked->walkStop || !isReached(*control)) {
+        if (control == form.tabbedTo || control->walkStop != form.tabbedTo->walkStop || !isReached(*control)) {
             continue;
         }
         const Direction there = middle(*control);
@@ -98,28 +98,28 @@ void stepBeside(Form& form, Direction direction) {
             best = distance;
         }
     }
-    form.walked = nearest == nullptr ? form.walked : nearest;
+    form.tabbedTo = nearest == nullptr ? form.tabbedTo : nearest;
 }
 
 bool copiesRow(const Form& form, KeyStroke stroke) {
-    const ListRows& rows = *form.walked->rows;
-    if (stroke.keyCode != 'C' || stroke.shift != kCtrl || !form.copy || rows.selected() >= rows.count()) {
+    const ListRows& rows = *form.tabbedTo->rows;
+    if (stroke.keyCode != 'C' || stroke.shift != kCtrl || !form.copyText || rows.selected() >= rows.count()) {
         return false;
     }
     const std::string row = rows.row(rows.selected());
     const auto first = row.find_first_not_of(' ');
-    form.copy(first == row.npos ? std::string_view{} : std::string_view(row).substr(first));
+    form.copyText(first == row.npos ? std::string_view{} : std::string_view(row).substr(first));
     return true;
 }
 
 /// Arrows, Home, End, page keys and letters choose a row; Enter recalls it as the mouse does.
 bool walksList(Form& form, KeyStroke stroke) {
-    Control& list = *form.walked;
+    Control& list = *form.tabbedTo;
     if (list.rows == nullptr || list.rows->count() == 0) {
         return false;
     }
     if (stroke.keyCode == kKeyEnter && stroke.shift == 0) {
-        form.walked = nullptr;
+        form.tabbedTo = nullptr;
         runHandler(list.doubleClick ? list.doubleClick : list.click);
         return true;
     }
@@ -139,15 +139,15 @@ bool walksList(Form& form, KeyStroke stroke) {
 
 bool walksOn(Form& form, KeyStroke stroke) {
     if (stroke.keyCode == kKeyEscape) {
-        form.walked = nullptr;
+        form.tabbedTo = nullptr;
         return true;
     }
-    if (stroke.keyCode == kKeySpace && form.walked->kind != ControlKind::List) {
-        Control& pressed = *std::exchange(form.walked, nullptr);
+    if (stroke.keyCode == kKeySpace && form.tabbedTo->kind != ControlKind::List) {
+        Control& pressed = *std::exchange(form.tabbedTo, nullptr);
         click(form, pressed, stroke.shift);
         return true;
     }
-    if (form.walked->kind == ControlKind::List) {
+    if (form.tabbedTo->kind == ControlKind::List) {
         return walksList(form, stroke);
     }
     const auto direction = directionOf(stroke.keyCode);
@@ -164,11 +164,11 @@ bool walkBy(Form& form, KeyStroke stroke) {
         goToStop(form, (stroke.shift & kShift) != 0);
         return true;
     }
-    if (form.walked == nullptr) {
+    if (form.tabbedTo == nullptr) {
         return false;
     }
-    if (!isReached(*form.walked) || !walksOn(form, stroke)) {
-        form.walked = nullptr;
+    if (!isReached(*form.tabbedTo) || !walksOn(form, stroke)) {
+        form.tabbedTo = nullptr;
         return false;
     }
     return true;

@@ -23,7 +23,8 @@ std::string restingX(const Engine& calc) {
     }
     const auto number = x.isTagged() ? std::nullopt : x.tryNumber(calc.s.format.DecimalChar);
     if (!number) {
-        return calc.text(x);
+        const std::string text = calc.text(x);
+        return x.isTagged() ? text : '"' + text + '"';
     }
     const NumberLook look{
         .mode = calc.s.format.Mode, .digits = calc.s.format.DisplayDigits, .decimal = calc.s.format.DecimalChar};
@@ -99,7 +100,7 @@ void hangWords(Engine& calc) {
         key.words = [&calc, &key] { return bankWords(calc, key); };
     }
     form.status = [&calc] { return statusLine(calc); };
-    form.copy = [&calc](std::string_view text) { calc.platform.setClipboardText(text); };
+    form.copyText = [&calc](std::string_view text) { calc.platform.setClipboardText(text); };
     hangFunctionKeys(calc);
 }
 

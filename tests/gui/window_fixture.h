@@ -94,7 +94,8 @@ protected:
     /// The action of a menu entry, by its caption with the access mark.
     QAction* entry(const QString& caption) {
         for (QAction* action : window.findChildren<QAction*>()) {
-            if (action->text() == caption) {
+            // An entry that cannot be chosen has no letter.
+            if (action->text().remove('&') == QString(caption).remove('&')) {
                 return action;
             }
         }

@@ -253,6 +253,12 @@ QFont DialogControl::fitted(QFont font, const QString& text, int margin) const {
     return font;
 }
 
+void DialogControl::setTextPixels(int pixels) {
+    QFont font = widget().font();
+    font.setPixelSize(pixels);
+    widget().setFont(font);
+}
+
 void DialogControl::sync(double scale) {
     const auto pixels = [scale](int twips) { return static_cast<int>(std::lround(twips * scale)); };
     const Place& place = control_.place;

@@ -35,6 +35,9 @@ public:
     /// Shows the control as it is now, at `scale` pixels a twip.
     void sync(double scale);
     [[nodiscard]] Control& control() const { return control_; }
+    /// Height of the text in pixels, as it was fitted.
+    [[nodiscard]] int textPixels() const { return widget().font().pixelSize(); }
+    void setTextPixels(int pixels);
     [[nodiscard]] virtual QWidget& widget() const = 0;
 
 protected:

@@ -82,11 +82,28 @@ void DialogView::sync() {
             key->setDefault(&control->control() == form_.defaultKey);
         }
     }
+    alignOptions();
     if (QWidget* focused = form_.focus == nullptr ? nullptr : widgetOf(*form_.focus);
         focused != nullptr && !focused->hasFocus()) {
         focused->setFocus();
     }
     syncing_ = !outer;
+}
+
+// Options that exclude each other are set in one size, that of the longest.
+void DialogView::alignOptions() {
+    for (const auto& one : controls_) {
+        if (one->control().kind != ControlKind::Option) {
+            continue;
+        }
+        int least = one->textPixels();
+        for (const auto& other : controls_) {
+            least = sameGroup(one->control(), other->control()) ? std::min(least, other->textPixels()) : least;
+        }
+        if (least != one->textPixels()) {
+            one->setTextPixels(least);
+        }
+    }
 }
 
 void DialogView::finish() {

@@ -49,6 +49,7 @@ private:
     [[nodiscard]] bool mousePressed(Control& control, const QEvent& event);
     void focusTaken(Control& control);
     void eraseSelection(Control& field, QWidget& at);
+    void alignOptions();
     void finish();
 
     Form& form_;

@@ -70,7 +70,7 @@ ControlWidget* FormView::widgetOf(const Control& control) const {
 
 void FormView::sync() {
     // Whatever key took the focus, typing goes to the field that hears it all.
-    const Control* keyboard = form_.walked != nullptr ? form_.walked : form_.focus;
+    const Control* keyboard = form_.tabbedTo != nullptr ? form_.tabbedTo : form_.focus;
     for (ControlWidget* widget : widgets_) {
         widget->sync(scale_, hasFocus() && &widget->control() == keyboard);
     }
@@ -122,7 +122,7 @@ void FormView::pointAt(const Control* control) {
 }
 
 std::string FormView::nameLine() const {
-    return form_.lineFor(pointed_ != nullptr ? pointed_ : form_.walked);
+    return form_.lineFor(pointed_ != nullptr ? pointed_ : form_.tabbedTo);
 }
 
 void FormView::say(ControlWidget& widget, const QString& text) {
@@ -154,7 +154,7 @@ void FormView::announce() {
         }
         const std::uint64_t revision = control.rows->revision();
         const std::size_t count = control.rows->count();
-        if (counted_.contains(&control) && counted_.value(&control) != revision && form_.walked != &control &&
+        if (counted_.contains(&control) && counted_.value(&control) != revision && form_.tabbedTo != &control &&
             count > 0) {
             say(*widget,
                 QString::fromStdString(toUnicode(control.rows->row(count - 1), control.font.face)).simplified());
@@ -270,7 +270,7 @@ void FormView::keyPressed(QKeyEvent& event) {
     const KeyStroke stroke = translate(event, decimal_);
     if (shiftWait_.isActive()) {
         dropShiftWait();
-        if (stroke.shift != 0 || (form_.walked != nullptr && stroke.keyCode == kKeySpace)) {
+        if (stroke.shift != 0 || (form_.tabbedTo != nullptr && stroke.keyCode == kKeySpace)) {
             held_ = kShift;
             holdModifiers(form_, held_);
         }

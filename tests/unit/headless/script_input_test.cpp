@@ -23,6 +23,10 @@ protected:
 
 private:
     void listen() {
+        // What the form keeps for itself does not reach the entry line.
+        form().preview = nullptr;
+        form().help = nullptr;
+        form().txtXreg.walkStop = 0;
         Control& entry = form().txtXreg;
         entry.keyDown = [this](KeyEvent event) { note("down", event.keyCode, event.shift); };
         entry.keyPress = [this](int& character) { log.push_back("press " + std::to_string(character)); };
