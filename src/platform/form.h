@@ -165,7 +165,7 @@ public:
     Control* focus = nullptr;       ///< has the keyboard
     Control* focusTold = nullptr;   ///< knows that it has the focus
     Control* typing = nullptr;      ///< hears all typing, whatever key took the focus; none in a dialog
-    Control* tabbedTo = nullptr;      ///< where Tab has led on a form with such a field
+    Control* tabbedTo = nullptr;    ///< where Tab has led on a form with such a field
     Control* defaultKey = nullptr;  ///< clicked by Enter
     Control* cancelKey = nullptr;   ///< clicked by Esc
 

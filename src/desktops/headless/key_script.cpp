@@ -167,13 +167,10 @@ void KeyScript::noteEnd() {
 void KeyScript::driveDialog(Form& dialog) {
     Form* const below = std::exchange(dialog_, &dialog);
     // A restart leaves every dialog first: the handlers below them belong to the calculator that goes.
-    while (dialog.open && !restartDue_) {
-        if (!step(*script_)) {
-            if (const auto look = std::exchange(leftOpen, nullptr)) {
-                look(dialog);
-            }
-            break;
-        }
+    while (dialog.open && !restartDue_ && step(*script_)) {
+    }
+    if (dialog.open && !restartDue_ && leftOpen) {
+        std::exchange(leftOpen, nullptr)(dialog);
     }
     dialog_ = below;
 }

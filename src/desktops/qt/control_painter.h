@@ -3,6 +3,7 @@
 // Draws a control into a rectangle: one function a kind, no state.
 #pragma once
 
+#include "desktops/qt/caption.h"
 #include "desktops/qt/theme.h"
 #include "platform/form.h"
 
@@ -13,22 +14,6 @@
 #include <QStringList>
 
 namespace tallyforge::qt {
-
-/// A control's text as it reads on screen, access mark and all.
-[[nodiscard]] QString shownText(const Control& control);
-/// The same without the access mark.
-[[nodiscard]] QString plainCaption(const Control& control);
-
-/// A caption broken and sized so that it stands inside a key.
-struct FittedCaption {
-    QStringList lines;
-    QFont font;
-    int accessLine = -1;  ///< line and place of the underlined letter
-    int accessAt = -1;
-};
-/// Breaks `caption` at a blank where one line does not fit `size`, and makes the font smaller
-/// until it does.
-[[nodiscard]] FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTwip);
 
 struct PaintState {
     bool pressed = false;
