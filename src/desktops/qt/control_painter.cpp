@@ -158,7 +158,8 @@ void paintOption(QPainter& painter, const QRectF& area, const Control& control, 
         painter.setBrush(theme.text);
         painter.drawEllipse(ring.adjusted(size * 0.25, size * 0.25, -size * 0.25, -size * 0.25));
     }
-    const QRectF textArea = area.adjusted(size + 5.0, 0, 0, 0);
+    constexpr double kBesideRing = 55.0;
+    const QRectF textArea = area.adjusted(size + kBesideRing * state.pixelsPerTwip, 0, 0, 0);
     FittedCaption caption = fitCaption(control, textArea.size(), state.pixelsPerTwip);
     // All options alike, and narrow enough for the longest.
     caption.font.setStretch(QFont::SemiCondensed);
