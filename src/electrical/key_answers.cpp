@@ -13,8 +13,8 @@ void answerWithDigits(Engine& calc, const Result& result, int digits, int operan
 }
 
 void answerBySize(Engine& calc, const Result& result, int digits) {
-    answerWithDigits(calc, result, digits);
-    calc.commit.AutoDigits();
+    replaceX(calc, result);
+    chooseDigits(calc, digits);
 }
 
 void refuse(Engine& calc, const Refusal& refusal) {

@@ -85,6 +85,8 @@ void KeypadModel::writeHint(Keypad keypad) {
     Control& hint = calc.form.lblCnvrt;
     hint.visible = keypad == Keypad::Convert || keypad == Keypad::LetterDrill;
     hint.font.points = 8.0F;
+    // At the far end, clear of a longer name.
+    hint.rightAligned = keypad == Keypad::LetterDrill;
     if (keypad == Keypad::Convert) {
         hint.text = "Use Alt Click to save Cnv. Fctr.";
         hint.tip = " Conversion Factor saved to Reg 2 ";

@@ -136,9 +136,10 @@ void paintField(QPainter& painter, const QRectF& area, const Control& control, c
 
 void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const QString& text, const Theme& theme,
                 PaintState state) {
-    double pixels = std::min(fontPixels(control.font, state.pixelsPerTwip), area.height() * kListFontShare);
+    const double lineHeight = area.height() / static_cast<double>(text.count('\n') + 1);
+    double pixels = std::min(fontPixels(control.font, state.pixelsPerTwip), lineHeight * kListFontShare);
     while (pixels > kSmallestPixels &&
-           QFontMetricsF(faceFont(control.font, pixels)).horizontalAdvance(text) > area.width()) {
+           QFontMetricsF(faceFont(control.font, pixels)).size(0, text).width() > area.width()) {
         pixels *= kNextSmaller;
     }
     painter.setFont(faceFont(control.font, pixels));
