@@ -5,20 +5,21 @@
 #include "engine/results.h"
 #include "numbers/number_format.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tallyforge {
 
 namespace {
 
-constexpr double kMostPlaces = 22.0;
-
 double roundAt(double value, double places) {
+    // No double has a digit behind this place.
+    constexpr double kLastPlace = 340.0;
     const double whole = roundHalfEven(places, 0);
-    if (whole < 0.0 || whole > kMostPlaces) {
+    if (whole < 0.0) {
         throw Failure{FailureNumber::InvalidArgument};
     }
-    return roundHalfEven(value, static_cast<int>(whole));
+    return roundHalfEven(value, static_cast<int>(std::min(whole, kLastPlace)));
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ namespace MathFunctions {
 
 }  // namespace MathFunctions
 
-/// Plain: Y rounded half to even at X places (0 to 22, else 5). Shift: whole part. Ctrl: the
+/// Plain: Y rounded half to even at X places (5 below 0). Shift: whole part. Ctrl: the
 /// fraction. Alt: floor. Shift+Alt: ceiling.
 void rounding(Engine& calc);
 

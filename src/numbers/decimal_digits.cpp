@@ -38,18 +38,18 @@ void DecimalDigits::trim() {
     }
 }
 
-void DecimalDigits::roundTo(int places) {
-    keep(exponent_ + 1 + places);
+bool DecimalDigits::roundTo(int places) {
+    return keep(exponent_ + 1 + places);
 }
 
-void DecimalDigits::keep(int digits) {
+bool DecimalDigits::keep(int digits) {
     if (digits >= count_) {
-        return;
+        return false;
     }
     if (digits < 0) {
         count_ = 0;
         trim();
-        return;
+        return true;
     }
     const auto first = static_cast<std::size_t>(digits);
     const char next = digits_[first];
@@ -71,6 +71,7 @@ void DecimalDigits::keep(int digits) {
         }
     }
     trim();
+    return true;
 }
 
 double DecimalDigits::value() const {

@@ -29,8 +29,9 @@ public:
         return index >= 0 && index < count_ ? digits_[static_cast<std::size_t>(index)] : '0';
     }
 
-    /// Rounds half to even, so that 10^-`places` is the last place that counts.
-    void roundTo(int places);
+    /// Rounds half to even, so that 10^-`places` is the last place that counts. Returns whether
+    /// that took a digit away.
+    bool roundTo(int places);
     /// Rounds half to even to `digits` significant digits (1 or more).
     void roundToDigits(int digits) { keep(digits); }
     /// Moves the point behind the first digit: 1234 becomes 1.234.
@@ -39,7 +40,7 @@ public:
     [[nodiscard]] double value() const;
 
 private:
-    void keep(int digits);
+    bool keep(int digits);
     void trim();
 
     std::array<char, kMost + 1> digits_{};

@@ -330,10 +330,8 @@ double fifteenDigits(double value) {
 
 double roundHalfEven(double value, int places) {
     DecimalDigits digits{value};
-    const auto before = digits.digits().size();
-    digits.roundTo(places);
     // A number that has no more places than asked for keeps its exact value.
-    return digits.digits().size() == before && !digits.zero() ? value : digits.value();
+    return digits.roundTo(places) || digits.zero() ? digits.value() : value;
 }
 
 std::string fixedText(double value, int places) {

@@ -314,6 +314,21 @@ TEST_F(Files, CtrlResetClearsTheRegistersAlone) {
     EXPECT_EQ(everything(), before);
 }
 
+TEST_F(Files, ARegisterNumberIsRoundedHalfToEven) {
+    enter("42");
+    for (const auto& [typed, number] : {std::pair{"0.6", 1}, {"1.5", 2}, {"2.5", 2}, {"23.7", 24}}) {
+        type(typed);
+        clickWith(kShift, form().cmdSTO);
+        EXPECT_EQ(reg(static_cast<std::size_t>(number)), "42") << typed;
+        clickWith(kCtrl, form().cmdReset);
+    }
+    EXPECT_TRUE(platform.boxes.empty());
+    type("24.6");
+    clickWith(kShift, form().cmdSTO);
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes.back().text, "Tne registers are 1 to 24 only!");
+}
+
 TEST_F(Files, AltResetClearsBothAndTheUndoRestoresBoth) {
     work();
     const auto before = everything();

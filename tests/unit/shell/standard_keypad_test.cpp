@@ -313,6 +313,33 @@ TEST_F(StandardKeypad, RoundingIsHalfToEvenAndRefusesNegativePlaces) {
     EXPECT_EQ(element(1), "2.665");
 }
 
+TEST_F(StandardKeypad, ASingleDigitBehindThePlaceRoundsUp) {
+    on({"0.6", "0"}, 11);
+    EXPECT_EQ(x(), "1");
+    on({"1.2"}, 11, kAlt);
+    EXPECT_EQ(x(), "1");
+    on({"0.2"}, 11, kShift | kAlt);
+    EXPECT_EQ(x(), "1");
+    on({"3", "0.7"}, 11);
+    EXPECT_EQ(x(), "3") << "X goes to a whole number, too";
+    on({"4"}, 16, kCtrl);
+    on({"0.15"}, 16);
+    EXPECT_EQ(line(1), "tax                0.01");
+    EXPECT_EQ(x(), "0.16");
+    enter("0.7");
+    choose(form().cmdDigits);
+    EXPECT_EQ(s().format.DisplayDigits, 1);
+}
+
+TEST_F(StandardKeypad, ManyPlacesLeaveTheNumberAsItIs) {
+    for (const char* const places : {"22", "23", "400", "1e300"}) {
+        on({"0.0000000000123456789", places}, 11);
+        EXPECT_EQ(x(), "1.23456789E-11") << places;
+        EXPECT_EQ(label(), "Rnd");
+    }
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
 // Percent and tax.
 
 TEST_F(StandardKeypad, PercentWithCtrlLeavesBothValues) {
