@@ -27,21 +27,22 @@ void Statistics::key() {
         clear();
         pressed_ = false;
     }
+    forgetLostEntry();
     const Sums& sums = Stats;
     switch (s.modifiers.ModifierMask) {
         case kShift:
-            show(sums.StatSumY, "äy"_t, sums.StatSumX, "äx"_t);
+            show(sums.StatSumY.value(), "äy"_t, sums.StatSumX.value(), "äx"_t);
             break;
         case kCtrl:
             return enter(-1.0);
         case kShift | kCtrl:
-            show(sums.StatSumYY, "äyý"_t, sums.StatSumXX, "äxý"_t);
+            show(sums.StatSumYY.value(), "äyý"_t, sums.StatSumXX.value(), "äxý"_t);
             break;
         case kAlt:
-            show(quotient(sums.StatSumY, sums.StatCount), "my", quotient(sums.StatSumX, sums.StatCount), "mx");
+            show(mean(sums.StatSumY), "my", mean(sums.StatSumX), "mx");
             break;
         case kShift | kAlt:
-            pushOnX(calc, {sums.StatSumXY, "äxy"_t});
+            pushOnX(calc, {sums.StatSumXY.value(), "äxy"_t});
             break;
         case kCtrl | kAlt:
             show(deviation(sums.StatSumYY, sums.StatSumY), "Sy", deviation(sums.StatSumXX, sums.StatSumX), "Sx");
@@ -50,7 +51,7 @@ void Statistics::key() {
             clear();
             pushOnX(calc, {ValueCell::zero(), "Reset ä"_t});
             // The next entry takes the place of this 0.
-            entrySlot_ = s.stack.StackPtr;
+            left(s.stack.Xreg);
             break;
         default:
             return enter(1.0);
@@ -74,20 +75,27 @@ void Statistics::enter(double sign) {
     const bool pair = yIsPartOfEntry();
     const double x = calc.xNumber();
     const double y = pair ? operandBelow(calc, 1) : 0.0;
+    const ExactDecimal exactX{sign * x};
+    const ExactDecimal exactY{sign * y};
     Sums next = Stats;
     next.StatCount += sign;
-    next.StatSumX = checked(next.StatSumX + sign * x);
-    next.StatSumY = checked(next.StatSumY + sign * y);
-    next.StatSumXX = checked(next.StatSumXX + sign * x * x);
-    next.StatSumYY = checked(next.StatSumYY + sign * y * y);
-    next.StatSumXY = checked(next.StatSumXY + sign * x * y);
+    next.StatSumX += exactX;
+    next.StatSumY += exactY;
+    next.StatSumXX += ExactDecimal{x} * exactX;
+    next.StatSumYY += ExactDecimal{y} * exactY;
+    next.StatSumXY += ExactDecimal{x} * exactY;
+    for (const ExactDecimal* sum :
+         {&next.StatSumX, &next.StatSumY, &next.StatSumXX, &next.StatSumYY, &next.StatSumXY}) {
+        // One that is out of range could not be shown.
+        static_cast<void>(sum->value());
+    }
     Stats = next;
 
     s.stack.StackPtr = std::max(s.stack.StackPtr - (pair ? 2 : 1), 1);
     if (entrySlot_ > 0 && entrySlot_ == s.stack.StackPtr - 1) {
         s.stack.StackPtr = entrySlot_;
     }
-    entrySlot_ = s.stack.StackPtr;
+    left(s.stack.Xreg);
     pressed_ = true;
     s.stack.LowestStackPtr = s.stack.StackPtr + 1;
     std::string label{sign > 0.0 ? "ä+("_t : "ä-("_t};
@@ -107,16 +115,31 @@ void Statistics::clear() {
     entrySlot_ = 0;
 }
 
-double Statistics::deviation(double sumOfSquares, double sum) const {
-    const double count = Stats.StatCount;
-    const double squareOfSum = quotient(checked(sum * sum), count);
-    double scatter = sumOfSquares - squareOfSum;
-    // Equal entries leave a rounding error where they have no scatter.
-    constexpr double kRoundingError = 1e-12;
-    if (std::abs(scatter) <= kRoundingError * std::abs(squareOfSum)) {
-        scatter = 0.0;
+void Statistics::left(const ValueCell& x) {
+    entrySlot_ = calc.s.stack.StackPtr;
+    entryX_ = x;
+}
+
+// An entry that was dropped or worked on has no place that the next one could take.
+void Statistics::forgetLostEntry() {
+    const StackState& stack = calc.s.stack;
+    if (stack.LowestStackPtr <= entrySlot_ || !(stack.slot(entrySlot_) == entryX_)) {
+        entrySlot_ = 0;
     }
-    return rootOf(quotient(scatter, count - 1.0));
+}
+
+double Statistics::mean(const ExactDecimal& sum) const {
+    return quotient(sum.value(), Stats.StatCount);
+}
+
+double Statistics::deviation(const ExactDecimal& sumOfSquares, const ExactDecimal& sum) const {
+    const double count = Stats.StatCount;
+    const ExactDecimal scatter = ExactDecimal{count} * sumOfSquares - sum * sum;
+    // Squares of numbers that are themselves in range need not be.
+    constexpr int kFarOut = 250;
+    const int half = std::abs(scatter.exponent()) > kFarOut ? scatter.exponent() / 2 : 0;
+    const double variance = quotient(quotient(scatter.value(-2 * half), count), count - 1.0);
+    return checked(rootOf(variance) * std::pow(10.0, half));
 }
 
 }  // namespace tallyforge

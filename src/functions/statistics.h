@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Statistics of one or two variables: sums, means and sample deviations of the numbers that were
-// put in.
+// put in. The sums are exact, so that equal entries have no deviation and close ones keep all digits
+// of theirs.
 #pragma once
+
+#include "numbers/exact_decimal.h"
+#include "numbers/value_cell.h"
 
 #include <string_view>
 
@@ -24,23 +28,27 @@ public:
 private:
     struct Sums {
         double StatCount = 0.0;
-        double StatSumX = 0.0;
-        double StatSumY = 0.0;
-        double StatSumXX = 0.0;
-        double StatSumYY = 0.0;
-        double StatSumXY = 0.0;
+        ExactDecimal StatSumX;
+        ExactDecimal StatSumY;
+        ExactDecimal StatSumXX;
+        ExactDecimal StatSumYY;
+        ExactDecimal StatSumXY;
     };
 
     void enter(double sign);
     [[nodiscard]] bool yIsPartOfEntry() const;
     void show(double ofY, std::string_view labelY, double ofX, std::string_view labelX);
     void clear();
-    [[nodiscard]] double deviation(double sumOfSquares, double sum) const;
+    void left(const ValueCell& x);
+    void forgetLostEntry();
+    [[nodiscard]] double mean(const ExactDecimal& sum) const;
+    [[nodiscard]] double deviation(const ExactDecimal& sumOfSquares, const ExactDecimal& sum) const;
 
     Engine& calc;
     Sums Stats;
     bool pressed_ = false;  ///< since the last reset
     int entrySlot_ = 0;     ///< where the last entry left its X; 0 for none
+    ValueCell entryX_;      ///< that X
 };
 
 }  // namespace tallyforge

@@ -4,6 +4,8 @@
 #include "support/bank_fixture.h"
 
 #include <cmath>
+#include <string>
+#include <vector>
 
 namespace tallyforge {
 namespace {
@@ -141,6 +143,71 @@ TEST_F(StatisticsKey, EqualEntriesHaveNoDeviation) {
     }
     bank(kSigma, kCtrl | kAlt);
     EXPECT_EQ(x(), "0");
+}
+
+TEST_F(StatisticsKey, CloseNumbersKeepAllDigitsOfTheirDeviation) {
+    struct Set {
+        std::vector<const char*> entries;
+        const char* deviation;
+    };
+    const Set sets[] = {{{"1000001", "1000003"}, "1.4142135623731"},
+                        {{"299792.458", "299792.459", "299792.460"}, "0.001"},
+                        {{"1e15", "1e15"}, "0"},
+                        {{"0.1", "0.1", "0.1", "0.1", "0.1", "0.1", "0.1"}, "0"},
+                        {{"1e\\170", "3e\\170"}, "1.4142135623731E-170"},
+                        {{"123456789012345", "123456789012346", "123456789012347"}, "1"}};
+    for (const Set& set : sets) {
+        bank(kSigma, 7);
+        for (const char* const number : set.entries) {
+            entry(number);
+        }
+        bank(kSigma, kCtrl | kAlt);
+        EXPECT_EQ(x(), set.deviation) << set.entries.front();
+        EXPECT_EQ(secondValue(), 0.0);
+    }
+}
+
+TEST_F(StatisticsKey, ALargeEntryThatWasTakenOutAgainLeavesNoTrace) {
+    bank(kSigma, 7);
+    entry("1e30");
+    entry("0.1");
+    entry("0.3");
+    entry("1e30", kCtrl);
+    bank(kSigma, kShift);
+    EXPECT_EQ(x(), "0.4");
+    bank(kSigma, kAlt);
+    EXPECT_EQ(x(), "0.2");
+    bank(kSigma, kCtrl | kAlt);
+    EXPECT_EQ(x(), "0.14142135623731");
+}
+
+TEST_F(StatisticsKey, ASumThatWasShownIsNoEntry) {
+    pair("5", "5");
+    press(kKeyDelete);
+    EXPECT_EQ(s().stack.depth(), 0);
+    bank(kSigma, kShift | kAlt);
+    EXPECT_EQ(x(), "25");
+    entry("3");
+    EXPECT_EQ(s().stack.depth(), 2);
+    EXPECT_EQ(element(1), "25");
+    EXPECT_EQ(x(), "3");
+}
+
+TEST_F(StatisticsKey, AnEntryThatWasWorkedOnKeepsItsPlace) {
+    entry("5");
+    choose(form().cmdChs);
+    entry("7");
+    EXPECT_EQ(s().stack.depth(), 2);
+    EXPECT_EQ(element(1), "-5");
+}
+
+TEST_F(StatisticsKey, ASumBeyondTheRangeRefusesItsEntry) {
+    bank(kSigma, 7);
+    entry("3");
+    entry("1e200");
+    EXPECT_EQ(lastBox(), "Number outside of range: \xB1 1.8e308, & \xB1 4.9e-324");
+    bank(kSigma, kShift);
+    EXPECT_EQ(x(), "3");
 }
 
 }  // namespace
