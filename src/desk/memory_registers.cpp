@@ -42,7 +42,8 @@ std::string cleanName(std::string text) {
 }  // namespace
 
 void MemoryRegisters::store(int number, const ValueCell& value) {
-    calc.s.memory.Registers.at(static_cast<std::size_t>(number)) = value;
+    // An X that a key left empty counts as 0.
+    calc.s.memory.Registers.at(static_cast<std::size_t>(number)) = value.isEmptyText() ? ValueCell::zero() : value;
     calc.form.txtReg_m.at(static_cast<std::size_t>(number) - 1).text = calc.patternText(value, kFieldPattern);
     calc.s.memory.RegistersUsed = true;
 }
@@ -130,7 +131,7 @@ void MemoryRegisters::recall(int number, std::string_view label) {
     EngineState& s = calc.s;
     s.memory.RegistersUsed = true;
     const ValueCell& held = s.memory.Registers.at(static_cast<std::size_t>(number));
-    s.stack.Xreg = held.isEmpty() || held.isEmptyText() ? ValueCell{0.0} : held;
+    s.stack.Xreg = held.isEmpty() ? ValueCell{0.0} : held;
     s.delivery.FnLabel = label;
     calc.form.setFocus(calc.form.cmdEnter);
     s.delivery.ValueInXreg = true;
@@ -236,8 +237,8 @@ void MemoryRegisters::take(const std::array<RegisterLine, kBankKeys>& all) {
         calc.s.memory.RegisterNames.at(static_cast<std::size_t>(key)) = line.name;
         // A register of 0 comes back empty, from a file and from memory alike.
         const auto held = line.value.tryNumber(calc.s.format.DecimalChar);
-        const bool empty = line.value.isEmptyText() || (!line.value.isTagged() && held == 0.0);
-        calc.s.memory.Registers.at(number) = empty ? ValueCell{""} : line.value;
+        const bool empty = line.value.isEmpty() || line.value.isEmptyText() || (!line.value.isTagged() && held == 0.0);
+        calc.s.memory.Registers.at(number) = empty ? ValueCell{} : line.value;
         field.text = empty ? "" : calc.patternText(line.value, kFieldPattern);
         field.tip = line.tip;
         calc.s.memory.RegistersUsed = calc.s.memory.RegistersUsed || !empty;

@@ -34,11 +34,8 @@ bool StackKeys::modifierActive() {
 void StackKeys::takeTop() {
     EngineState& s = calc.s;
     if (s.stack.depth() > 0) {
-        s.stack.Xreg = s.stack.slot(s.stack.StackPtr - 1);
-        s.stack.Yreg = s.stack.slot(s.stack.StackPtr - 2);
-        if (s.stack.Yreg.isEmpty()) {
-            s.stack.Yreg = ValueCell::zero();
-        }
+        s.stack.Xreg = s.stack.operand(s.stack.StackPtr - 1);
+        s.stack.Yreg = s.stack.operand(s.stack.StackPtr - 2);
     }
 }
 

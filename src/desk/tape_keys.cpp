@@ -10,6 +10,7 @@
 #include "records/file_failure.h"
 #include "records/settings_file.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -207,7 +208,10 @@ void TapeKeys::take(const TapeFileContent& content) {
     s.stack.Xreg = orZero(content.Xreg);
     s.stack.StackPtr = content.StackPtr;
     s.stack.Stack.resize(static_cast<std::size_t>(s.stack.StackPtr) + 2);
-    std::copy(content.stack.begin(), content.stack.end(), s.stack.Stack.begin() + 1);
+    std::transform(content.stack.begin(), content.stack.end(), s.stack.Stack.begin() + 1, orZero);
+    // What was left below an empty stack is still the Y that is shown, and what Y is for every key.
+    const ValueCell& below = s.stack.depth() == 0 ? s.stack.Xreg : s.stack.Yreg;
+    s.stack.Stack.front() = s.stack.depth() > 1 || below == ValueCell::zero() ? ValueCell{} : below;
     calc.tape.clear(0);
     for (std::size_t row = 0; row < content.lines.size(); ++row) {
         const auto fillers = static_cast<std::size_t>(content.fillers);

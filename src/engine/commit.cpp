@@ -27,8 +27,11 @@ void Commit::cmdEnter_Click() {
     }
     s.CurrentProc = "cmdEnter";
     s.entry.BaseTagDue = false;
+    if (s.stack.Xreg.isEmptyText() && s.stack.depth() > 0) {
+        s.stack.Xreg = s.stack.LastX;
+    }
     if (s.stack.Xreg.isEmpty() || s.stack.Xreg.isEmptyText()) {
-        s.stack.Xreg = s.stack.depth() > 0 ? s.stack.LastX : ValueCell::zero();
+        s.stack.Xreg = ValueCell::zero();
     }
     if (!s.entry.EntryOpen) {
         s.stack.StackPtr = std::max(s.stack.StackPtr - 1, 0);
@@ -224,12 +227,9 @@ bool Commit::FetchX() {
         }
         return true;
     } else {
-        s.stack.Xreg = s.stack.slot(s.stack.StackPtr - 1);
+        s.stack.Xreg = s.stack.operand(s.stack.StackPtr - 1);
     }
-    s.stack.Yreg = s.stack.slot(s.stack.StackPtr - 2);
-    if (s.stack.Yreg.isEmpty()) {
-        s.stack.Yreg = ValueCell::zero();
-    }
+    s.stack.Yreg = s.stack.operand(s.stack.StackPtr - 2);
     s.delivery.ValueInXreg = true;
     s.delivery.SkipCommitTail = false;
     return true;
@@ -247,7 +247,12 @@ void Commit::BeginEntry() {
 }
 
 void Commit::lowerStack(int operands) {
-    calc.s.stack.StackPtr = std::max(calc.s.stack.StackPtr - (operands - 1), 1);
+    StackState& stack = calc.s.stack;
+    if (stack.depth() < operands) {
+        // A result that was left below the stack has been used up as an operand, too.
+        stack.Stack.front() = ValueCell{};
+    }
+    stack.StackPtr = std::max(stack.StackPtr - (operands - 1), std::min(stack.StackPtr, 2));
 }
 
 void Commit::TapeLine(std::string_view text) {

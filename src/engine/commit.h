@@ -54,8 +54,8 @@ public:
     /// Writes a line of text on the tape and sets X to 0.
     void TapeLine(std::string_view text);
 
-    /// Lowers the depth by `operands` - 1, for a function that has taken so many; a stack too
-    /// short is taken as holding zeros, and StackPtr stays at least 1.
+    /// Lowers the depth by `operands` - 1, for a function that has taken so many. A stack too short
+    /// is taken as holding zeros; where it held an element, one is left for the result.
     void lowerStack(int operands);
 
     /// Lets Drop, x<>y, last x and REG be pressed, as they may be once there is an element.

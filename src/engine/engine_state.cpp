@@ -22,6 +22,11 @@ const ValueCell& StackState::noCell() {
     return kNothing;
 }
 
+ValueCell StackState::operand(int slotNumber) const {
+    const ValueCell& held = slot(slotNumber);
+    return held.isEmpty() ? ValueCell::zero() : held;
+}
+
 int registerOfKey(int keyIndex) {
     return kRegisterOfKey.at(static_cast<std::size_t>(keyIndex));
 }

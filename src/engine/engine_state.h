@@ -81,6 +81,9 @@ struct StackState {
                                                                           : noCell();
     }
 
+    /// The same as an operand: an empty one counts as 0.
+    [[nodiscard]] ValueCell operand(int slotNumber) const;
+
 private:
     [[nodiscard]] static const ValueCell& noCell();
 };

@@ -48,7 +48,8 @@ void pushAtOnce(Engine& calc, const Result& result, bool keepsDigits) {
 }
 
 void replaceWithPair(Engine& calc, int operands, const Result& first, const Result& second, bool keepsDigits) {
-    calc.s.stack.StackPtr = std::max(calc.s.stack.StackPtr - operands, 1);
+    calc.commit.lowerStack(operands);
+    calc.s.stack.StackPtr = std::max(calc.s.stack.StackPtr - 1, 1);
     pushAtOnce(calc, first, keepsDigits);
     pushOnX(calc, second);
 }

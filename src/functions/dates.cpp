@@ -96,9 +96,11 @@ sys_days ParseDate(std::string_view text, char decimal, int thisYear) {
         throw Failure{FailureNumber::TypeMismatch};
     }
     const int month = wholeNumber(date.substr(0, point), 1, 2);
-    const int day = wholeNumber(behind.substr(0, behind.size() - kYearDigits), 1, 2);
+    const std::string_view dayText = behind.substr(0, behind.size() - kYearDigits);
+    const int day = wholeNumber(dayText, 1, 2);
     const int year = wholeNumber(behind.substr(behind.size() - kYearDigits), kYearDigits, kYearDigits);
-    if (year == 0) {
+    // A single 0 is the head of a day whose year has lost a digit.
+    if (year == 0 || dayText == "0") {
         throw Failure{FailureNumber::TypeMismatch};
     }
     const auto first = std::chrono::year{year} / std::chrono::January + std::chrono::months{month - 1};

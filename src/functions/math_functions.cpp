@@ -4,6 +4,7 @@
 #include "numbers/checked_math.h"
 
 #include <cmath>
+#include <numbers>
 
 namespace tallyforge {
 
@@ -14,20 +15,36 @@ constexpr double kHalfTurn = 180.0;  ///< degrees
 constexpr double kTenthInGrads = 40.0;
 constexpr double kTenthInDegrees = 36.0;
 
-/// pi/2 of the inverse functions, to the last bit.
-double quarterTurn() {
-    return 2.0 * std::atan(1.0);
+[[noreturn]] void outsideDomain() {
+    throw Failure{FailureNumber::InvalidArgument};
 }
 
-/// e^x and e^-x; 6 where either is beyond the range.
-struct Exponentials {
-    explicit Exponentials(double x) : up(expOf(x)), down(expOf(-x)) {}
-    double up;
-    double down;
-};
+/// At a pole and beyond it the functions fail as their textbook formulas do: dividing by zero there.
+[[noreturn]] void atPole() {
+    throw Failure{FailureNumber::DivisionByZero};
+}
 
-double squared(double x) {
-    return checked(x * x);
+/// Root of x^2 - 1 for x from 1 on, without the square.
+double rootOfSquareLessOne(double x) {
+    return std::sqrt(x - 1.0) * std::sqrt(x + 1.0);
+}
+
+/// Below this a square is nothing beside 1.
+constexpr double kNoSquare = 1e-8;
+
+/// ln(2 / x) for an x whose reciprocal may be out of range.
+double lnOfTwoOver(double x) {
+    return std::log(2.0) - std::log(x);
+}
+
+/// Arc secant of 1 and the like: 11 at 1, 5 below.
+void refuseWithinOne(double size) {
+    if (size == 1.0) {
+        atPole();
+    }
+    if (size < 1.0) {
+        outsideDomain();
+    }
 }
 
 }  // namespace
@@ -51,9 +68,9 @@ std::optional<double> ArcSin(double x) {
         return std::nullopt;
     }
     if (std::abs(x) == 1.0) {
-        return quarterTurn();
+        return kPi / 2.0;
     }
-    return std::atan(x / std::sqrt(1.0 - x * x));
+    return std::asin(x);
 }
 
 std::optional<double> ArcCos(double x) {
@@ -63,73 +80,102 @@ std::optional<double> ArcCos(double x) {
     if (std::abs(x) == 1.0) {
         return 0.0;
     }
-    return std::atan(-x / std::sqrt(1.0 - x * x)) + quarterTurn();
+    return std::acos(x);
 }
 
 double ArcSec(double x) {
-    return quarterTurn() - ArcCsc(x);
+    refuseWithinOne(std::abs(x));
+    const double root = rootOfSquareLessOne(std::abs(x));
+    return x > 0.0 ? std::atan(root) : std::numbers::pi / 2.0 + std::atan(1.0 / root);
 }
 
 double ArcCsc(double x) {
-    return std::atan(quotient(signOf(x), rootOf(squared(x) - 1.0)));
+    refuseWithinOne(std::abs(x));
+    return std::atan(signOf(x) / rootOfSquareLessOne(std::abs(x)));
 }
 
 double ArcCot(double x) {
-    return quarterTurn() - std::atan(x);
+    return std::atan2(1.0, x);
 }
 
 double Sinh(double x) {
-    const Exponentials e{x};
-    return (e.up - e.down) / 2.0;
+    return checked(std::sinh(x));
 }
 
 double Cosh(double x) {
-    const Exponentials e{x};
-    return checked(e.up + e.down) / 2.0;
+    return checked(std::cosh(x));
 }
 
 double Tanh(double x) {
-    const Exponentials e{x};
-    return quotient(e.up - e.down, e.up + e.down);
+    return std::tanh(x);
 }
 
 double Sech(double x) {
-    const Exponentials e{x};
-    return quotient(2.0, e.up + e.down);
+    const double down = std::exp(-std::abs(x));
+    return 2.0 * down / (1.0 + down * down);
 }
 
 double Csch(double x) {
-    const Exponentials e{x};
-    return quotient(2.0, e.up - e.down);
+    const double size = std::abs(x);
+    return signOf(x) * quotient(-2.0 * std::exp(-size), std::expm1(-2.0 * size));
 }
 
 double Coth(double x) {
-    const Exponentials e{x};
-    return quotient(e.up + e.down, e.up - e.down);
+    return quotient(1.0, std::tanh(x));
 }
 
 double ArcSinh(double x) {
-    return lnOf(x + rootOf(squared(x) + 1.0));
+    return std::asinh(x);
 }
 
 double ArcCosh(double x) {
-    return lnOf(x + rootOf(squared(x) - 1.0));
+    if (x < 1.0) {
+        outsideDomain();
+    }
+    return std::acosh(x);
 }
 
 double ArcTanh(double x) {
-    return lnOf(quotient(1.0 + x, 1.0 - x)) / 2.0;
+    if (x == 1.0) {
+        atPole();
+    }
+    if (std::abs(x) >= 1.0) {
+        outsideDomain();
+    }
+    return std::atanh(x);
 }
 
 double ArcSech(double x) {
-    return lnOf(quotient(rootOf(1.0 - squared(x)) + 1.0, x));
+    if (x == 0.0) {
+        atPole();
+    }
+    if (x < 0.0 || x > 1.0) {
+        outsideDomain();
+    }
+    if (x < kNoSquare) {
+        return lnOfTwoOver(x);
+    }
+    // 1/x less 1, of which no digit is lost near 1.
+    const double excess = (1.0 - x) / x;
+    return std::log1p(excess + std::sqrt(excess * (excess + 2.0)));
 }
 
 double ArcCsch(double x) {
-    return lnOf(quotient(signOf(x) * rootOf(squared(x) + 1.0) + 1.0, x));
+    if (x == 0.0) {
+        atPole();
+    }
+    return std::abs(x) < kNoSquare ? signOf(x) * lnOfTwoOver(std::abs(x)) : std::asinh(1.0 / x);
 }
 
 double ArcCoth(double x) {
-    return lnOf(quotient(x + 1.0, x - 1.0)) / 2.0;
+    if (x == 1.0) {
+        atPole();
+    }
+    const double size = std::abs(x);
+    if (size <= 1.0) {
+        outsideDomain();
+    }
+    return signOf(x) * std::log1p(2.0 / (size - 1.0)) / 2.0;
 }
 
 double Log10(double x) {
@@ -151,7 +197,7 @@ Rectangular PolarToRect(double r, double theta, AngleMode mode) {
 }
 
 Polar RectToPolar(double x, double jy, AngleMode mode) {
-    const double r = rootOf(squared(x) + squared(jy));
+    const double r = checked(std::hypot(x, jy));
     if (x == 0.0) {
         const double quarter = fromRadians(kPi / 2.0, mode);
         return {.r = r, .theta = jy < 0.0 ? -quarter : quarter};

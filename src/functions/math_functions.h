@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The pure mathematics: values in, values out, or a Failure. Angles are radians unless told.
-// Domain faults raise 5 (logarithm of 0 and below, root of a negative number), 6 (beyond the range
-// of a double, on the way too) and 11 (division by zero).
-//
-// Formulas are the textbook ones by exponentials and arc tangents, as in Abramowitz and Stegun,
-// chapter 4, and have their cancellations: the hyperbolic inverses lose digits for arguments near
-// 0 and for large negative ones.
+// Domain faults raise what the textbook formulas by logarithms and roots (Abramowitz and Stegun,
+// chapter 4) raise: 5 (logarithm of 0 and below, root of a negative number) and 11 (division by
+// zero); a result beyond the range of a double raises 6. The values are computed in forms that keep
+// all digits wherever the result is in range.
 #pragma once
 
 #include "engine/engine_state.h"
@@ -22,7 +20,8 @@ namespace MathFunctions {
 [[nodiscard]] double Csc(double x);
 [[nodiscard]] double Cot(double x);
 
-/// Empty where the argument is refused, beyond -1 to 1. Keeps +pi/2 for -1 as for 1.
+/// Empty where the argument is refused, beyond -1 to 1. Keeps +pi/2 for -1 as for 1, by the
+/// calculator's own pi, so that it is a right angle in every unit.
 [[nodiscard]] std::optional<double> ArcSin(double x);
 /// Empty where the argument is refused, beyond -1 to 1. Keeps 0 for -1 as for 1.
 [[nodiscard]] std::optional<double> ArcCos(double x);

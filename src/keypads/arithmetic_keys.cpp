@@ -7,6 +7,7 @@
 #include "numbers/checked_math.h"
 #include "numbers/out_of_range.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -78,7 +79,8 @@ void ArithmeticKeys::cmdMath_Click(int index) {
         return;
     }
     if (s.modifiers.ModifierMask == 0) {
-        calc.commit.lowerStack(2);
+        // On a single element this leaves the result below an empty stack.
+        s.stack.StackPtr = std::max(s.stack.StackPtr - 1, 1);
     }
     calc.ClearOptKeys();
     s.delivery.ValueInXreg = true;
@@ -131,10 +133,7 @@ std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& 
 void ArithmeticKeys::abandon() {
     EngineState& s = calc.s;
     s.stack.Xreg = s.stack.LastX;
-    s.stack.LastX = s.stack.slot(s.stack.StackPtr - 2);
-    if (s.stack.LastX.isEmpty()) {
-        s.stack.LastX = ValueCell::zero();
-    }
+    s.stack.LastX = s.stack.operand(s.stack.StackPtr - 2);
     s.delivery.FnLabel.clear();
     calc.stackList.refresh();
     calc.commit.ShowSmallRegs();

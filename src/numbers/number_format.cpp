@@ -17,7 +17,7 @@ namespace tallyforge {
 
 namespace {
 
-enum class Reading { Number, NoNumber, TooLarge };
+enum class Reading { Number, NoNumber, OutOfRange };
 
 bool isDigit(char character) {
     return character >= '0' && character <= '9';
@@ -48,26 +48,6 @@ bool isExponent(std::string_view text) {
     return !text.empty() && digitRun(text) == text.size();
 }
 
-/// Of a number beyond the range of a double, with a decimal point: whether it is too large, and not
-/// too small. The exponent of its first digit that is not 0 tells.
-bool isTooLarge(std::string_view text) {
-    text.remove_prefix(text.starts_with('-') || text.starts_with('+') ? 1 : 0);
-    const auto mark = std::min(text.find_first_of("eE"), text.size());
-    const std::string_view mantissa = text.substr(0, mark);
-    std::string_view power = text.substr(std::min(mark + 1, text.size()));
-    power.remove_prefix(power.starts_with('+') ? 1 : 0);
-    long long exponent = 0;
-    if (std::from_chars(power.data(), power.data() + power.size(), exponent).ec == std::errc::result_out_of_range) {
-        return !power.starts_with('-');
-    }
-    // Neither side comes near the limits of the sum: a mantissa has no 2^60 characters.
-    constexpr long long kFar = 1LL << 60;
-    exponent = std::clamp(exponent, -kFar, kFar);
-    const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
-    const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
-    return exponent + point - first > 0;
-}
-
 Reading scan(std::string_view text, char decimal, double& value) {
     text = withoutBlanks(text);
     if (text.starts_with('+')) {
@@ -96,14 +76,7 @@ Reading scan(std::string_view text, char decimal, double& value) {
         text = plain;
     }
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) {
-        if (isTooLarge(text)) {
-            return Reading::TooLarge;
-        }
-        // A number too small reads as 0.
-        value = text.starts_with('-') ? -0.0 : 0.0;
-    }
-    return Reading::Number;
+    return result.ec == std::errc::result_out_of_range ? Reading::OutOfRange : Reading::Number;
 }
 
 void appendExponent(std::string& out, int exponent) {
@@ -271,7 +244,7 @@ double readNumber(std::string_view text, char decimal) {
     switch (scan(text, decimal, value)) {
         case Reading::NoNumber:
             throw Failure{FailureNumber::TypeMismatch};
-        case Reading::TooLarge:
+        case Reading::OutOfRange:
             throw Failure{FailureNumber::Overflow};
         case Reading::Number:
             break;

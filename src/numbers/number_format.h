@@ -16,8 +16,8 @@ namespace tallyforge {
 inline constexpr int kTextDigits = 15;
 
 /// The number that `text` reads as: blanks around it are dropped; sign, digits with at most one
-/// `decimal`, and an exponent of "e" or "E" with sign and digits. Too small a number reads 0.
-/// Failures: 13 where it is no number, 6 where it is beyond the range of a double.
+/// `decimal`, and an exponent of "e" or "E" with sign and digits.
+/// Failures: 13 where it is no number, 6 where it is beyond the range of a double, too small too.
 [[nodiscard]] double readNumber(std::string_view text, char decimal);
 
 /// readNumber without the failures: empty where it would raise one.

@@ -175,10 +175,10 @@ RegisterLine parseRegisterLine(std::string_view line, char decimal) {
         damaged();
     }
     const std::string_view value = line.substr(kNameWidth, comma - kNameWidth);
-    RegisterLine parsed{.name = std::string(line.substr(0, kNameWidth)),
-                        .value = ValueCell{""},
-                        .tip = std::string(line.substr(comma + 1))};
-    if (value != " 0") {
+    RegisterLine parsed{
+        .name = std::string(line.substr(0, kNameWidth)), .value = {}, .tip = std::string(line.substr(comma + 1))};
+    // A register that holds nothing is empty, as one that was never written.
+    if (value != " 0" && !trimmed(value).empty()) {
         parsed.value = readValue(withDecimal(std::string(value), '.', decimal), decimal);
     }
     return parsed;

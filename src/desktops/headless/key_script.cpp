@@ -211,8 +211,9 @@ void KeyScript::withModifiers(std::uint8_t shift, Act act) {
     act(all);
     if (shift != 0) {
         releaseModifiers(form());
-        repeatHeld();
     }
+    // A key has used its modifiers up, but these are still down.
+    repeatHeld();
 }
 
 void KeyScript::type(std::string_view text) {

@@ -6,10 +6,12 @@
 // beyond, to those of the closed forms.
 #include "functions/math_functions.h"
 #include "numbers/failure.h"
+#include "unit/functions/long_values.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <string>
 
 namespace tallyforge {
@@ -23,13 +25,6 @@ struct Published {
     double argument;
     double value;
 };
-
-double arcSinOf(double x) {
-    return ArcSin(x).value_or(-1000.0);
-}
-double arcCosOf(double x) {
-    return ArcCos(x).value_or(-1000.0);
-}
 
 constexpr Published kPublished[] = {
     {"sec", Sec, 1.0, 1.850815717680926},         {"csc", Csc, 1.0, 1.188395105778121},
@@ -57,9 +52,31 @@ TEST(MathFunctionsTest, AgreeWithThePublishedTables) {
     }
 }
 
+TEST(MathFunctionsTest, KeepFifteenDigitsWhereverTheResultIsInRange) {
+    for (const LongValue& row : kLongValues) {
+        const long double exact = std::strtold(row.value, nullptr);
+        const long double unit = std::pow(10.0L, std::floor(std::log10(std::abs(exact))) - 14.0L);
+        EXPECT_LE(std::abs(static_cast<long double>(row.function(row.argument)) - exact), unit)
+            << row.name << "(" << row.argument << ") is " << row.value;
+    }
+}
+
+TEST(MathFunctionsTest, PolarKeepsItsDigitsFromTheWholeRange) {
+    for (const double size : {3e-307, 3e-200, 3e-10, 3.0, 3e10, 3e200, 3e307}) {
+        const auto polar = RectToPolar(size, size / 3.0 * 4.0, AngleMode::Radians);
+        EXPECT_NEAR(polar.r / (size / 3.0 * 5.0), 1.0, 1e-15) << size;
+        EXPECT_NEAR(polar.theta, 0.92729521800161223243, 1e-15) << size;
+        const auto back = PolarToRect(polar.r, polar.theta, AngleMode::Radians);
+        EXPECT_NEAR(back.x / size, 1.0, 1e-15) << size;
+    }
+    EXPECT_THROW((void)RectToPolar(1.7e308, 1.7e308, AngleMode::Radians), Failure);
+}
+
 TEST(MathFunctionsTest, KeepsTheSignlessArcSineAndArcCosineAtMinusOne) {
-    EXPECT_DOUBLE_EQ(arcSinOf(-1.0), std::acos(0.0));
-    EXPECT_DOUBLE_EQ(arcSinOf(1.0), std::acos(0.0));
+    EXPECT_EQ(arcSinOf(-1.0), kPi / 2.0);
+    EXPECT_EQ(arcSinOf(1.0), kPi / 2.0);
+    EXPECT_EQ(fromRadians(arcSinOf(1.0), AngleMode::Degrees), 90.0);
+    EXPECT_EQ(fromRadians(arcSinOf(-1.0), AngleMode::Grads), 100.0);
     EXPECT_EQ(arcCosOf(-1.0), 0.0);
     EXPECT_EQ(arcCosOf(1.0), 0.0);
 }

@@ -117,9 +117,9 @@ TEST_F(ScriptInput, FurtherModifiersAddToTheHeldOnes) {
     EXPECT_EQ(events({"hold Shift", "hold Alt+Ctrl"}), (Lines{"down 16 1", "down 18 7"}));
 }
 
-TEST_F(ScriptInput, AHeldModifierRepeatsBeforeAClick) {
+TEST_F(ScriptInput, AHeldModifierRepeatsBeforeAClickAndBehindIt) {
     EXPECT_EQ(events({"hold Shift", "click cmdEsc", "release", "click cmdEsc"}),
-              (Lines{"down 16 1", "down 16 1", "click", "up 16 0", "click"}));
+              (Lines{"down 16 1", "down 16 1", "click", "down 16 1", "up 16 0", "click"}));
 }
 
 TEST_F(ScriptInput, ModifiersInFrontOfAClickAreHeldForTheClick) {

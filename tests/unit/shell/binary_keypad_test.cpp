@@ -68,6 +68,16 @@ TEST_F(BinaryKeypad, WrongDigitsAreToldWithWhatTheLetterStandsFor) {
     EXPECT_EQ(s().stack.depth(), 0);
 }
 
+TEST_F(BinaryKeypad, ALogicKeyLeavesOneElementOfASingleOne) {
+    for (const std::size_t key : {5U, 11U, 23U}) {
+        choose(form().cmdReset);
+        enter("#1Fh");
+        bank(key);
+        EXPECT_EQ(s().stack.depth(), 1) << form().cmdFunctions.at(key).text;
+        EXPECT_TRUE(x().starts_with('#')) << x();
+    }
+}
+
 TEST_F(BinaryKeypad, LettersInSmallAndAMissingLetter) {
     type("#1G");
     EXPECT_EQ(form().txtXreg.text, "#1");

@@ -339,6 +339,35 @@ TEST_F(Files, AltResetClearsBothAndTheUndoRestoresBoth) {
     EXPECT_EQ(everything(), before);
 }
 
+TEST_F(Files, AnEmptyRegisterCountsAsZeroAfterAnUndo) {
+    enter("6");
+    clickWith(kAlt, form().cmdReset);
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    clickWith(kCtrl, form().cmdMath[3]);
+    EXPECT_EQ(reg(1), "6");
+    EXPECT_EQ(x(), "6");
+    clickWith(kAlt, form().cmdMath[3]);
+    EXPECT_EQ(x(), "6") << "the constant register is empty";
+    EXPECT_EQ(form().txtReg_m[2].text, "");
+}
+
+TEST_F(Files, WhatWasLeftBelowTheStackIsThereAfterAnUndo) {
+    type("5+");
+    enter("3");
+    choose(form().cmdReset);
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    EXPECT_EQ(calc().text(s().stack.Yreg), "5");
+    type("+");
+    EXPECT_EQ(x(), "8");
+    choose(form().cmdReset);
+    type("5+");
+    choose(form().cmdReset);
+    clickWith(kShift | kCtrl | kAlt, form().cmdReset);
+    EXPECT_EQ(x(), "5");
+    enter("3");
+    EXPECT_EQ(calc().text(s().stack.Yreg), "5");
+}
+
 TEST_F(Files, OtherMasksOfResetDoNothing) {
     work();
     const auto before = everything();

@@ -286,6 +286,28 @@ TEST_F(StandardKeypad, KeepsTheLimitsOfGamma) {
     }
 }
 
+TEST_F(StandardKeypad, AFunctionOfTwoOperandsLeavesOneElementOfASingleOne) {
+    const struct {
+        std::size_t key;
+        std::uint8_t mask;
+    } keys[] = {{5, 0}, {4, kShift | kCtrl}, {6, kShift}, {11, 0}};
+    for (const auto& [key, mask] : keys) {
+        choose(form().cmdReset);
+        enter("3");
+        bank(key, mask);
+        if (platform.boxes.empty()) {
+            EXPECT_EQ(s().stack.depth(), 1) << "key " << key;
+        }
+        platform.boxes.clear();
+    }
+    choose(form().cmdReset);
+    enter("3");
+    bank(5);
+    EXPECT_EQ(x(), "0") << "0 to the third power";
+    enter("2");
+    EXPECT_EQ(s().stack.depth(), 2);
+}
+
 // Rounding.
 
 TEST_F(StandardKeypad, KeepsFloorAndCeilingOfWholeNumbers) {
@@ -329,6 +351,15 @@ TEST_F(StandardKeypad, ASingleDigitBehindThePlaceRoundsUp) {
     enter("0.7");
     choose(form().cmdDigits);
     EXPECT_EQ(s().format.DisplayDigits, 1);
+}
+
+TEST_F(StandardKeypad, ATypedNumberThatIsTooSmallIsOutOfRange) {
+    enter("7");
+    enter("5e\\400");
+    EXPECT_EQ(lastBox(), "Number outside of range: ± 1.8e308, & ± 4.9e-324"_t);
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(s().stack.depth(), 1);
+    EXPECT_EQ(element(0), "7");
 }
 
 TEST_F(StandardKeypad, ManyPlacesLeaveTheNumberAsItIs) {
