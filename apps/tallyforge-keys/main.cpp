@@ -6,6 +6,7 @@
 #include "desktops/headless/key_script.h"
 #include "electrical/lookup_tables.h"
 #include "keypads/keypad_table.h"
+#include "program/program_check.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -20,6 +21,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,18 +32,21 @@ namespace {
 
 using namespace tallyforge;
 
+constexpr int kFindings = 1;
 constexpr int kWrongCall = 2;
 constexpr int kTimeIsUp = 3;
 constexpr const char* kUsage =
     "usage: tallyforge-keys [--data DIR] [--home DIR] [--decimal point|comma] [--now \"YYYY-MM-DD HH:MM:SS\"]\n"
     "                       [--seed N] [--dpi N] [--tips] [--timeout S] [--unfinished] [--table [NAME]] [SCRIPT]\n"
     "       tallyforge-keys --convert [--exact] [--decimal point|comma] [FILE]\n"
-    "       tallyforge-keys --units\n";
+    "       tallyforge-keys --units\n"
+    "       tallyforge-keys --check PROGRAM\n";
 
 struct Call {
     HeadlessOptions options;
     std::optional<double> timeout;
     std::string script;
+    std::string program;  ///< to be checked
     bool unfinished = false;
     bool converts = false;
     bool exact = false;
@@ -156,6 +161,8 @@ bool takeOption(Call& call, const std::string& name, const std::string& value) {
         const auto dots = readDotsPerInch(value);
         call.options.dotsPerInch = dots.value_or(call.options.dotsPerInch);
         return dots.has_value();
+    } else if (name == "--check" && !value.empty()) {
+        call.program = value;
     } else if (name == "--timeout") {
         call.timeout = readTimeout(value);
         return call.timeout.has_value();
@@ -208,6 +215,21 @@ void listUnfinished() {
             }
         }
     }
+}
+
+/// Lists what is wrong with a program, a line each: "FILE:LINE: what". Returns the exit status.
+int checkFile(const std::string& name) {
+    std::ifstream file(name, std::ios::binary);
+    if (!file || !std::filesystem::is_regular_file(name)) {
+        std::fprintf(stderr, "tallyforge-keys: cannot read %s\n", name.c_str());
+        return kWrongCall;
+    }
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    const auto findings = checkProgram(text);
+    for (const ProgramFinding& finding : findings) {
+        std::printf("%s:%d: %s\n", name.c_str(), finding.line, toUnicode(finding.text, Face::Arial).c_str());
+    }
+    return findings.empty() ? 0 : kFindings;
 }
 
 /// The script may print while the watch flushes, so lines go through stdio, which locks.
@@ -338,6 +360,9 @@ int main(int argc, char** argv) {
     }
     if (call->converts) {
         return convertLines(*call);
+    }
+    if (!call->program.empty()) {
+        return checkFile(call->program);
     }
     return call->table ? printTable(*call->table) : runScript(*call);
 }

@@ -5,6 +5,7 @@
 #include "numbers/number_format.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -38,16 +39,66 @@ double roundedHalfEven(double value) {
     return up ? below + 1.0 : below;
 }
 
-std::uint64_t wholeOfPlain(const ValueCell& value, char decimal) {
-    const std::string_view text = value.textView();
-    if (!text.empty() && text.find_first_not_of("0123456789") == text.npos) {
-        // More digits than a double holds may have been typed.
-        return readDigits(text, kDecimal);
+/// Digits of a decimal text and how many of them stand before the point.
+struct DecimalText {
+    std::string digits;
+    int whole = 0;
+};
+
+DecimalText takeApart(std::string_view number, char decimal) {
+    DecimalText parts;
+    const auto mark = std::min(number.find_first_of("eE"), number.size());
+    bool behindPoint = false;
+    for (const char character : number.substr(0, mark)) {
+        behindPoint = behindPoint || character == decimal;
+        if (character >= '0' && character <= '9') {
+            parts.digits += character;
+            parts.whole += behindPoint ? 0 : 1;
+        }
     }
+    std::string_view power = number.substr(std::min(mark + 1, number.size()));
+    power.remove_prefix(power.starts_with('+') ? 1 : 0);
+    int exponent = 0;
+    std::from_chars(power.data(), power.data() + power.size(), exponent);
+    parts.whole += exponent;
+    return parts;
+}
+
+/// The whole value of a decimal text above 0, by its digits: more may have been typed than a double
+/// holds. Half to even, half up where `halfUp`.
+std::uint64_t wholeOfText(const DecimalText& number, bool halfUp) {
+    if (number.whole < 0) {
+        return 0;
+    }
+    const auto whole = static_cast<std::size_t>(number.whole);
+    std::string digits = "0" + number.digits.substr(0, whole);
+    digits.resize(whole + 1, '0');
+    const std::uint64_t value = readDigits(digits, kDecimal);
+    if (whole >= number.digits.size() || number.digits[whole] < '5') {
+        return value;
+    }
+    const bool tie =
+        number.digits[whole] == '5' && number.digits.find_first_not_of('0', whole + 1) == std::string::npos;
+    if (tie && !halfUp && value % 2 == 0) {
+        return value;
+    }
+    if (value == std::numeric_limits<std::uint64_t>::max()) {
+        throw Failure{FailureNumber::Overflow};
+    }
+    return value + 1;
+}
+
+std::uint64_t wholeOfPlain(const ValueCell& value, char decimal) {
     constexpr std::size_t kRoundedUpLength = 16;
     const double number = value.number(decimal);
     const std::string shown = value.text(decimal);
     const bool halfUp = shown.size() == kRoundedUpLength && shown.find(decimal) != std::string::npos;
+    if (number <= 0.0) {
+        return 0;
+    }
+    if (value.isText()) {
+        return wholeOfText(takeApart(shown, decimal), halfUp);
+    }
     return wholeOfDouble(halfUp ? std::floor(number + 0.5) : roundedHalfEven(number));
 }
 

@@ -212,10 +212,19 @@ int EntryLine::accept(int key) {
     if (key >= 'A' && key <= 'F') {
         return acceptLetter(key);
     }
+    if (calc.s.entry.BaseTagDue) {
+        // Small letters are digits, too; b, d, h and o name the base.
+        if (key == 'a' || key == 'c' || key == 'e' || key == 'f') {
+            return key - 'a' + 'A';
+        }
+        if (key == 'd') {
+            return acceptBaseKey(key);
+        }
+    }
     if (commands.arithmetic(key) || commands.functionCharacter(key)) {
         return 0;
     }
-    return key == 'e' || key == kBackTick ? (key == 'e' && calc.s.entry.BaseTagDue ? 0 : eex()) : acceptBaseKey(key);
+    return key == 'e' || key == kBackTick ? eex() : acceptBaseKey(key);
 }
 
 int EntryLine::acceptLetter(int key) {

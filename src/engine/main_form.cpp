@@ -317,6 +317,8 @@ std::array<KeypadEntry, 6> MainForm::keypadMenu() {
 }
 
 void MainForm::enableKeypadMenu(bool enabled) {
+    // A bank that is lent shows no captions that could be painted or not.
+    mnuSkins.enabled = enabled;
     for (const KeypadEntry& entry : keypadMenu()) {
         entry.control.enabled = enabled;
     }

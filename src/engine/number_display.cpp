@@ -143,6 +143,11 @@ std::string fixedNumber(double value, int digits, char decimal) {
     return fraction.empty() ? head : head + decimal + groupFraction(fraction);
 }
 
+/// A number of a base has no decimal character.
+bool isWhole(std::string_view tagged) {
+    return tagged.find_first_of(".,") == std::string_view::npos;
+}
+
 }  // namespace
 
 void NumberDisplay::DspFmat(const ValueCell& shown) {
@@ -154,7 +159,7 @@ void NumberDisplay::DspFmat(const ValueCell& shown) {
     ValueCell value = shown;
     s.CurrentProc = "DspFmat";
     if (value.isTagged()) {
-        if (baseLayout(value.textView()) != nullptr) {
+        if (baseLayout(value.textView()) != nullptr && isWhole(value.textView())) {
             SetUpDisplay(std::string(value.textView()));
         } else {
             tagWithHex(value);
@@ -193,7 +198,7 @@ void NumberDisplay::tagWithHex(const ValueCell& value) {
     const std::string_view digits = value.textView().substr(1);
     const bool hexDigit =
         std::any_of(digits.begin(), digits.end(), [](char digit) { return digit >= 'A' && digit <= 'F'; });
-    if (!hexDigit) {
+    if (!hexDigit || !isWhole(digits)) {
         calc.message(BoxKind::Stop, "Error!", "Binary indicator (b, d, h, o) required");
         s.delivery.FormatFault = true;
         return;

@@ -65,7 +65,7 @@ void Dispatch::press(const KeyRow& key) {
         if (bringXUpToDate(key)) {
             key.does(subjects);
         } else {
-            s.stack.KeepX = std::exchange(s.stack.Xreg, kNothingDone);
+            keepOperand();
         }
     });
     leaveKey();
@@ -121,10 +121,10 @@ bool Dispatch::bringXUpToDate(const KeyRow& key) {
 
 void Dispatch::onFailure(const Failure& failure, int index) {
     EngineState& s = calc.s;
-    if (failure.number() == FailureNumber::TypeMismatch && s.stack.Xreg.isTagged()) {
-        // A number of a base where a plain one is wanted: it stays on the stack, nothing is said.
+    if (failure.number() == FailureNumber::TypeMismatch && readsTagged()) {
+        // A number of a base where a plain one is wanted: all stays as it was, nothing is said.
         s.stack.Xnum = 0.0;
-        s.stack.Xreg = kNothingDone;
+        keepOperand();
         return;
     }
     if (failure.number() == FailureNumber::ModifierNotValid) {
@@ -132,13 +132,32 @@ void Dispatch::onFailure(const Failure& failure, int index) {
         return;
     }
     showMessage(failure.number(), index);
-    if (failure.number() == FailureNumber::BaseRange) {
+    const bool onBinary = s.modes.ActiveKeypad == Keypad::Binary;
+    if (failure.number() == FailureNumber::BaseRange || (onBinary && failure.number() == FailureNumber::Overflow)) {
         // More bits than a word has: the number stays for another try.
-        s.stack.KeepX = std::exchange(s.stack.Xreg, kNothingDone);
+        keepOperand();
         return;
     }
     s.stack.Xreg = ValueCell::zero();
     s.delivery.FnLabel = "No Data!";
+}
+
+// Whether an operand that a function may have read is a number of a base.
+bool Dispatch::readsTagged() const {
+    const StackState& stack = calc.s.stack;
+    if (stack.Xreg.isTagged() || !stack.Xreg.tryNumber(calc.s.format.DecimalChar)) {
+        return stack.Xreg.isTagged();
+    }
+    constexpr int kMostBelow = 2;
+    bool tagged = false;
+    for (int below = 1; below <= kMostBelow; ++below) {
+        tagged = tagged || stack.slot(stack.StackPtr - 1 - below).isTagged();
+    }
+    return tagged;
+}
+
+void Dispatch::keepOperand() {
+    calc.s.stack.KeepX = std::exchange(calc.s.stack.Xreg, kNothingDone);
 }
 
 void Dispatch::showMessage(FailureNumber number, int index) {

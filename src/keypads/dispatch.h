@@ -47,6 +47,8 @@ private:
     void nameProcedure();
     bool bringXUpToDate(const KeyRow& key);
     void onFailure(const Failure& failure, int index);
+    [[nodiscard]] bool readsTagged() const;
+    void keepOperand();
     void showMessage(FailureNumber number, int index);
     void leaveKey();
     void leaveNothing(int index);

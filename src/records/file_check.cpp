@@ -17,7 +17,7 @@ bool sameValue(const ValueCell& written, const ValueCell& read, char decimal) {
 bool sameRegister(const RegisterLine& written, const RegisterLine& read, char decimal) {
     const auto number = written.value.tryNumber(decimal);
     const bool zero = !written.value.isTagged() && number && *number == 0.0;
-    const bool value = zero ? read.value.isEmptyText() : sameValue(written.value, read.value, decimal);
+    const bool value = zero ? read.value.isEmpty() : sameValue(written.value, read.value, decimal);
     std::string name = written.name;
     name.resize(read.name.size(), ' ');
     return value && name == read.name && written.tip == read.tip;

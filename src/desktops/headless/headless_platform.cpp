@@ -149,7 +149,13 @@ std::optional<bool> HeadlessPlatform::storedOption(std::string_view key) const {
 }
 
 void HeadlessPlatform::writeOption(std::string_view key, bool value) {
-    std::ofstream(optionFile()) << key << '=' << (value ? '1' : '0') << '\n';
+    const std::string start = std::string(key) + "=";
+    std::string kept;
+    std::ifstream before(optionFile());
+    for (std::string line; std::getline(before, line);) {
+        kept += line.starts_with(start) ? "" : line + "\n";
+    }
+    std::ofstream(optionFile()) << kept << start << (value ? '1' : '0') << '\n';
 }
 
 void HeadlessPlatform::print(std::span<const PrintLine> lines) {

@@ -121,6 +121,20 @@ TEST_F(HeadlessPlatformTest, TheClipboardIsAText) {
     EXPECT_EQ(platform.clipboardText(), "12.5");
 }
 
+TEST_F(HeadlessPlatformTest, ASecondOptionLeavesTheFirst) {
+    HeadlessPlatform platform = make();
+    platform.writeOption("One", true);
+    platform.writeOption("Two", false);
+    platform.writeOption("Three", true);
+    platform.writeOption("One", false);
+    platform.writeOption("Two", true);
+    EXPECT_FALSE(make().readOption("One", true));
+    EXPECT_TRUE(make().readOption("Two", false));
+    EXPECT_TRUE(make().readOption("Three", false));
+    EXPECT_TRUE(make().hasOption("Three"));
+    EXPECT_FALSE(make().hasOption("Thre"));
+}
+
 TEST_F(HeadlessPlatformTest, TheClockOfTheOptionsStandsStill) {
     options.now = LocalTime{.year = 2026, .month = 11, .day = 20, .hour = 14, .minute = 30, .second = 5};
     HeadlessPlatform platform = make();

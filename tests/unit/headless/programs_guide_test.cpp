@@ -101,6 +101,10 @@ bool neverShown(const std::string& text) {
 Lines readTexts() {
     Lines texts;
     for (const auto& entry : std::filesystem::directory_iterator(kSourceRoot / "src/program")) {
+        if (entry.path().stem() == "program_check") {
+            // Findings are no messages of the calculator.
+            continue;
+        }
         std::string source = readFile(entry.path());
         source = std::regex_replace(source, std::regex{R"(//[^\n]*|[^\n]*(tip|text) = [^\n]*)"}, "");
         source = std::regex_replace(source, std::regex{"\"\\s*\n\\s*\""}, "");

@@ -318,14 +318,14 @@ TEST_F(Interpreter, AFunctionWorksOnTheElementOnTheStackWithAllItsDigits) {
     EXPECT_EQ(s().stack.slot(1).number('.'), 1.0);
 }
 
-TEST_F(Interpreter, AfterAKeyThatLeftNothingTheRunGoesOn) {
+TEST_F(Interpreter, AfterAKeyThatRefusedANumberOfABaseTheRunGoesOn) {
     s().memory.Registers.at(3) = "#FFh";
     runSection("rcl 3\nsin\ntf-1\nbb = 4\naa = 2");
     EXPECT_EQ(said(), Said{});
     EXPECT_EQ(variable("aa"), 2.0);
     EXPECT_EQ(element(1), "#FFh");
     runSection("rcl 3\nsin");
-    EXPECT_EQ(x(), "") << "there is no result";
+    EXPECT_EQ(x(), "#FFh") << "a number of a base stays as it is";
 }
 
 TEST_F(Interpreter, AFailingKeySaysWhatItSaysUnderTheProgramsTitle) {

@@ -81,8 +81,6 @@ TEST_F(BinaryKeypad, ALogicKeyLeavesOneElementOfASingleOne) {
 TEST_F(BinaryKeypad, LettersInSmallAndAMissingLetter) {
     type("#1G");
     EXPECT_EQ(form().txtXreg.text, "#1");
-    type("c");
-    EXPECT_EQ(form().txtXreg.text, "#1") << "hexadecimal digits are capitals";
     press(kKeyEnter, 13);
     EXPECT_EQ(lastBox(), "Binary indicator (b, d, h, o) required");
     EXPECT_EQ(s().stack.depth(), 0);
@@ -92,6 +90,126 @@ TEST_F(BinaryKeypad, LettersInSmallAndAMissingLetter) {
     press(kKeyBackspace, 8);
     type("Eh");
     EXPECT_EQ(form().txtXreg.text, "#1FEh") << "Backspace over the letter opens the number again";
+}
+
+TEST_F(BinaryKeypad, SmallLettersAreDigitsUntilTheBaseIsNamed) {
+    type("#acefh");
+    EXPECT_EQ(form().txtXreg.text, "#ACEFh");
+    press(kKeyEnter, 13);
+    EXPECT_EQ(x(), "#ACEFh");
+    type("#12d");
+    EXPECT_EQ(form().txtXreg.text, "#12d");
+    press(kKeyEnter, 13);
+    EXPECT_EQ(x(), "#12d");
+    EXPECT_EQ(s().stack.depth(), 2);
+    type("#cad");
+    EXPECT_EQ(lastBox(), "'d' is decimal number\n(0 to 9) Only!");
+    type("#3ha");
+    EXPECT_EQ(x(), "#Fh") << "behind the letter a adds";
+}
+
+TEST_F(BinaryKeypad, ADecimalPointIsRefusedLikeAMissingLetter) {
+    enter("7");
+    const auto lines = tape();
+    for (const char* const text : {"#1A.", "#1A.5", "#1.5", "#.F", "paste #1.5h", "paste #.1b", "paste #7,5d"}) {
+        SCOPED_TRACE(text);
+        platform.boxes.clear();
+        const std::string_view number{text};
+        if (number.starts_with('#')) {
+            enter(number);
+            EXPECT_EQ(x(), "7");
+        } else {
+            put(number.substr(number.find('#')));
+        }
+        EXPECT_EQ(lastBox(), "Binary indicator (b, d, h, o) required");
+        EXPECT_EQ(s().stack.depth(), 1);
+        EXPECT_EQ(calc().text(s().stack.slot(1)), "7");
+        EXPECT_EQ(tape(), lines);
+    }
+}
+
+TEST_F(BinaryKeypad, TypedDecimalsGoToABaseByTheirDigits) {
+    const std::pair<const char*, const char*> decimals[] = {{"1844674407370955161.4", "#1844674407370955161d"},
+                                                            {"1844674407370955161.6", "#1844674407370955162d"},
+                                                            {"1844674407370955161.5", "#1844674407370955162d"},
+                                                            {"1844674407370955162.5", "#1844674407370955162d"},
+                                                            {"1844674407370955162.50", "#1844674407370955162d"},
+                                                            {"18446744073709551615.4", "#18446744073709551615d"},
+                                                            {"9007199254740993", "#9007199254740993d"},
+                                                            {"2.5", "#2d"},
+                                                            {"3.5", "#4d"},
+                                                            {"0.4", "#0d"},
+                                                            {".6", "#1d"},
+                                                            {"12e3", "#12000d"}};
+    for (const auto& [typed, expected] : decimals) {
+        type(typed);
+        bank(6, kAlt);
+        EXPECT_EQ(x(), expected) << typed;
+    }
+    for (const auto& [pasted, expected] : {std::pair{"1844674407370955162.50000001", "#1844674407370955163d"},
+                                           {"1.8446744073709551615e19", "#18446744073709551615d"},
+                                           {"184467440737095516145000e-4", "#18446744073709551614d"},
+                                           {"5e-1", "#0d"},
+                                           {"0.000006e5", "#1d"}}) {
+        put(pasted);
+        bank(6, kAlt);
+        EXPECT_EQ(x(), expected) << pasted;
+    }
+    EXPECT_TRUE(platform.boxes.empty());
+    type("18446744073709551615.5");
+    bank(6, kAlt);
+    EXPECT_EQ(lastBox(), "Exceeded maximum number (1.845e19)!");
+    EXPECT_EQ(x(), "18446744073709551615.5");
+}
+
+TEST_F(BinaryKeypad, ANumberBeyondAWordStaysWithEveryKeyThatRefusesIt) {
+    for (const char* const number : {"#1FFFFFFFFFFFFFFFFh", "#18446744073709551616d", "18446744073709551616"}) {
+        for (const std::size_t key : {4U, 5U, 6U, 7U, 11U, 12U, 13U, 14U, 15U, 18U, 22U, 23U}) {
+            SCOPED_TRACE(std::string(number) + " key " + std::to_string(key));
+            choose(form().cmdReset);
+            platform.boxes.clear();
+            put("#5h");
+            put(number);
+            const auto lines = tape();
+            bank(key);
+            ASSERT_EQ(platform.boxes.size(), 1U);
+            EXPECT_EQ(x(), number) << "X is the top of the stack again";
+            EXPECT_EQ(s().stack.depth(), 2);
+            EXPECT_EQ(calc().text(s().stack.slot(2)), number);
+            EXPECT_EQ(tape(), lines);
+        }
+    }
+}
+
+TEST_F(BinaryKeypad, ANumberBeyondAWordBelowXStaysToo) {
+    put("#1FFFFFFFFFFFFFFFFh");
+    put("#5h");
+    bank(11);
+    EXPECT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(x(), "#5h");
+    EXPECT_EQ(s().stack.depth(), 2);
+}
+
+TEST_F(BinaryKeypad, AFunctionOfRealNumbersLeavesThoseOfABaseAlone) {
+    put("9");
+    put("#5h");
+    choose(form().mnuTrig);
+    const auto lines = tape();
+    for (const std::size_t key : {22U, 21U, 6U, 12U, 14U}) {
+        SCOPED_TRACE(key);
+        bank(key);
+        EXPECT_EQ(x(), "#5h");
+        EXPECT_EQ(s().stack.depth(), 2);
+        EXPECT_EQ(tape(), lines);
+    }
+    press(kKeyEnd);
+    choose(form().mnuStd);
+    const auto swapped = tape();
+    bank(5);
+    EXPECT_EQ(x(), "9") << "the exponent is real, the base is none";
+    EXPECT_EQ(s().stack.depth(), 2);
+    EXPECT_EQ(tape(), swapped);
+    EXPECT_TRUE(platform.boxes.empty());
 }
 
 TEST_F(BinaryKeypad, ThePasteOfANumberTooLongIsHeldButNotCountedWith) {
