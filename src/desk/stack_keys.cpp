@@ -22,6 +22,8 @@ std::string withoutLeadingZero(std::string text, std::string_view point) {
 
 }  // namespace
 
+StackKeys::StackKeys(Engine& calculator) : calc(calculator), drop_(*calc.tape.known("Drop")) {}
+
 bool StackKeys::modifierActive() {
     if (calc.s.modifiers.ModifierMask == 0) {
         return false;
@@ -46,7 +48,30 @@ void StackKeys::pushWithLabel(const char* label) {
     calc.commit.cmdEnter_Click();
 }
 
+// Plain numbers, and nobody watches: no more than the commit of the element below is left to do.
+bool StackKeys::dropQuietly() {
+    StackState& stack = calc.s.stack;
+    if (!calc.commit.quiet() || stack.depth() < 1) {
+        return false;
+    }
+    const double* const top = stack.slot(stack.StackPtr - 1).asDouble();
+    const ValueCell& below = stack.slot(stack.StackPtr - 2);
+    const double* const left = below.asDouble();
+    if (top == nullptr || (left == nullptr && !below.isEmpty())) {
+        return false;
+    }
+    const double operand = *top;
+    if (!calc.commit.put(left == nullptr ? 0.0 : *left, stack.StackPtr - 2, drop_)) {
+        return false;
+    }
+    stack.LastX = operand;
+    return true;
+}
+
 void StackKeys::cmdDown_Click() {
+    if (dropQuietly()) {
+        return;
+    }
     EngineState& s = calc.s;
     if (modifierActive()) {
         return;

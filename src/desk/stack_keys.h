@@ -4,13 +4,15 @@
 // they only return the keyboard to the entry line.
 #pragma once
 
+#include "engine/tape.h"
+
 namespace tallyforge {
 
 class Engine;
 
 class StackKeys {
 public:
-    explicit StackKeys(Engine& calculator) : calc(calculator) {}
+    explicit StackKeys(Engine& calculator);
 
     /// Takes the top element away; last x keeps it.
     void cmdDown_Click();
@@ -31,7 +33,10 @@ private:
     void changeSignOfExponent();
     void remainder();
 
+    bool dropQuietly();
+
     Engine& calc;
+    KnownLabel drop_;
 };
 
 }  // namespace tallyforge

@@ -173,7 +173,7 @@ void TapeKeys::mnuTape_Click() {
         goOn(report, [&] { retrieve(*path); });
     }
     s.files.UndoKind = TapeFileKind::None;
-    s.CurrentProc.clear();
+    s.CurrentProc = "";
     calc.focusEntry();
 }
 

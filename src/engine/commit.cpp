@@ -15,16 +15,18 @@ namespace tallyforge {
 namespace {
 
 constexpr int kSmallRegisterDigits = 3;
+/// Two numbers that differ by less may have the same fifteen digits.
+constexpr double kLastDigits = 1e-14;
 
 }  // namespace
 
 void Commit::cmdEnter_Click() {
-    EngineState& s = calc.s;
-    // A recalled value goes up by two: over the X that is there, with a free slot above it.
-    const auto slots = static_cast<std::size_t>(s.stack.StackPtr) + 3;
-    if (s.stack.Stack.size() < slots) {
-        s.stack.Stack.resize(slots);
+    if (quiet_ && commitQuietly()) {
+        return;
     }
+    wake();
+    EngineState& s = calc.s;
+    s.stack.makeRoom(s.stack.StackPtr);
     s.CurrentProc = "cmdEnter";
     s.entry.BaseTagDue = false;
     if (s.stack.Xreg.isEmptyText() && s.stack.depth() > 0) {
@@ -58,17 +60,8 @@ void Commit::readEntry(ValueCell& savedLastX) {
         return;
     }
     savedLastX = std::exchange(s.stack.LastX, s.stack.Xreg);
-    const bool keepsExactValue =
-        s.entry.RoundTripCheck && goOn([&](const Failure& failure) { onFailure(failure); },
-                                       [&] {
-                                           if (calc.xNumber() == 0.0 || !sameAfterRoundTrip(s.stack.Xreg, typed)) {
-                                               s.stack.Xreg = typed;
-                                           }
-                                       });
-    if (!keepsExactValue) {
-        s.stack.Xreg = typed;
-        endExponent();
-    }
+    s.stack.Xreg = typed;
+    endExponent();
 }
 
 // An exponent that was left without digits is one of 0.
@@ -82,13 +75,20 @@ void Commit::endExponent() {
 
 void Commit::enterStored(double number) {
     EngineState& s = calc.s;
+    const double* const x = s.stack.Xreg.asDouble();
+    if (quiet_ && x != nullptr && (*x == number || std::abs(*x - number) > std::abs(number) * kLastDigits)) {
+        const double before = *x;
+        if (put(number, s.stack.StackPtr, {})) {
+            s.stack.LastX = before;
+            return;
+        }
+    }
     if (!s.stack.Xreg.isEmpty() && !s.stack.Xreg.isEmptyText()) {
         s.stack.LastX = s.stack.Xreg;
     } else if (s.stack.depth() == 0) {
         s.stack.LastX = ValueCell::zero();
     }
     const auto held = s.stack.Xreg.tryNumber(s.format.DecimalChar);
-    constexpr double kLastDigits = 1e-14;
     // A copy of X is X with all its digits, though its text has but fifteen of them.
     const bool copyOfX = held && *held != 0.0 && std::abs(*held - number) <= std::abs(number) * kLastDigits &&
                          fifteenDigits(*held) == number;
@@ -100,10 +100,13 @@ void Commit::enterStored(double number) {
     cmdEnter_Click();
 }
 
-bool Commit::sameAfterRoundTrip(const ValueCell& left, std::string_view right) const {
-    const char decimal = calc.s.format.DecimalChar;
-    const auto throughText = [decimal](double value) { return readNumber(plainText(value, decimal), decimal); };
-    return throughText(left.number(decimal)) - throughText(readNumber(right, decimal)) == 0.0;
+void Commit::pushCopy(double number) {
+    if (quiet_ && put(number, calc.s.stack.StackPtr, {})) {
+        calc.s.stack.LastX = number;
+        return;
+    }
+    calc.s.stack.Xreg = number;
+    cmdEnter_Click();
 }
 
 void Commit::storeOnStack() {

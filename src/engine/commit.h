@@ -9,6 +9,7 @@
 //   no value       Xreg = "ZZZ" and return
 #pragma once
 
+#include "engine/tape.h"
 #include "numbers/failure.h"
 #include "numbers/value_cell.h"
 
@@ -27,9 +28,23 @@ public:
     /// shown in a box and repaired.
     void cmdEnter_Click();
 
+    /// Nobody watches, and nothing is typed, held, latched or lit: a plain number needs no more than
+    /// its place on the stack and its line of the tape.
+    [[nodiscard]] bool quiet() const { return quiet_; }
+    /// Looks whether it is so. It stays so until wake(), and while only plain numbers are committed.
+    void settle();
+    /// Something else comes: the next commit takes every step.
+    void wake() { quiet_ = false; }
+
+    /// The commit of a plain number at slot `place`, while it is quiet(): X, Y, the stack and the tape.
+    /// Returns false, and has changed nothing, where the number needs more than one line.
+    [[nodiscard]] bool put(double number, int place, KnownLabel label);
+
     /// What the commit does with the text of `number` in the entry line while a program runs,
     /// without the text. `number` must be one that fifteen digits show in full.
     void enterStored(double number);
+    /// Pushes `number` as Enter does on an empty entry line; it is last x, too.
+    void pushCopy(double number);
 
     /// Pushes an X that was brought back from a list or the clipboard: the entry line is empty, so
     /// the commit takes X as it stands and goes up by one.
@@ -65,15 +80,16 @@ public:
     void ShowSmallRegs();
 
 private:
+    [[nodiscard]] bool commitQuietly();
     void readEntry(ValueCell& savedLastX);
     void storeOnStack();
     void showAndFinish(const ValueCell& savedLastX);
     bool display();
     void endExponent();
     void onFailure(const Failure& failure);
-    [[nodiscard]] bool sameAfterRoundTrip(const ValueCell& left, std::string_view right) const;
 
     Engine& calc;
+    bool quiet_ = false;
     bool refused_ = false;  ///< the last entry was no number and has been taken back
 };
 

@@ -29,6 +29,7 @@ void Engine::showPending() {
 }
 
 void Engine::message(BoxKind kind, std::string_view title, std::string_view text) {
+    commit.wake();
     if (unwatched) {
         showPending();
     }
@@ -36,10 +37,11 @@ void Engine::message(BoxKind kind, std::string_view title, std::string_view text
 }
 
 void Engine::errorBox(BoxKind kind, std::string_view text) {
-    message(kind, s.CurrentProc + " Error!", text);
+    message(kind, std::string(std::string_view(s.CurrentProc)) + " Error!", text);
 }
 
 bool Engine::question(std::string_view title, std::string_view text) {
+    commit.wake();
     if (unwatched) {
         showPending();
     }

@@ -11,12 +11,14 @@
 //   4. Stack has at least StackPtr + 1 slots.
 #pragma once
 
+#include "engine/tape_label.h"
 #include "numbers/value_cell.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tallyforge {
@@ -28,6 +30,13 @@ inline constexpr int kRegisters = 24;
 /// The three ways to show a number; also the index of the option keys `optFix`.
 enum class DisplayMode : std::uint8_t { Fixed = 0, Scientific = 1, Engineering = 2 };
 inline constexpr int kMaxDisplayDigits = 12;
+
+/// How a number is to be shown.
+struct NumberLook {
+    DisplayMode mode = DisplayMode::Fixed;
+    int digits = 2;
+    char decimal = '.';
+};
 
 enum class AngleMode : std::uint8_t { Degrees, Radians, Grads };
 
@@ -80,6 +89,14 @@ struct StackState {
         return slot >= 0 && static_cast<std::size_t>(slot) < Stack.size() ? Stack[static_cast<std::size_t>(slot)]
                                                                           : noCell();
     }
+    /// Makes slots for a commit at `place`: a recalled value goes up by two, over the X that is there,
+    /// with a free slot above it.
+    void makeRoom(int place) {
+        const auto wanted = static_cast<std::size_t>(place) + 3;
+        if (Stack.size() < wanted) {
+            Stack.resize(wanted);
+        }
+    }
 
     /// The same as an operand: an empty one counts as 0.
     [[nodiscard]] ValueCell operand(int slotNumber) const;
@@ -90,7 +107,7 @@ private:
 
 /// What a function tells the commit beside X: set by the caller, cleared by the commit.
 struct DeliveryState {
-    std::string FnLabel;          ///< label of the coming tape line
+    TapeLabel FnLabel;            ///< label of the coming tape line
     bool ValueInXreg = false;     ///< the commit takes Xreg, not the entry line
     bool SkipCommitTail = false;  ///< the commit stores but writes no tape line
     bool FormatFault = false;     ///< the value could not be shown: take the push back
@@ -98,6 +115,11 @@ struct DeliveryState {
     bool KeepDigits = false;      ///< PushResult keeps the digits that the caller has set
     bool ShowRawOnce = false;     ///< the next numDisplay gives the plain text
     bool DmsDisplay = false;      ///< the next numDisplay shows minutes and seconds
+
+    /// Nothing but a label and where the value comes from.
+    [[nodiscard]] bool plain() const {
+        return !SkipCommitTail && !FormatFault && !KeepEntryText && !ShowRawOnce && !DmsDisplay;
+    }
 };
 
 /// The entry line.
@@ -108,8 +130,7 @@ struct EntryState {
     bool BaseTagDue = false;      ///< a "#" was typed, its base letter is still to come
     bool BaseNumberDone = false;  ///< the entry line holds a whole number of a base
     bool DigitTyped = false;
-    std::string BaseLetter;       ///< last base letter typed
-    bool RoundTripCheck = false;  ///< a running program feeds a stored number back
+    std::string BaseLetter;  ///< last base letter typed
 };
 
 struct ModifierState {
@@ -143,6 +164,7 @@ struct FormatState {
     int WordSize = 64;
     char DecimalChar = '.';
     AngleMode Angle = AngleMode::Degrees;
+    [[nodiscard]] NumberLook look() const { return {.mode = Mode, .digits = DisplayDigits, .decimal = DecimalChar}; }
     std::string BaseRemainder;  ///< remainder of the last base division, base form
 };
 
@@ -189,6 +211,21 @@ struct FunctionState {
     bool RightTriangleHasAngle = false;  ///< the key of the angles is hidden until it is solved
 };
 
+/// A text that outlives the calculator: a literal, or one from a table. Set at each key, so not copied.
+class LastingText {
+public:
+    LastingText() = default;
+    // NOLINTBEGIN(google-explicit-constructor): set by plain assignment
+    LastingText(const char* text) : text_(text) {}
+    LastingText(std::string_view text) : text_(text) {}
+    LastingText(const std::string& text) = delete;
+    operator std::string_view() const { return text_; }
+    // NOLINTEND(google-explicit-constructor)
+
+private:
+    std::string_view text_;
+};
+
 struct EngineState {
     StackState stack;
     DeliveryState delivery;
@@ -200,7 +237,7 @@ struct EngineState {
     MemoryState memory;
     WindowState window;
     FunctionState functions;
-    std::string CurrentProc;  ///< last procedure that stored its name; titles of messages
+    LastingText CurrentProc;  ///< last procedure that stored its name; titles of messages
 };
 
 /// The register that a key of the bank stands for in memory array mode, 1 to 24.

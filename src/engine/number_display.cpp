@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace tallyforge {
@@ -84,7 +86,7 @@ void padRight(std::string& text, std::size_t width) {
 }
 
 /// A label of two characters or more and a value of this many stand on lines of their own.
-constexpr std::size_t kLongValue = 20;
+constexpr int kLongValue = 20;
 
 /// A number of this size is shown in scientific form although the format is fixed.
 bool leavesFixed(double number, int digits) {
@@ -92,20 +94,36 @@ bool leavesFixed(double number, int digits) {
     return size > kFixedLimit || (number != 0.0 && size < 1.0 / std::pow(10.0, digits));
 }
 
-/// Characters that `number` takes at most, in any mode.
-std::size_t mostCharacters(double number, const NumberLook& look) {
+/// Below this size a number in a packed look has fewer characters than a long value.
+constexpr double limitOf(const NumberLook& look) {
     constexpr int kScientificFrame = 9;  // sign, digit, point, "e+308", the digit of a carry
+    constexpr int kLeastWhole = 7;
+    constexpr int kMostWhole = 16;  // a larger number leaves the fixed form
     const int exponentForm = look.digits + kScientificFrame + 2;
+    if (exponentForm >= kLongValue) {
+        return 0.0;
+    }
     if (look.mode != DisplayMode::Fixed) {
-        return static_cast<std::size_t>(exponentForm);
+        return std::numeric_limits<double>::infinity();
     }
-    int whole = 7;
-    for (double limit = 1e6; limit <= kFixedLimit && std::abs(number) >= limit; limit *= 10.0) {
-        ++whole;
+    double below = 0.0;
+    for (int whole = kLeastWhole; whole <= kMostWhole; ++whole) {
+        const int fixedForm = 1 + whole + (whole - 1) / 3 + 1 + look.digits + look.digits / 3;
+        if (fixedForm >= kLongValue) {
+            return below;
+        }
+        below = whole == kLeastWhole ? 1e6 : below * 10.0;
     }
-    const int fixedForm = 1 + whole + (whole - 1) / 3 + 1 + look.digits + look.digits / 3;
-    return static_cast<std::size_t>(std::max(fixedForm, exponentForm));
+    return std::numeric_limits<double>::infinity();
 }
+
+constexpr auto kOneLineBelow = [] {
+    std::array<double, kPackedLooks> limits{};
+    for (std::size_t look = 0; look < limits.size(); ++look) {
+        limits[look] = limitOf(unpacked(static_cast<std::uint8_t>(look)));
+    }
+    return limits;
+}();
 
 /// An h.mmss number as "h:mm ss.s". Rounded to tenths of a second, sixty seconds are a minute more,
 /// and sixty minutes an hour.
@@ -177,20 +195,24 @@ void NumberDisplay::DspFmat(const ValueCell& shown) {
 bool NumberDisplay::writeUnformatted(const ValueCell& value) {
     EngineState& s = calc.s;
     const double* const number = value.asDouble();
-    if (number == nullptr || s.delivery.ShowRawOnce || s.delivery.DmsDisplay ||
-        s.delivery.FnLabel.size() > Tape::kLongestLabel) {
+    if (number == nullptr || s.delivery.ShowRawOnce || s.delivery.DmsDisplay) {
         return false;
     }
-    const NumberLook look{.mode = s.format.Mode, .digits = s.format.DisplayDigits, .decimal = s.format.DecimalChar};
-    if (s.delivery.FnLabel.size() > 1 && mostCharacters(*number, look) >= kLongValue) {
+    const std::uint8_t look = packed(s.format.look());
+    const auto label = calc.tape.known(s.delivery.FnLabel);
+    if (!label || (label->wide && !(std::abs(*number) < oneLineBelow(look)))) {
         return false;
     }
     if (!calc.dialogOpen) {
         calc.focusEntry();
     }
-    calc.tape.addNumber(look, s.delivery.FnLabel, *number);
+    calc.tape.addNumber(Tape::style(look, label->id), *number);
     lineWritten();
     return true;
+}
+
+double NumberDisplay::oneLineBelow(std::uint8_t look) {
+    return kOneLineBelow[look];
 }
 
 void NumberDisplay::tagWithHex(const ValueCell& value) {
@@ -221,9 +243,7 @@ std::string NumberDisplay::numDisplay(const ValueCell& value) {
     if (fixed && minutesAndSeconds) {
         return hoursText(number, s.format.DecimalChar);
     }
-    return shownNumber(number,
-                       {.mode = s.format.Mode, .digits = s.format.DisplayDigits, .decimal = s.format.DecimalChar},
-                       s.delivery.FnLabel.size());
+    return shownNumber(number, s.format.look(), s.delivery.FnLabel.size());
 }
 
 std::string NumberDisplay::shownNumber(double number, const NumberLook& look, std::size_t labelSize) {
@@ -286,8 +306,8 @@ void NumberDisplay::SetUpDisplay(const std::string& text) {
         Add2Display(text);
         return;
     }
-    std::string label = s.delivery.FnLabel;
-    if (label.size() < 2 || text.size() < kLongValue) {
+    std::string label{s.delivery.FnLabel.view()};
+    if (label.size() < 2 || text.size() < static_cast<std::size_t>(kLongValue)) {
         Add2Display(labelled(label, text));
         return;
     }
@@ -311,7 +331,7 @@ void NumberDisplay::setUpBaseNumber(std::string_view text) {
     s.stack.Stack[static_cast<std::size_t>(s.stack.StackPtr) - 1] = s.stack.Xreg;
 
     std::string shown = "#" + groupFromRight(digits, layout) + layout.letter;
-    std::string label = s.delivery.FnLabel;
+    std::string label{s.delivery.FnLabel.view()};
     std::size_t length = shown.size() + (label.empty() ? 0 : label.size() + 1);
     while (length > kTapeWidth) {
         const auto blank = shown.find(' ', layout.wrapBehind);

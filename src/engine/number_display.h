@@ -8,6 +8,7 @@
 #include "engine/tape.h"
 #include "numbers/value_cell.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,10 @@ public:
     [[nodiscard]] static std::string shownNumber(double number, const NumberLook& look, std::size_t labelSize);
     /// A line of the tape: `label` on the left, `text` at the right edge.
     [[nodiscard]] static std::string labelled(std::string_view label, std::string_view text);
+
+    /// Size from which on a number in a packed look is too long for a line that it shares with a
+    /// label.
+    [[nodiscard]] static double oneLineBelow(std::uint8_t look);
 
     /// Engineering notation with `digits` digits behind the point: "12.345e+03".
     [[nodiscard]] static std::string EngFormat(double value, int digits, char decimal);

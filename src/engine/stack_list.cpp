@@ -68,9 +68,7 @@ void StackList::select(std::size_t index) {
     ++revision_;
 }
 
-void StackList::refresh() {
-    clicked_ = -1;
-    ++revision_;
+void StackList::refreshMarks() {
     if (!calc.unwatched) {
         placeMarks();
     }

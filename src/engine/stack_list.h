@@ -24,13 +24,22 @@ public:
     [[nodiscard]] std::uint64_t revision() const override { return revision_; }
 
     /// The stack changed: rows are made anew when next read, marks are set now.
-    void refresh();
+    void refresh() {
+        noteChange();
+        refreshMarks();
+    }
+    /// The same where nobody watches: the marks wait.
+    void noteChange() {
+        clicked_ = -1;
+        ++revision_;
+    }
     /// Sets the row marks for the present depth.
     void placeMarks();
     /// Stack element that row `index` shows.
     [[nodiscard]] int element(std::size_t index) const { return first() + static_cast<int>(index); }
 
 private:
+    void refreshMarks();
     [[nodiscard]] int first() const;
     [[nodiscard]] int capacity() const;
 

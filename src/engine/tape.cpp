@@ -3,105 +3,97 @@
 
 #include "engine/number_display.h"
 
-#include <algorithm>
-
 namespace tallyforge {
-
-namespace {
-
-constexpr int kDigitsShift = 2;
-constexpr int kCommaShift = 6;
-
-std::uint8_t packed(const NumberLook& look) {
-    return static_cast<std::uint8_t>(static_cast<int>(look.mode) | look.digits << kDigitsShift |
-                                     (look.decimal == ',' ? 1 : 0) << kCommaShift);
-}
-
-NumberLook unpacked(std::uint8_t look) {
-    return {.mode = static_cast<DisplayMode>(look & 3),
-            .digits = look >> kDigitsShift & 15,
-            .decimal = (look >> kCommaShift & 1) != 0 ? ',' : '.'};
-}
-
-}  // namespace
 
 void Tape::clear(int rows) {
     blocks_.clear();
-    texts_.clear();
     longTexts_.clear();
+    place_ = kBlock;
+    first_ = 0;
     added_ = 0;
     dropped_ = 0;
+    gone_ = 0;
+    textBytes_ = 0;
     for (int i = 0; i < rows; ++i) {
         add({}, ValueCell{});
     }
     fillers_ = rows;
-    selected_ = count();
+    selected_ = added_;
     ++revision_;
 }
 
-Tape::Row Tape::append() {
-    if (added_ == blocks_.size() * kBlock) {
-        // Not filled with zeros: each row is written before it is read.
+void Tape::addBlock() {
+    if (blocks_.size() >= kMostBlocks || (textBytes_ > kMostTextBytes && blocks_.size() > 1)) {
+        giveWay();
+    } else {
+        // Not filled with zeros: each line is written before it is read.
         blocks_.push_back(std::make_unique_for_overwrite<Block>());
     }
-    ++added_;
-    selected_ = count() - 1;
-    ++revision_;
-    return at(added_ - 1);
+    last_ = blocks_.back().get();
+    place_ = 0;
 }
 
-void Tape::putText(const Row& row, std::string_view text, const ValueCell& value) {
-    const std::size_t place = texts_.size();
-    row.number = static_cast<double>(place);
-    row.look = kText;
-    Text& line = texts_.emplace_back();
+// The oldest block becomes the newest.
+void Tape::giveWay() {
+    const std::uint64_t next = first_ + kBlock;
+    gone_ += next - std::max(first_, dropped_);
+    first_ = next;
+    dropped_ = std::max(dropped_, next);
+    longTexts_.erase(longTexts_.begin(), longTexts_.lower_bound(next));
+    textBytes_ -= blocks_.front()->textBytes;
+    std::rotate(blocks_.begin(), blocks_.begin() + 1, blocks_.end());
+    blocks_.back()->texts = {};
+    blocks_.back()->textBytes = 0;
+}
+
+void Tape::add(std::string_view text, const ValueCell& value) {
+    Block& block = append();
+    block.number[place_] = static_cast<double>(block.texts.size());
+    block.style[place_] = kText;
+    ++place_;
+    Text& line = block.texts.emplace_back();
     if (text.size() <= kTapeWidth) {
         std::copy(text.begin(), text.end(), line.text.begin());
         line.length = static_cast<std::uint8_t>(text.size());
     } else {
         line.length = kLong;
-        longTexts_.emplace(place, text);
+        longTexts_.emplace(added_ - 1, text);
     }
     line.value = value;
+    // A text lies in a block of its own with its count; so does one that is longer than a line.
+    constexpr std::size_t kAround = 64;
+    const std::size_t bytes = sizeof(Text) + (value.isText() ? value.textView().size() + kAround : 0) +
+                              (line.length == kLong ? text.size() + kAround : 0);
+    block.textBytes += bytes;
+    textBytes_ += bytes;
 }
 
-void Tape::add(std::string_view text, const ValueCell& value) {
-    putText(append(), text, value);
-}
-
-void Tape::addNumber(const NumberLook& look, std::string_view label, double value) {
-    const std::size_t place = placeOfLabel(label);
-    if (place == kLabels) {
-        add(NumberDisplay::labelled(label, NumberDisplay::shownNumber(value, look, label.size())), ValueCell{value});
+void Tape::addNumber(const NumberLook& look, const TapeLabel& label, double value) {
+    if (const auto held = known(label)) {
+        addNumber(style(packed(look), held->id), value);
         return;
     }
-    const Row row = append();
-    row.number = value;
-    row.look = packed(look);
-    row.label = static_cast<std::uint8_t>(place);
+    add(NumberDisplay::labelled(label, NumberDisplay::shownNumber(value, look, label.size())), ValueCell{value});
 }
 
-std::size_t Tape::placeOfLabel(std::string_view label) {
-    if (label.empty()) {
-        return 0;
+std::optional<LabelId> Tape::idOf(const ShortLabel& label) {
+    if (label.size() == 0) {
+        return LabelId::None;
     }
-    constexpr std::size_t kSpread = 37;
-    std::size_t place = label.size();
-    for (const char character : label) {
-        place = place * kSpread + static_cast<unsigned char>(character);
+    constexpr unsigned kTopBits = 54;
+    for (std::size_t place = label.hash() >> kTopBits;; place = (place + 1) % kLabelPlaces) {
+        std::uint16_t& held = labelPlaces_[place];
+        if (held == 0) {
+            if (labels_.size() == kMostLabels) {
+                return std::nullopt;
+            }
+            held = static_cast<std::uint16_t>(labels_.size());
+            labels_.push_back(label);
+        }
+        if (labels_[held] == label) {
+            return static_cast<LabelId>(held);
+        }
     }
-    place = 1 + place % (kLabels - 1);
-    std::string& held = labels_[place];
-    if (held.empty()) {
-        held = label;
-    }
-    // Labels are short: a loop is quicker here than a call.
-    return std::equal(held.begin(), held.end(), label.begin(), label.end()) ? place : kLabels;
-}
-
-std::string Tape::numberText(const Row& row) const {
-    const std::string& label = labels_[row.label];
-    return NumberDisplay::labelled(label, NumberDisplay::shownNumber(row.number, unpacked(row.look), label.size()));
 }
 
 bool Tape::dropFiller() {
@@ -110,48 +102,48 @@ bool Tape::dropFiller() {
     }
     --fillers_;
     ++dropped_;
-    selected_ = std::max<std::size_t>(selected_, 1) - 1;
     ++revision_;
     return true;
 }
 
-ValueCell Tape::value(std::size_t index) const {
-    if (index >= count()) {
-        return {};
-    }
-    const Row row = at(dropped_ + index);
-    return row.look == kText ? textOf(row).value : ValueCell{row.number};
+/// What stands on a line that is no plain number; nullptr where it is one.
+const Tape::Text* Tape::textOf(std::uint64_t line) const {
+    const Block& block = blockOf(line);
+    const std::size_t place = (line - first_) % kBlock;
+    return block.style[place] == kText ? &block.texts[static_cast<std::size_t>(block.number[place])] : nullptr;
 }
 
-void Tape::setValue(std::size_t index, const ValueCell& value) {
-    if (index >= count()) {
-        return;
+ValueCell Tape::value(std::size_t index) const {
+    if (index >= count() || (index == 0 && gone_ != 0)) {
+        return {};
     }
-    const Row row = at(dropped_ + index);
-    if (row.look == kText) {
-        textOf(row).value = value;
-    } else {
-        // The line goes on reading as the number that it was written for.
-        putText(row, numberText(row), value);
-    }
+    const std::uint64_t line = dropped_ + index;
+    const Text* const text = textOf(line);
+    return text != nullptr ? text->value : ValueCell{blockOf(line).number[(line - first_) % kBlock]};
 }
 
 std::string Tape::row(std::size_t index) const {
     if (index >= count()) {
         return {};
     }
-    const Row row = at(dropped_ + index);
-    if (row.look != kText) {
-        return numberText(row);
+    if (index == 0 && gone_ != 0) {
+        // Itself among them.
+        return std::to_string(gone_ + 1) + " older lines";
     }
-    const Text& line = textOf(row);
-    return line.length == kLong ? longTexts_.at(static_cast<std::size_t>(row.number))
-                                : std::string(line.text.data(), line.length);
+    const std::uint64_t line = dropped_ + index;
+    if (const Text* const text = textOf(line)) {
+        return text->length == kLong ? longTexts_.at(line) : std::string(text->text.data(), text->length);
+    }
+    const std::size_t place = (line - first_) % kBlock;
+    const auto style = static_cast<std::uint16_t>(blockOf(line).style[place]);
+    const std::string_view label = labels_[style / kPackedLooks].view();
+    const NumberLook look = unpacked(static_cast<std::uint8_t>(style % kPackedLooks));
+    return NumberDisplay::labelled(label, NumberDisplay::shownNumber(blockOf(line).number[place], look, label.size()));
 }
 
 void Tape::select(std::size_t index) {
     if (index < count()) {
-        selected_ = index;
+        selected_ = dropped_ + index;
         ++revision_;
     }
 }

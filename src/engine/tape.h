@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The running tape: the lines as shown and the exact value behind each. Lines live in blocks, so
-// that appending the millionth costs what the first did. A plain number takes 10 bytes and is
-// formatted when it is looked at; any other line is fixed-width text of 79 bytes, and 31 more where the
-// value behind it is a text of over fifteen characters.
+// that appending the ten-millionth costs what the first did. A plain number takes 10 bytes and is
+// formatted when it is looked at; any other line is fixed-width text of 40 bytes and the text behind
+// its value. The tape has a bound: the oldest block gives way where a new one finds no room.
 #pragma once
 
 #include "engine/engine_state.h"
+#include "engine/tape_label.h"
 #include "numbers/value_cell.h"
 #include "platform/form.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
-#include <deque>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace tallyforge {
@@ -24,12 +27,26 @@ namespace tallyforge {
 /// Characters in a line of the tape.
 inline constexpr std::size_t kTapeWidth = 23;
 
-/// How a number is to be shown: the format in force when its line was written.
-struct NumberLook {
-    DisplayMode mode = DisplayMode::Fixed;
-    int digits = 2;
-    char decimal = '.';
+/// A look in seven bits.
+inline constexpr std::size_t kPackedLooks = 128;
+[[nodiscard]] constexpr std::uint8_t packed(const NumberLook& look) {
+    return static_cast<std::uint8_t>(static_cast<int>(look.mode) | look.digits << 2 |
+                                     (look.decimal == ',' ? 1 : 0) << 6);
+}
+[[nodiscard]] constexpr NumberLook unpacked(std::uint8_t look) {
+    return {.mode = static_cast<DisplayMode>(look & 3),
+            .digits = look >> 2 & 15,
+            .decimal = (look >> 6 & 1) != 0 ? ',' : '.'};
+}
+
+/// Number under which the tape knows a short label; 0 for the empty one.
+enum class LabelId : std::uint16_t { None = 0 };
+struct KnownLabel {
+    LabelId id = LabelId::None;
+    bool wide = false;  ///< more than a character, beside which a long value finds no room
 };
+/// A known label and a packed look.
+enum class LineStyle : std::uint16_t {};
 
 class Tape : public ListRows {
 public:
@@ -44,7 +61,29 @@ public:
     static constexpr std::size_t kLongestLabel = kTapeWidth - 4;
     /// Appends the line of a number with its label, and selects it. The line is formatted when
     /// someone looks at it, and reads as it would have been written now.
-    void addNumber(const NumberLook& look, std::string_view label, double value);
+    void addNumber(const NumberLook& look, const TapeLabel& label, double value);
+    /// The same in a style that is known.
+    void addNumber(LineStyle style, double value) {
+        Block& block = append();
+        block.number[place_] = value;
+        block.style[place_] = style;
+        ++place_;
+    }
+    /// `look` is packed.
+    [[nodiscard]] static LineStyle style(std::uint8_t look, LabelId label) {
+        return static_cast<LineStyle>(static_cast<std::size_t>(label) * kPackedLooks + look);
+    }
+    /// The number of `label` from now on; none where the tape knows as many labels as it can.
+    [[nodiscard]] std::optional<LabelId> idOf(const ShortLabel& label);
+    /// The same for a label of any length; none for one that is longer than kLongestLabel.
+    [[nodiscard]] std::optional<KnownLabel> known(const TapeLabel& label) {
+        if (label.empty()) {
+            return KnownLabel{};
+        }
+        const std::size_t size = label.size();
+        const auto id = size > kLongestLabel ? std::nullopt : idOf(label.shortLabel());
+        return id ? std::optional{KnownLabel{.id = *id, .wide = size > 1}} : std::nullopt;
+    }
 
     /// Takes one filler line away; returns false where none is left.
     bool dropFiller();
@@ -55,14 +94,18 @@ public:
     [[nodiscard]] std::size_t lines() const { return count() - static_cast<std::size_t>(fillers_); }
     /// Value behind row `index` (fillers count); Empty for a filler or an index beyond the end.
     [[nodiscard]] ValueCell value(std::size_t index) const;
-    /// Puts another value behind row `index`.
-    void setValue(std::size_t index, const ValueCell& value);
     /// For a retrieval: rows read from a file, the first `fillers` of them filler lines.
     void setFillers(int fillers) { fillers_ = fillers; }
 
+    /// Lines that have given way to newer ones. The first line tells how many, in place of its own
+    /// text and value.
+    [[nodiscard]] std::uint64_t gone() const { return gone_; }
+
     [[nodiscard]] std::size_t count() const override { return static_cast<std::size_t>(added_ - dropped_); }
     [[nodiscard]] std::string row(std::size_t index) const override;
-    [[nodiscard]] std::size_t selected() const override { return selected_; }
+    [[nodiscard]] std::size_t selected() const override {
+        return static_cast<std::size_t>(std::max(selected_, dropped_) - dropped_);
+    }
     void select(std::size_t index) override;
     [[nodiscard]] std::uint64_t revision() const override { return revision_; }
 
@@ -74,45 +117,53 @@ private:
         ValueCell value;
     };
     static constexpr std::uint8_t kLong = 255;
-    static constexpr std::uint8_t kText = 255;
     static constexpr std::size_t kBlock = 4096;
+    /// Plain lines that are kept, at least.
+    static constexpr std::size_t kKeptLines = 10'000'000;
+    static constexpr std::size_t kMostBlocks = kKeptLines / kBlock + 2;
     /// Lines side by side. Most are plain numbers, which a program writes by the million.
     struct Block {
-        std::array<double, kBlock> number;       ///< or the place in texts_
-        std::array<std::uint8_t, kBlock> look;   ///< mode, digits and decimal character, packed, or kText
-        std::array<std::uint8_t, kBlock> label;  ///< of a number: place in labels_
+        std::array<double, kBlock> number;    ///< or the place in `texts`
+        std::array<LineStyle, kBlock> style;  ///< label and packed look, or kText
+        std::vector<Text> texts;
+        std::size_t textBytes = 0;  ///< that the texts and their values take
     };
-    /// One line of a block.
-    struct Row {
-        double& number;
-        std::uint8_t& look;
-        std::uint8_t& label;
-    };
-    static constexpr std::size_t kLabels = 256;
+    static constexpr LineStyle kText{0xFFFF};
+    static constexpr std::size_t kMostLabels = 0xFFFF / kPackedLooks;
+    /// Twice as many places as labels, so that a search ends soon.
+    static constexpr std::size_t kLabelPlaces = 1024;
+    /// Bytes that the texts may take together; beyond it the oldest block gives way.
+    static constexpr std::size_t kMostTextBytes = std::size_t{64} << 20U;
 
-    Row append();
-    [[nodiscard]] Row at(std::uint64_t number) const {
-        Block& block = *blocks_[number / kBlock];
-        const std::size_t place = number % kBlock;
-        return {block.number[place], block.look[place], block.label[place]};
+    /// The block whose line `place_` is the next one, which counts and is selected.
+    Block& append() {
+        if (place_ == kBlock) {
+            addBlock();
+        }
+        selected_ = added_++;
+        ++revision_;
+        return *last_;
     }
-    /// Place of `label` in labels_; kLabels where another label has it.
-    [[nodiscard]] std::size_t placeOfLabel(std::string_view label);
-    [[nodiscard]] Text& textOf(const Row& row) { return texts_[static_cast<std::size_t>(row.number)]; }
-    [[nodiscard]] const Text& textOf(const Row& row) const { return texts_[static_cast<std::size_t>(row.number)]; }
-    void putText(const Row& row, std::string_view text, const ValueCell& value);
-    [[nodiscard]] std::string numberText(const Row& row) const;
+    void addBlock();
+    void giveWay();
+    [[nodiscard]] const Block& blockOf(std::uint64_t line) const { return *blocks_[(line - first_) / kBlock]; }
+    [[nodiscard]] const Text* textOf(std::uint64_t line) const;
 
     // Lines are numbered as they are added; those below dropped_ are gone.
     std::vector<std::unique_ptr<Block>> blocks_;
-    std::array<std::string, kLabels> labels_;
+    Block* last_ = nullptr;
+    std::size_t place_ = kBlock;  ///< of the next line in the last block
+    std::uint64_t first_ = 0;     ///< number of the first line in the first block
     std::uint64_t added_ = 0;
     std::uint64_t dropped_ = 0;
-    std::deque<Text> texts_;
-    /// Texts longer than a line, by their place in texts_.
-    std::unordered_map<std::size_t, std::string> longTexts_;
+    std::uint64_t gone_ = 0;
+    std::size_t textBytes_ = 0;
+    /// Texts longer than a line, by their line.
+    std::map<std::uint64_t, std::string> longTexts_;
+    std::vector<ShortLabel> labels_ = std::vector<ShortLabel>(1);
+    std::vector<std::uint16_t> labelPlaces_ = std::vector<std::uint16_t>(kLabelPlaces);
     int fillers_ = 0;
-    std::size_t selected_ = 0;
+    std::uint64_t selected_ = 0;
     std::uint64_t revision_ = 0;
 };
 

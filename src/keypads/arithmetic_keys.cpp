@@ -9,13 +9,17 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 
 namespace tallyforge {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kOperators{"ö"_t, "X", "-", "+"};
+using Operators = std::array<ShortLabel, 4>;
+constexpr Operators kOperators{ShortLabel{"ö"_t}, ShortLabel{"X"}, ShortLabel{"-"}, ShortLabel{"+"}};
+/// With the constant in its register.
+constexpr Operators kConstantOperators{ShortLabel{"mö"_t}, ShortLabel{"mX"}, ShortLabel{"m-"}, ShortLabel{"m+"}};
 constexpr std::string_view kFieldPattern = "0.0e+00";
 constexpr int kDivide = 0;
 constexpr int kMultiply = 1;
@@ -24,22 +28,59 @@ constexpr int kAdd = 3;
 constexpr int kArithmeticRegister = 1;
 constexpr int kConstantRegister = 2;
 
-double apply(int index, double left, double right) {
+/// The bare operation; a division by zero and a result out of range are not finite.
+double operate(int index, double left, double right) {
     switch (index) {
         case kDivide:
-            return quotient(left, right);
+            return left / right;
         case kMultiply:
-            return checked(left * right);
+            return left * right;
         case kSubtract:
-            return checked(left - right);
+            return left - right;
         default:
-            return checked(left + right);
+            return left + right;
     }
+}
+
+double apply(int index, double left, double right) {
+    return index == kDivide ? quotient(left, right) : checked(operate(index, left, right));
 }
 
 }  // namespace
 
+// Two plain numbers with a plain result, and nobody watches: no more than the commit is left to do.
+bool ArithmeticKeys::computeQuietly(int index) {
+    StackState& stack = calc.s.stack;
+    if (!calc.commit.quiet() || stack.depth() < 2) {
+        return false;
+    }
+    const double* const left = stack.slot(stack.StackPtr - 2).asDouble();
+    const double* const right = stack.slot(stack.StackPtr - 1).asDouble();
+    if (left == nullptr || right == nullptr) {
+        return false;
+    }
+    const double result = operate(index, *left, *right);
+    if (!std::isfinite(result)) {
+        return false;
+    }
+    const double operand = *right;
+    if (!calc.commit.put(result, stack.StackPtr - 2, labels_[static_cast<std::size_t>(index)])) {
+        return false;
+    }
+    stack.LastX = operand;
+    return true;
+}
+
+ArithmeticKeys::ArithmeticKeys(Engine& calculator) : calc(calculator) {
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        labels_[i] = *calc.tape.known(kOperators[i]);
+    }
+}
+
 void ArithmeticKeys::cmdMath_Click(int index) {
+    if (computeQuietly(index)) {
+        return;
+    }
     EngineState& s = calc.s;
     if (!calc.commit.FetchX()) {
         calc.ClearOptKeys();
@@ -54,8 +95,8 @@ void ArithmeticKeys::cmdMath_Click(int index) {
         return;
     }
     const bool intoRegister = s.modifiers.ModifierMask == kCtrl;
-    s.delivery.FnLabel = s.modifiers.ModifierMask == kAlt ? "m" : "";
-    s.delivery.FnLabel += kOperators.at(static_cast<std::size_t>(index));
+    s.delivery.FnLabel =
+        (s.modifiers.ModifierMask == kAlt ? kConstantOperators : kOperators).at(static_cast<std::size_t>(index));
     const std::optional<FailureNumber> failed = compute(index, operands);
     const bool noNumber = failed == FailureNumber::TypeMismatch;
     if (noNumber || (tagged && failed && *failed != FailureNumber::DivisionByZero)) {

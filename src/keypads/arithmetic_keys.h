@@ -4,9 +4,11 @@
 // the stack stays as it is; with Alt on X and the constant in Register 2.
 #pragma once
 
+#include "engine/tape.h"
 #include "numbers/failure.h"
 #include "numbers/value_cell.h"
 
+#include <array>
 #include <optional>
 
 namespace tallyforge {
@@ -17,7 +19,7 @@ class BinaryKeys;
 
 class ArithmeticKeys {
 public:
-    explicit ArithmeticKeys(Engine& calculator) : calc(calculator) {}
+    explicit ArithmeticKeys(Engine& calculator);
 
     /// 0 divide, 1 multiply, 2 subtract, 3 add, of X and what ModifierMask chooses. Raises
     /// nothing: an overflow and a subtrahend too great are shown in a box, other failures are quiet.
@@ -28,6 +30,7 @@ public:
     BinaryKeys* bases = nullptr;
 
 private:
+    bool computeQuietly(int index);
     struct Operands {
         bool valid = false;  ///< false: the modifiers mean nothing here
         const ValueCell* left = nullptr;
@@ -40,6 +43,7 @@ private:
     void storeRegisterOne();
 
     Engine& calc;
+    std::array<KnownLabel, 4> labels_;
 };
 
 }  // namespace tallyforge

@@ -68,9 +68,15 @@ void Dispatch::press(const KeyRow& key) {
             keepOperand();
         }
     });
-    leaveKey();
+    if (calc.commit.quiet()) {
+        // Nothing is lit or latched; the mask was set for this press alone.
+        s.modifiers.ModifierMask = 0;
+    } else {
+        leaveKey();
+    }
     s.entry.EntryTouched = false;
-    if (s.stack.Xreg.textView() == kNoMeaning || s.stack.Xreg.textView() == kNothingDone) {
+    const std::string_view left = s.stack.Xreg.textView();
+    if (!left.empty() && (left == kNoMeaning || left == kNothingDone)) {
         leaveNothing(key.key);
     } else {
         commitResult();

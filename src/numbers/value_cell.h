@@ -52,8 +52,8 @@ public:
         kind_ = Kind::Double;
         return *this;
     }
-    /// The integer 0, as a cleared cell holds it.
-    [[nodiscard]] static ValueCell zero() { return ValueCell{std::int16_t{0}}; }
+    /// The number 0, as a cleared cell holds it.
+    [[nodiscard]] static ValueCell zero() { return ValueCell{0.0}; }
 
     [[nodiscard]] bool isEmpty() const { return kind_ == Kind::Empty; }
     [[nodiscard]] bool isText() const { return kind_ == Kind::Text; }

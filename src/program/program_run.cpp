@@ -139,6 +139,9 @@ void ProgramRun::executeWord(const ProgramWord& word) {
         executeStatement(word);
         return;
     }
+    if (!calc.commit.quiet()) {
+        calc.commit.settle();
+    }
     if (state.TraceOn) {
         trace_.write(lineNumber_, word.text);
     }
@@ -161,9 +164,7 @@ void ProgramRun::executeWord(const ProgramWord& word) {
 }
 
 void ProgramRun::pushNumber(double number) {
-    calc.s.entry.RoundTripCheck = true;
     calc.commit.enterStored(number);
-    calc.s.entry.RoundTripCheck = false;
     // A number of fifteen digits needs no trip; a copy of X that has more does.
     if (const double* const x = calc.s.stack.Xreg.asDouble(); x == nullptr || *x != number) {
         roundTrip();
@@ -171,10 +172,7 @@ void ProgramRun::pushNumber(double number) {
 }
 
 void ProgramRun::pushVariable(double value) {
-    calc.s.entry.RoundTripCheck = true;
-    calc.s.stack.Xreg = value;
-    calc.commit.cmdEnter_Click();
-    calc.s.entry.RoundTripCheck = false;
+    calc.commit.pushCopy(value);
 }
 
 // A number of a base stays one.
@@ -192,9 +190,7 @@ void ProgramRun::pushCopy(const ValueCell& cell) {
 }
 
 void ProgramRun::pressFunction(const FunctionWord& word, int registerNumber) {
-    calc.s.entry.RoundTripCheck = true;
     tools.keys.DoProgramWord(word, registerNumber);
-    calc.s.entry.RoundTripCheck = false;
     roundTrip();
 }
 
@@ -240,6 +236,7 @@ void ProgramRun::tick() {
 }
 
 void ProgramRun::breathe() {
+    calc.commit.wake();
     const Interruption wish = calc.platform.breathe();
     if (wish == Interruption::None) {
         return;

@@ -17,6 +17,13 @@ std::string from(const std::string& text, std::size_t first) {
     return text.size() < first ? std::string{} : text.substr(first - 1);
 }
 
+/// The statement goes to another line and leaves the calculator as it is.
+bool movesOnly(Statement statement) {
+    return statement == Statement::Gsb || statement == Statement::Glb || statement == Statement::End ||
+           statement == Statement::EndIf || statement == Statement::If || statement == Statement::X ||
+           statement == Statement::Y;
+}
+
 }  // namespace
 
 void ProgramRun::executeStatement(const ProgramWord& word) {
@@ -25,6 +32,9 @@ void ProgramRun::executeStatement(const ProgramWord& word) {
     }
     if (state.TraceOn) {
         trace_.write(lineNumber_, word.text);
+    }
+    if (!movesOnly(word.statement)) {
+        calc.commit.wake();
     }
     switch (word.statement) {
         case Statement::Stop:

@@ -29,7 +29,7 @@ public:
     }
     ~Running() {
         --control.running;
-        calc.s.entry.RoundTripCheck = false;
+        calc.commit.wake();
         calc.unwatched = watched_;
         if (!calc.unwatched) {
             calc.showPending();

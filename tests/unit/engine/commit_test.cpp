@@ -186,14 +186,9 @@ TEST_F(Commit_, KeysOfTheStackComeAliveWithTheFirstNumber) {
 
 TEST_F(Commit_, ARunningProgramKeepsTheExactValueBehindItsText) {
     replaceTop(1.0 / 3.0, "");
-    calc.s.entry.RoundTripCheck = true;
-    calc.s.entry.EntryOpen = true;
-    calc.setEntry("0.333333333333333");
-    calc.commit.cmdEnter_Click();
+    calc.commit.enterStored(0.333333333333333);
     EXPECT_EQ(calc.xNumber(), 1.0 / 3.0);
-    calc.s.entry.EntryOpen = true;
-    calc.setEntry("0.25");
-    calc.commit.cmdEnter_Click();
+    calc.commit.enterStored(0.25);
     EXPECT_EQ(x(), "0.25");
 }
 

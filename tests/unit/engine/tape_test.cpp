@@ -37,21 +37,6 @@ TEST(Tape, ALineReadsAsItWasWrittenWhateverTheFormatIsLater) {
     EXPECT_EQ(tape.row(2), "Lastx        12.345e+03");
 }
 
-TEST(Tape, AnotherValueBehindALineLeavesItsText) {
-    Tape tape;
-    tape.clear(0);
-    tape.addNumber({}, "CHS", -2.5);
-    tape.add("text", ValueCell{"#FFh"});
-    tape.setValue(0, 7.0);
-    tape.setValue(1, 8.0);
-    tape.setValue(2, 9.0);
-    EXPECT_EQ(tape.row(0), "CHS               -2.50");
-    EXPECT_EQ(tape.value(0), ValueCell{7.0});
-    EXPECT_EQ(tape.row(1), "text");
-    EXPECT_EQ(tape.value(1), ValueCell{8.0});
-    EXPECT_EQ(tape.count(), 2U);
-}
-
 TEST(Tape, FillersGoOneByOneAndLinesKeepTheirPlaces) {
     Tape tape;
     tape.clear(2);
@@ -80,6 +65,60 @@ TEST(Tape, BlocksJoinWithoutASeam) {
         EXPECT_EQ(tape.value(i + 2), ValueCell{static_cast<double>(i)});
     }
     EXPECT_EQ(tape.lines(), 10000U);
+}
+
+TEST(Tape, KeepsTheLastTenMillionLinesAndTellsHowManyWereBefore) {
+    constexpr std::size_t kLines = 10'100'000;
+    Tape tape;
+    tape.clear(7);
+    for (int filler = 0; filler < 7; ++filler) {
+        EXPECT_TRUE(tape.dropFiller());
+    }
+    tape.add(std::string(40, 'w'), ValueCell{"typed"});
+    const LineStyle plus = Tape::style(packed({}), *tape.idOf(ShortLabel{"+"}));
+    for (std::size_t i = 1; i < kLines; ++i) {
+        tape.addNumber(plus, static_cast<double>(i));
+    }
+    EXPECT_GT(tape.gone(), 0U);
+    EXPECT_EQ(tape.gone() + tape.count(), kLines);
+    EXPECT_GE(tape.count(), 10'000'000U + 1U);
+    EXPECT_LT(tape.count(), 10'010'000U);
+    EXPECT_EQ(tape.row(0), std::to_string(tape.gone() + 1) + " older lines");
+    EXPECT_TRUE(tape.value(0).isEmpty());
+    EXPECT_EQ(tape.value(1), ValueCell{static_cast<double>(tape.gone() + 1)});
+    EXPECT_EQ(tape.row(tape.count() - 1), "+         10,099,999.00");
+    EXPECT_EQ(tape.selected(), tape.count() - 1);
+    tape.select(5);
+    EXPECT_EQ(tape.selected(), 5U);
+    tape.clear(0);
+    EXPECT_EQ(tape.gone(), 0U);
+    EXPECT_EQ(tape.count(), 0U);
+}
+
+TEST(Tape, LongTextsGiveWaySooner) {
+    constexpr int kLines = 1'000'000;
+    Tape tape;
+    tape.clear(0);
+    for (int i = 0; i < kLines; ++i) {
+        tape.add("#1010b", ValueCell{std::string(100, '1')});
+    }
+    EXPECT_GT(tape.count(), 250'000U);
+    EXPECT_LT(tape.count(), 500'000U);
+    EXPECT_EQ(tape.gone() + tape.count(), static_cast<std::size_t>(kLines));
+    EXPECT_EQ(tape.row(tape.count() - 1), "#1010b");
+}
+
+TEST(Tape, MoreLabelsThanItKnowsAreWrittenOut) {
+    Tape tape;
+    tape.clear(0);
+    for (int i = 0; i < 2000; ++i) {
+        tape.addNumber({}, "v" + std::to_string(i), i);
+    }
+    for (std::size_t i = 0; i < 2000; ++i) {
+        const std::string line = tape.row(i);
+        EXPECT_TRUE(line.starts_with("v" + std::to_string(i) + " ")) << line;
+        EXPECT_EQ(line.size(), kTapeWidth);
+    }
 }
 
 }  // namespace
