@@ -32,6 +32,19 @@ std::string_view printed(std::string_view character) {
 
 }  // namespace
 
+DialogPlace placeCalculator(const Place& form, const DesktopMetrics& screen, int width, int height) {
+    constexpr int kTaskBar = 800;
+    const int half = form.width / 2;
+    DialogPlace at{.DialogTop = form.top, .DialogLeft = form.left + half};
+    if (at.DialogLeft + width > screen.screenWidth - kTaskBar) {
+        at.DialogLeft = half >= width ? form.left : screen.screenWidth - kTaskBar - width;
+    }
+    if (at.DialogTop + height > screen.screenHeight) {
+        at.DialogTop = screen.screenHeight - height;
+    }
+    return at;
+}
+
 DialogPlace PlaceDialog(const Place& form, const DesktopMetrics& screen, int width, int height) {
     constexpr int kTaskBar = 800;
     const int half = form.height / 2;

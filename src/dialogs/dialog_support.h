@@ -23,6 +23,10 @@ struct DialogPlace {
 /// lengths are in twips.
 [[nodiscard]] DialogPlace PlaceDialog(const Place& form, const DesktopMetrics& screen, int width, int height);
 
+/// Where a calculator or a choice of parameters goes: beside the middle of `form`, or over it where
+/// the screen ends.
+[[nodiscard]] DialogPlace placeCalculator(const Place& form, const DesktopMetrics& screen, int width, int height);
+
 /// Keys of a dialog's number field.
 class DialogKeyFilter {
 public:

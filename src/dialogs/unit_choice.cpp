@@ -97,13 +97,13 @@ std::string MapUnitText(std::string_view label) {
     return text;
 }
 
-void askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRange* const> ranges) {
+bool askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRange* const> ranges) {
     const MessageBox question{.kind = BoxKind::Plain,
                               .title = "SAVE!",
                               .text = "Would you like to save these units as default?",
                               .buttons = BoxButtons::YesNo};
     if (calc.platform.messageBox(question) != Answer::Yes) {
-        return;
+        return false;
     }
     const auto report = [&](const Failure& failure) {
         calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
@@ -113,6 +113,7 @@ void askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRa
             settings.replaceUnits(range->word, bitsOf(*range), calc.units.*range->word);
         }
     });
+    return true;
 }
 
 }  // namespace tallyforge

@@ -40,6 +40,7 @@ void chooseRow(const UnitRange& range, int row, UnitWords& words);
 
 /// Asks whether the units in force of these ranges are to be the default, and writes them to the
 /// settings on Yes. No other bits of the file change. A file that cannot be written is reported.
-void askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRange* const> ranges);
+/// Returns whether the answer was Yes.
+bool askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRange* const> ranges);
 
 }  // namespace tallyforge

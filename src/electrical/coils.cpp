@@ -8,14 +8,6 @@ namespace tallyforge {
 
 namespace {
 
-/// Loss factors of a permeability: dielectric, eddy current, hysteresis, residual.
-struct LossFactors {
-    double a = 0.0;
-    double b = 0.0;
-    double c = 0.0;
-    double d = 0.0;
-};
-
 // In the order of kCoilPermeabilities.
 constexpr std::array<LossFactors, kCoilPermeabilities.size()> kLossFactors{{
     {0.012, 0.000000027, 0.0000015, 0.000088},
@@ -49,8 +41,12 @@ double solenoidTurns(double microhenries, double radius, double length, double u
     return quotient(rootOf(microhenries * (10.0 * length + 9.0 * radius) * unitsPerInch), radius);
 }
 
+const LossFactors& coilLossFactors(std::size_t row) {
+    return kLossFactors.at(row);
+}
+
 double coilQ(std::size_t row, const CoilLosses& coil) {
-    const LossFactors& factors = kLossFactors.at(row);
+    const LossFactors& factors = coilLossFactors(row);
     const double w = kTwoPi * coil.hertz;
     const double winding = w * w * w * factors.a * coil.henries * coil.henries * coil.farads;
     const double core = (factors.c * coil.gauss + factors.d + factors.b * coil.hertz) * kCoilPermeabilities.at(row) *

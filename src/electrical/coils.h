@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace tallyforge {
@@ -18,6 +19,16 @@ namespace tallyforge {
 
 /// Permeabilities whose losses are known, in the order of the dialog's rows.
 inline constexpr std::array<int, 10> kCoilPermeabilities{550, 300, 200, 173, 160, 147, 14, 26, 60, 125};
+
+/// Loss factors of a permeability: dielectric, eddy current, hysteresis, residual.
+struct LossFactors {
+    double a = 0.0;
+    double b = 0.0;
+    double c = 0.0;
+    double d = 0.0;
+};
+/// `row` is one of kCoilPermeabilities.
+[[nodiscard]] const LossFactors& coilLossFactors(std::size_t row);
 
 struct CoilLosses {
     double hertz = 0.0;

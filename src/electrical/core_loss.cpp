@@ -13,13 +13,6 @@ namespace {
 
 constexpr double kGaussPerKilogauss = 1000.0;
 
-/// a F^c B^d, F in kilohertz and B in kilogauss.
-struct LossCurve {
-    double a = 0.0;
-    double c = 0.0;
-    double d = 0.0;
-};
-
 double loss(const LossCurve& curve, double kilohertz, double gauss) {
     return checked(curve.a * power(kilohertz, curve.c) * power(gauss / kGaussPerKilogauss, curve.d));
 }
@@ -37,12 +30,6 @@ constexpr PermeabilityClass kPowderClasses[] = {
     {400, {0.0528, 1.64, 2.27}},  {kMostPowderPermeability, {0.161, 1.59, 2.36}}};
 
 constexpr double kNoEnd = std::numeric_limits<double>::infinity();
-
-struct FrequencyRange {
-    double end = kNoEnd;  ///< kilohertz
-    bool endBelongs = false;
-    LossCurve curve{};
-};
 
 constexpr FrequencyRange kMaterialK[] = {
     {500, false, {0.053, 1.6, 3.15}}, {1000, false, {0.00113, 2.19, 3.1}}, {kNoEnd, false, {0.0000000017, 4.13, 2.98}}};
@@ -73,8 +60,12 @@ double powderCoreLoss(double gauss, double kilohertz, double permeability) {
     return loss(found->curve, kilohertz, gauss);
 }
 
+std::span<const FrequencyRange> ferriteCurves(std::size_t material) {
+    return kFerrites.at(material);
+}
+
 double ferriteCoreLoss(std::size_t material, double kilohertz, double gauss) {
-    const std::span<const FrequencyRange> ranges = kFerrites.at(material);
+    const std::span<const FrequencyRange> ranges = ferriteCurves(material);
     const auto found = std::find_if(ranges.begin(), std::prev(ranges.end()), [kilohertz](const FrequencyRange& range) {
         return range.endBelongs ? kilohertz <= range.end : kilohertz < range.end;
     });

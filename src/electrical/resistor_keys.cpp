@@ -29,8 +29,6 @@ constexpr KeyInput kRhoInputs[] = {
     {.mask = 0, .bit = 1, .label = "rho"}, {.mask = kCtrl, .bit = kLengthBit}, {.mask = kAlt, .bit = kAreaBit}};
 constexpr KeySolution kResistance[] = {{.bits = 7}};
 constexpr MultiInput::Shape kRho{.resetLabel = "Reset rho", .inputs = kRhoInputs, .solutions = kResistance};
-/// Of microhm-centimetres, by the rows of the unit: m, in, cm, mm.
-constexpr std::array<float, 4> kRhoFactors{1e-8F, 3.937e-7F, 1e-6F, 1e-5F};
 
 constexpr KeyInput kParts[] = {{.mask = 0, .bit = 1, .label = "xb"},
                                {.mask = kCtrl, .bit = 2, .label = "jyb"},
@@ -101,8 +99,8 @@ std::string ResistorKeys::rhoLabel(const KeyInput& input) const {
 
 std::vector<KeyResult> ResistorKeys::resistance(const InputValues& values) const {
     const auto row = static_cast<std::size_t>(chosenRow(kOhmLength, calc.units).value_or(0));
-    return {
-        {.value = resistanceOf(values[0], values[1], values[2], kRhoFactors.at(row)), .label = std::string("R, ê"_t)}};
+    return {{.value = resistanceOf(values[0], values[1], values[2], kResistivityFactors.at(row)),
+             .label = std::string("R, ê"_t)}};
 }
 
 void ResistorKeys::parallelImpedance() {

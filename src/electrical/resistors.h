@@ -6,6 +6,8 @@
 
 #include "engine/engine_state.h"
 
+#include <array>
+
 namespace tallyforge {
 
 /// Total of two resistors in parallel, RT = (1/R2 + 1/R1)^-1, ohms (Kirchhoff). Raises 11 for a
@@ -36,8 +38,9 @@ struct Impedance {
 /// in grads too large by 10/9. Raises 11 where one of them is 0, or their admittances cancel.
 [[nodiscard]] Impedance parallelImpedance(double xa, double jya, double xb, double jyb, AngleMode mode);
 
-/// A unit of length of the resistivity key and what it makes of microhm-centimetres: R = factor rho
-/// L / A, L in the unit and A in its square. Keeps the single precision of the factors.
+/// Of microhm-centimetres, by the unit of length: m, in, cm, mm. Keeps their single precision.
+inline constexpr std::array<float, 4> kResistivityFactors{1e-8F, 3.937e-7F, 1e-6F, 1e-5F};
+/// R = factor rho L / A, ohms: L in the unit of the factor and A in its square. Raises 11.
 [[nodiscard]] double resistanceOf(double microhmCentimetres, double length, double area, float factor);
 
 }  // namespace tallyforge

@@ -231,6 +231,9 @@ void Dispatch::cmdFunctions_MouseDown(int index, MouseButton button, std::uint8_
         calc.ClearOptKeys();
         model.repaint();
         key.choose(subjects);
+        // Captions and tips follow the choice.
+        model.repaint();
+        calc.focusEntry();
     }
 }
 

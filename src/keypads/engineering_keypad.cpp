@@ -3,6 +3,8 @@
 // The Engineering keypad, a row a key.
 // Units in a tip stand as ranges of unit_tables.h in braces; the painter writes those in force.
 #include "calculators/calculators.h"
+#include "dialogs/unit_choice.h"
+#include "electrical/parameter_tables.h"
 #include "functions/constants.h"
 #include "functions/trigonometry.h"
 #include "keypads/calculator_keys.h"
@@ -11,6 +13,26 @@
 #include "keypads/keys.h"
 
 namespace tallyforge {
+
+namespace {
+
+// A block has a length and a width where a cylinder has its diameter.
+std::optional<KeyCaption> dimensionCaption(const Keys& keys, std::uint8_t mask) {
+    if (chosenRow(kLmuShape, keys.calc.units) != 1) {
+        return std::nullopt;
+    }
+    switch (mask) {
+        case kAlt:
+        case kShift + kAlt:
+            return "len";
+        case kCtrl + kAlt:
+            return "W";
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
 
 const KeypadTable kEngineeringKeypad{
     .id = Keypad::Engineering,
@@ -83,7 +105,9 @@ const KeypadTable kEngineeringKeypad{
                    .all = "F"},
          .silentOperand = true,
          .helpTopic = 1109,
-         .does = [](Keys& keys) { keys.electrical.filters.supplyCapacitor(); }},
+         .does = [](Keys& keys) { keys.electrical.filters.supplyCapacitor(); },
+         .choose =
+             [](Keys& keys) { ParameterDialog(keys.calc, kPwrSupCapTable, {.saveUnits = keys.saveUnits}).ask(); }},
         {.key = 10,
          .caption = "f(x)",
          .tip = " Invoke the Polynomial Calculator: [Click] ",
@@ -169,7 +193,13 @@ const KeypadTable kEngineeringKeypad{
          .under = {.shift = {"r", Face::Symbol}, .ctrl = "L", .shiftCtrl = "L", .alt = "A", .shiftAlt = "A"},
          .silentOperand = true,
          .helpTopic = 1120,
-         .does = [](Keys& keys) { keys.electrical.resistors.resistivity(); }},
+         .does = [](Keys& keys) { keys.electrical.resistors.resistivity(); },
+         .choose =
+             [](Keys& keys) {
+                 ParameterDialog(keys.calc, kResistivityTable,
+                                 {.saveUnits = keys.saveUnits, .showValues = keys.pickResistivity})
+                     .ask();
+             }},
         {.key = 21,
          .caption = "rT",
          .tip = " Change in resistance vs temperature: Click: Calculator | Shift+Click: TC | Ctrl+: R1 | Alt+: R2 | "
@@ -186,7 +216,9 @@ const KeypadTable kEngineeringKeypad{
          .under = {.ctrl = "HT", .shiftCtrl = "HT", .alt = "dia", .shiftAlt = "dia"},
          .silentOperand = true,
          .helpTopic = 1122,
-         .does = [](Keys& keys) { keys.electrical.surfaces.surfaceAndTemperature(); }},
+         .does = [](Keys& keys) { keys.electrical.surfaces.surfaceAndTemperature(); },
+         .choose = [](Keys& keys) { ParameterDialog(keys.calc, kTempRiseTable, {.saveUnits = keys.saveUnits}).ask(); },
+         .captionNow = dimensionCaption},
         {.key = 23,
          .caption = "dB",
          .tip = " P1 [^], P2 [Click] | E1(I2)[^], Z1[^], E2(I1)[^], Z2[Shift+Click] ",

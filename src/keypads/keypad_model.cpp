@@ -120,15 +120,21 @@ void KeypadModel::paintPlain() {
     const KeypadTable& table = keypadTable(keypad);
     for (const KeyRow& row : table.rows) {
         Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
-        look(key, row.caption, tipOf(table, row), row.colour);
+        look(key, captionOf(row, 0), tipOf(table, row), row.colour);
         hideWhereDue(key, row, calc.s);
-    }
-    if (dressUnits && unitsMatter(keypad)) {
-        dressUnits(keypad);
     }
     if (dressConversions && keypad == Keypad::Convert) {
         dressConversions();
     }
+}
+
+KeyCaption KeypadModel::captionOf(const KeyRow& row, std::uint8_t mask) const {
+    if (row.captionNow != nullptr && chosenCaption) {
+        if (const auto chosen = chosenCaption(row, mask); chosen) {
+            return *chosen;
+        }
+    }
+    return mask == 0 || row.common ? row.caption : row.under.at(mask);
 }
 
 // The bank is painted after every key, so that tips with units are composed once a choice.
@@ -185,7 +191,7 @@ void KeypadModel::paint(std::uint8_t mask) {
     }
     for (const KeyRow& row : table.rows) {
         Control& key = calc.form.cmdFunctions.at(static_cast<std::size_t>(row.key));
-        const KeyCaption& caption = row.common ? row.caption : row.under.at(mask);
+        const KeyCaption caption = captionOf(row, mask);
         if (caption.text.empty()) {
             key.visible = false;
         } else {

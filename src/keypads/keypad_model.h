@@ -46,8 +46,9 @@ public:
 
     /// Counts a hint of the Engineering or Magnetics keypad; returns whether it is still due.
     std::function<bool(Keypad)> hintDue;
-    /// Writes the captions and tool tips that depend on the chosen units over those of the rows.
-    std::function<void(Keypad)> dressUnits;
+    /// The caption that a choice of the user's gives a key under a mask (0: plain); none where the
+    /// row's own stands.
+    std::function<std::optional<KeyCaption>(const KeyRow&, std::uint8_t mask)> chosenCaption;
     /// Writes what keys of the Convert keypad remember over the captions and tips of the rows.
     std::function<void()> dressConversions;
 
@@ -65,6 +66,7 @@ private:
     void tickMenu(Keypad keypad);
     void showHint(Keypad keypad);
     [[nodiscard]] bool bankIsLent() const;
+    [[nodiscard]] KeyCaption captionOf(const KeyRow& row, std::uint8_t mask) const;
     [[nodiscard]] std::string_view tipOf(const KeypadTable& table, const KeyRow& row);
 
     /// Tips of the keypad that is laid, with the units that were in force when they were written.

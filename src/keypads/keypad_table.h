@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -87,6 +88,9 @@ struct KeyRow {
     void (*does)(Keys&) = nullptr;
     /// Ctrl with the right button on a light blue key: chooses its units or material.
     void (*choose)(Keys&) = nullptr;
+    /// The caption under a mask (0: plain) that a choice of the user's gives the key; none where the
+    /// row's own stands.
+    std::optional<KeyCaption> (*captionNow)(const Keys&, std::uint8_t mask) = nullptr;
 };
 
 struct KeypadTable {

@@ -37,6 +37,7 @@ Keypads::Keypads(Engine& calculator)
     : model(calculator), keys{calculator}, dispatch(calculator, model, keys), arithmetic(calculator), calc(calculator) {
     calc.connect(*this);
     model.dressConversions = [this] { keys.conversions.dress(); };
+    model.chosenCaption = [this](const KeyRow& row, std::uint8_t mask) { return row.captionNow(keys, mask); };
     arithmetic.bases = &keys.binary;
     hangOnForm();
 }

@@ -26,8 +26,10 @@ struct Keys {
     Engine& calc;
     /// Loads one of the programs that belong to a key, by its file name.
     std::function<void(std::string_view)> runProgram{};
-    /// Asks whether the units in force of these ranges are to be the default.
-    std::function<void(std::span<const UnitRange* const>)> saveUnits{};
+    /// Asks whether the units in force of these ranges are to be the default; whether they are now.
+    std::function<bool(std::span<const UnitRange* const>)> saveUnits{};
+    /// Picks a resistivity into X from the list of materials; not there without the list.
+    std::function<void()> pickResistivity{};
     /// A coefficient picked from the list of typical ones, Empty for none; not there without the list.
     std::function<ValueCell()> typicalValue{};
     DialogHandOver dialog{calc};

@@ -3,7 +3,9 @@
 // The Magnetics keypad, a row a key.
 // Units in a tip stand as ranges of unit_tables.h in braces; the painter writes those in force.
 #include "calculators/calculators.h"
+#include "dialogs/unit_choice.h"
 #include "electrical/bundle.h"
+#include "electrical/parameter_tables.h"
 #include "electrical/wire_keys.h"
 #include "functions/constants.h"
 #include "keypads/calculator_keys.h"
@@ -12,6 +14,32 @@
 #include "keypads/keys.h"
 
 namespace tallyforge {
+
+namespace {
+
+// By the shape: toroid, rectangular, round.
+std::optional<KeyCaption> meanTurnCaption(const Keys& keys, std::uint8_t mask) {
+    constexpr std::array<std::string_view, 3> kOuter{"OD", "L", "dia"};
+    constexpr std::array<std::string_view, 3> kInner{"ID", "W", " od wdg"};
+    constexpr std::array<std::string_view, 3> kInnerAgain{"ID", "W", "ODw"};
+    const auto shape = static_cast<std::size_t>(chosenRow(kLmuCore, keys.calc.units).value_or(0));
+    switch (mask) {
+        case kShift:
+            return kOuter.at(shape);
+        case kCtrl:
+            return kInner.at(shape);
+        case kShift + kCtrl:
+            return kInnerAgain.at(shape);
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<KeyCaption> wireCaption(const Keys& keys, std::uint8_t mask) {
+    return mask == 0 ? std::optional<KeyCaption>(wireBuildCaption(keys.electrical.choices.build)) : std::nullopt;
+}
+
+}  // namespace
 
 const KeypadTable kMagneticsKeypad{
     .id = Keypad::Magnetics,
@@ -104,7 +132,16 @@ const KeypadTable kMagneticsKeypad{
                    .all = "Bm"},
          .silentOperand = true,
          .helpTopic = 1811,
-         .does = [](Keys& keys) { keys.electrical.coils.quality(); }},
+         .does = [](Keys& keys) { keys.electrical.coils.quality(); },
+         .choose =
+             [](Keys& keys) {
+                 ElectricalChoices& choices = keys.electrical.choices;
+                 ParameterDialog(keys.calc, kQTable,
+                                 {.row = &choices.coilPermeability,
+                                  .number = &choices.distributedPicofarads,
+                                  .saveUnits = keys.saveUnits})
+                     .ask();
+             }},
         {.key = 12,
          .caption = "mtl",
          .tip = "{LmuCoreTip}",
@@ -112,7 +149,9 @@ const KeypadTable kMagneticsKeypad{
          .under = {.shift = "OD", .ctrl = "ID", .shiftCtrl = "ID", .alt = "Ht", .shiftAlt = "Ht"},
          .silentOperand = true,
          .helpTopic = 1812,
-         .does = [](Keys& keys) { keys.electrical.coils.meanTurn(); }},
+         .does = [](Keys& keys) { keys.electrical.coils.meanTurn(); },
+         .choose = [](Keys& keys) { ParameterDialog(keys.calc, kMTLTable, {.saveUnits = keys.saveUnits}).ask(); },
+         .captionNow = meanTurnCaption},
         {.key = 13,
          .caption = "Ls",
          .tip =
@@ -127,7 +166,8 @@ const KeypadTable kMagneticsKeypad{
                    .all = "len"},
          .silentOperand = true,
          .helpTopic = 1813,
-         .does = [](Keys& keys) { keys.electrical.coils.solenoid(); }},
+         .does = [](Keys& keys) { keys.electrical.coils.solenoid(); },
+         .choose = [](Keys& keys) { ParameterDialog(keys.calc, kLsTable, {.saveUnits = keys.saveUnits}).ask(); }},
         {.key = 14,
          .caption = {"W", Face::Symbol},
          .tip = "AWG[^]: Ohms/ft, Click | Ohms/in, Shift+ | Ohms/m, Ctrl+ | Ohms/cm, Alt+ | Ohms/mm, Sh+Ctrl | "
@@ -154,7 +194,9 @@ const KeypadTable kMagneticsKeypad{
                    .ctrlAlt = "awg: mm",
                    .all = "mm: awg"},
          .helpTopic = 1815,
-         .does = [](Keys& keys) { wireSize(keys.calc, keys.electrical.choices.build); }},
+         .does = [](Keys& keys) { wireSize(keys.calc, keys.electrical.choices.build); },
+         .choose = [](Keys& keys) { askWireBuild(keys.calc, keys.electrical.choices.build); },
+         .captionNow = wireCaption},
         {.key = 16,
          .caption = "'C'",
          .tip = " C Core Calculator ({CoreDimension}): D [Shift+Click] | E [Ctrl+Click] | F [Alt+Click] | G "
@@ -222,7 +264,9 @@ const KeypadTable kMagneticsKeypad{
          .under = {.shift = "B(g)", .ctrl = "F", .shiftCtrl = "F"},
          .silentOperand = true,
          .helpTopic = 1823,
-         .does = [](Keys& keys) { keys.electrical.cores.ferriteLoss(); }},
+         .does = [](Keys& keys) { keys.electrical.cores.ferriteLoss(); },
+         .choose =
+             [](Keys& keys) { ParameterDialog(keys.calc, kPLTable, {.row = &keys.electrical.choices.ferrite}).ask(); }},
     }},
 };
 

@@ -79,7 +79,7 @@ void Calculator::hangKeys() {
     keypads_.dispatch.registerKey = [this](int index) { registers_.RegisterKey(index); };
     keypads_.model.hintDue = [this](Keypad keypad) { return lifeCycle_.countNotice(keypad); };
     keypads_.keys.saveUnits = [this](std::span<const UnitRange* const> ranges) {
-        askToSaveUnits(engine_, settings_, ranges);
+        return askToSaveUnits(engine_, settings_, ranges);
     };
     keypads_.above.copy = [this] { clipboard_.mnuCopy_Click(); };
     keypads_.above.paste = [this] { clipboard_.mnuPaste_Click(); };

@@ -300,18 +300,31 @@ TEST_F(KeypadModelTest, TheHintIsNotShownOnceItsCounterIsFull) {
     EXPECT_TRUE(platform.boxes.empty());
 }
 
-TEST_F(KeypadModelTest, UnitResolversDressTheTwoElectricalKeypadsOnEverySetUp) {
-    std::vector<Keypad> dressed;
-    keypads.model.dressUnits = [&](Keypad keypad) {
-        dressed.push_back(keypad);
-        calc.form.cmdFunctions[6].tip = " unit ";
-    };
-    keypads.ShowKeypad(Keypad::Standard);
-    EXPECT_TRUE(dressed.empty());
-    keypads.ShowKeypad(Keypad::Engineering);
-    EXPECT_EQ(bank(6).tip, " unit ");
+TEST_F(KeypadModelTest, CaptionsFollowWhatTheUserHasChosen) {
     keypads.ShowKeypad(Keypad::Magnetics);
-    EXPECT_EQ(dressed, (std::vector<Keypad>{Keypad::Engineering, Keypad::Magnetics}));
+    EXPECT_EQ(bank(15).text, " S \nAWG");
+    keypads.keys.electrical.choices.build = WireBuild::Quad;
+    // A round winding.
+    calc.units.UnitsWordLmu = 1U << 26U;
+    keypads.RepaintKeypad();
+    EXPECT_EQ(bank(15).text, " Q \nAWG");
+    const std::pair<std::uint8_t, std::string_view> captions[] = {
+        {kShift, "dia"}, {kCtrl, " od wdg"}, {kShift + kCtrl, "ODw"}, {kAlt, "Ht"}};
+    for (const auto& [mask, caption] : captions) {
+        keypads.PaintModifiers(mask);
+        EXPECT_EQ(bank(12).text, caption);
+        keypads.RepaintKeypad();
+    }
+    // A block has a length and a width, a cylinder a diameter.
+    keypads.ShowKeypad(Keypad::Engineering);
+    for (const bool block : {false, true}) {
+        calc.units.UnitsWordLmu = 1U << (block ? 21U : 20U);
+        keypads.PaintModifiers(kAlt);
+        EXPECT_EQ(bank(22).text, block ? "len" : "dia");
+        keypads.PaintModifiers(kCtrl + kAlt);
+        EXPECT_EQ(bank(22).visible, block);
+        keypads.RepaintKeypad();
+    }
 }
 
 TEST_F(KeypadModelTest, F10WithoutAStoredConversionChangesNothing) {
