@@ -274,5 +274,93 @@ TEST_F(MultiInputTest, TheUsersFormatReturnsAfterTheResult) {
     EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
 }
 
+// A key of the newer kinds: results of its owner, refusals, inputs echoed in the key's order.
+constexpr KeyInput kParts[] = {{.mask = 0, .bit = 1, .label = "a", .echoLook = LineLook{.digits = 0}},
+                               {.mask = kCtrl, .bit = 2, .label = "b", .echoLabel = "b again"}};
+constexpr KeySolution kBoth[] = {{.bits = 3}};
+
+class OwnedKey : public MultiInputTest {
+protected:
+    MultiInput owned{calc,
+                     {.resetLabel = "Reset ab", .inputs = kParts, .solutions = kBoth, .undoneLabel = "Undone"},
+                     {.label = [](const KeyInput& input) { return std::string(input.label) + "(m)"; },
+                      .refuse =
+                          [](const KeyInput&, double& value) {
+                              value = value == 99.0 ? 100.0 : value;
+                              return value > 1000.0 ? std::optional(InputRefusal{"too much", false}) : std::nullopt;
+                          },
+                      .refuseSet =
+                          [](const InputValues& v) {
+                              return v[0] == v[1] ? std::optional(InputRefusal{.label = "equal", .takesBack = 2})
+                                                  : std::nullopt;
+                          },
+                      .solve =
+                          [](std::uint8_t, const InputValues& v) {
+                              return v[0] > v[1] ? std::vector<KeyResult>{}
+                                                 : std::vector<KeyResult>{{v[0] + v[1], "sum"}, {v[0] - v[1], "less"}};
+                          }}};
+    Outcome give(std::uint8_t mask, std::string_view typed) { return pressKeyOf(owned, mask, typed); }
+};
+
+TEST_F(OwnedKey, LeavesItsResultsFromThePlaceOfTheFirstInputUp) {
+    commitText("7");
+    give(0, "3");
+    EXPECT_EQ(line(1), "a(m)               3.00");
+    EXPECT_EQ(give(kCtrl, "5"), Outcome::Solved);
+    EXPECT_EQ(line(3), "b(m)               5.00");
+    EXPECT_EQ(line(2), "sum                8.00");
+    EXPECT_EQ(line(1), "less              -2.00");
+    EXPECT_EQ(calc.s.stack.depth(), 3);
+    EXPECT_EQ(element(1), "7");
+    EXPECT_EQ(y(), "8");
+}
+
+TEST_F(OwnedKey, EchoesItsInputsInItsOwnOrderUnderShift) {
+    give(0, "3");
+    give(kCtrl, "5");
+    EXPECT_EQ(give(kShift, "4"), Outcome::Solved);
+    EXPECT_EQ(line(4), "a(m)                  4");
+    EXPECT_EQ(line(3), "b again            5.00");
+    EXPECT_EQ(line(2), "sum                9.00");
+    EXPECT_EQ(calc.s.format.DisplayDigits, 2);
+    EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
+}
+
+TEST_F(OwnedKey, ARefusedInputCostsNothingAndGivesItsPlaceToTheNext) {
+    give(0, "3");
+    EXPECT_EQ(give(kCtrl, "2000"), Outcome::Refused);
+    EXPECT_EQ(line(1), "too much           0.00");
+    EXPECT_EQ(owned.received(), 1);
+    EXPECT_EQ(calc.s.stack.depth(), 1);
+    EXPECT_EQ(give(kCtrl, "5"), Outcome::Solved);
+    EXPECT_EQ(element(1), "8");
+    EXPECT_EQ(calc.s.stack.depth(), 2);
+}
+
+TEST_F(OwnedKey, AnOwnerMayTakeAnotherValueThanTheOneGiven) {
+    give(kCtrl, "99");
+    EXPECT_EQ(x(), "100");
+    EXPECT_EQ(owned.values()[1], 100.0);
+}
+
+TEST_F(OwnedKey, ASetThatCannotBeSolvedGivesBackWhatItsOwnerNames) {
+    give(0, "3");
+    EXPECT_EQ(give(kCtrl, "3"), Outcome::Refused);
+    EXPECT_EQ(line(1), "equal              3.00");
+    EXPECT_EQ(owned.received(), 1);
+    EXPECT_EQ(give(kCtrl, "4"), Outcome::Solved);
+}
+
+TEST_F(OwnedKey, WithoutResultsItBeginsAnewUnderALabelOfItsOwn) {
+    give(0, "6");
+    EXPECT_EQ(give(kCtrl, "5"), Outcome::Reset);
+    EXPECT_EQ(line(2), "b(m)               5.00");
+    EXPECT_EQ(line(1), "Undone             0.00");
+    EXPECT_EQ(owned.received(), 0);
+    EXPECT_FALSE(owned.hasSolved());
+    EXPECT_EQ(give(0, "0"), Outcome::Reset);
+    EXPECT_EQ(line(1), "Reset ab           0.00");
+}
+
 }  // namespace
 }  // namespace tallyforge
