@@ -2,6 +2,7 @@
 #include "convert/conversion_keys.h"
 
 #include "convert/conversion_file.h"
+#include "desk/memory_registers.h"
 #include "engine/engine.h"
 #include "engine/results.h"
 #include "platform/file_store.h"
@@ -18,6 +19,7 @@ namespace tallyforge {
 namespace {
 
 constexpr int kTemperatureKey = 3;
+constexpr int kConstantsKey = 16;  ///< its caption is a symbol from the list of constants
 constexpr int kFirstTopic = 1400;  ///< help topic of key 0
 
 constexpr const char* kFile = ".conversions";
@@ -59,7 +61,7 @@ ConversionKeys::Gate ConversionKeys::ConversionKeyGate(int key) {
         return Gate::Done;
     }
     if (calc.s.stack.Xreg.isTagged()) {
-        leaveX();
+        leaveX(calc);
         return Gate::Done;
     }
     const bool stored = key == kTemperatureKey ? memory.TemperatureHeld : memory.ConversionFactors.at(slot(key)) != 0.0;
@@ -108,19 +110,13 @@ void ConversionKeys::open(const ConversionTable& table, const std::optional<Unit
     if (choice) {
         convertWith(table, *choice, gate);
     } else {
-        leaveX();
+        leaveX(calc);
     }
-}
-
-// The key does nothing: X stays as it is, as number or as text.
-void ConversionKeys::leaveX() {
-    calc.s.stack.KeepX = calc.s.stack.Xreg;
-    leaveNothing(calc);
 }
 
 void ConversionKeys::findUnit() {
     if (calc.s.stack.Xreg.isTagged()) {
-        return leaveX();
+        return leaveX(calc);
     }
     calc.s.modifiers.ModifierMask = 0;
     calc.LightModifiers(0);
@@ -129,7 +125,7 @@ void ConversionKeys::findUnit() {
     }
     const auto found = finder_->ask();
     if (!found) {
-        return leaveX();
+        return leaveX(calc);
     }
     const UnitPlace& from = found->from;
     UnitPair pair{.group = from.group, .from = from.unit, .to = found->to.value_or(-1)};
@@ -199,10 +195,8 @@ void ConversionKeys::showFactor(int key, Gate gate) {
 }
 
 void ConversionKeys::storeInRegister2(double factor) {
-    constexpr std::size_t kConstant = 2;
-    calc.s.memory.Registers.at(kConstant) = factor;
-    calc.s.memory.RegistersUsed = true;
-    calc.form.txtReg_m.at(kConstant - 1).text = calc.patternText(ValueCell{factor}, "0.0e+00");
+    constexpr int kConstant = 2;
+    storeInRegister(calc, kConstant, ValueCell{factor});
     calc.form.cmdSTO.enabled = true;
 }
 
@@ -221,7 +215,8 @@ void ConversionKeys::dress() {
 void ConversionKeys::dressHeld(Control& control, int key) const {
     const std::string& caption = memory.ConversionCaptions.at(slot(key));
     write(control.text, caption);
-    const Font font{.face = Face::Arial, .points = fittingPoints(caption.size())};
+    const Face face = key == kConstantsKey ? Face::Terminal : Face::Arial;
+    const Font font{.face = face, .points = fittingPoints(caption.size())};
     if (control.font != font) {
         control.font = font;
     }

@@ -52,7 +52,6 @@ public:
 private:
     [[nodiscard]] ConversionDialog& dialogOf(const ConversionTable& table);
     void open(const ConversionTable& table, const std::optional<UnitPair>& former, Gate gate);
-    void leaveX();
     void dressHeld(Control& control, int key) const;
     void convertWith(const ConversionTable& table, const ConversionChoice& choice, Gate gate);
     void convertStored(int key);

@@ -41,11 +41,15 @@ std::string cleanName(std::string text) {
 
 }  // namespace
 
-void MemoryRegisters::store(int number, const ValueCell& value) {
+void storeInRegister(Engine& calc, int number, const ValueCell& value) {
     // An X that a key left empty counts as 0.
     calc.s.memory.Registers.at(static_cast<std::size_t>(number)) = value.isEmptyText() ? ValueCell::zero() : value;
     calc.form.txtReg_m.at(static_cast<std::size_t>(number) - 1).text = calc.patternText(value, kFieldPattern);
     calc.s.memory.RegistersUsed = true;
+}
+
+void nameRegister(Engine& calc, int number, std::string_view name) {
+    calc.s.memory.RegisterNames.at(static_cast<std::size_t>(keyOfRegister(number))) = cleanName(std::string(name));
 }
 
 void MemoryRegisters::cmdSTO_Click() {

@@ -15,6 +15,11 @@ namespace tallyforge {
 class Engine;
 class SettingsFile;
 
+/// Puts `value` into register `number`, 1 to 24, and shows it in its field.
+void storeInRegister(Engine& calc, int number, const ValueCell& value);
+/// Names register `number`, 1 to 24; what is more than the four characters of a name is cut off.
+void nameRegister(Engine& calc, int number, std::string_view name);
+
 class MemoryRegisters {
 public:
     MemoryRegisters(Engine& calculator, SettingsFile& settingsFile) : calc(calculator), settings(settingsFile) {}
@@ -30,8 +35,7 @@ public:
     void mnuSaveMem_Click();
     void mnuRetMem_Click();
 
-    /// Puts `value` into register `number`, 1 to 24, and shows it in its field.
-    void store(int number, const ValueCell& value);
+    void store(int number, const ValueCell& value) { storeInRegister(calc, number, value); }
     /// Contents of the 24 registers in key order, as files hold them.
     [[nodiscard]] std::array<RegisterLine, kBankKeys> lines() const;
     /// Takes the 24 registers over from a file.

@@ -115,6 +115,9 @@ void CalculatorDialog::addCheckBox() {
 
 void CalculatorDialog::showTypicalValue() {
     const ValueCell value = services_.typicalValue();
+    if (value.isEmpty()) {
+        return;
+    }
     const auto number = value.tryNumber(calc.s.format.DecimalChar);
     if (number && hold(0, value, *number)) {
         nextField(0);

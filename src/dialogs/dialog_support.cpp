@@ -58,6 +58,13 @@ DialogPlace PlaceDialog(const Place& form, const DesktopMetrics& screen, int wid
     return place;
 }
 
+void placeBeside(const Engine& calc, Form& dialog) {
+    const DialogPlace at =
+        PlaceDialog(calc.form.place, calc.platform.metrics(), dialog.place.width, dialog.place.height);
+    dialog.place.left = at.DialogLeft;
+    dialog.place.top = at.DialogTop;
+}
+
 std::string DialogKeyFilter::filter(int key, std::string& text) {
     switch (key) {
         case kKeyBackspace:

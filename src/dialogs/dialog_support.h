@@ -26,6 +26,8 @@ struct DialogPlace {
 /// Where a calculator or a choice of parameters goes: beside the middle of `form`, or over it where
 /// the screen ends.
 [[nodiscard]] DialogPlace placeCalculator(const Place& form, const DesktopMetrics& screen, int width, int height);
+/// PlaceDialog for a dialog over the calculator's form, as its `placing`.
+void placeBeside(const Engine& calc, Form& dialog);
 
 /// Keys of a dialog's number field.
 class DialogKeyFilter {

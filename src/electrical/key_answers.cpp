@@ -20,8 +20,7 @@ void answerBySize(Engine& calc, const Result& result, int digits) {
 void refuse(Engine& calc, const Refusal& refusal) {
     calc.message(refusal.kind, refusal.title, refusal.text);
     if (refusal.label.empty()) {
-        calc.s.stack.KeepX = calc.s.stack.Xreg;
-        leaveNothing(calc);
+        leaveX(calc);
     } else {
         replaceX(calc, {calc.s.stack.Xreg, refusal.label});
     }

@@ -74,4 +74,9 @@ void leaveNothing(Engine& calc) {
     calc.s.stack.Xreg = kNothingDone;
 }
 
+void leaveX(Engine& calc) {
+    calc.s.stack.KeepX = calc.s.stack.Xreg;
+    leaveNothing(calc);
+}
+
 }  // namespace tallyforge

@@ -46,5 +46,7 @@ void writeTypedOperand(Engine& calc);
 void refuseModifiers(Engine& calc);
 /// There is nothing to commit.
 void leaveNothing(Engine& calc);
+/// There is nothing to commit, and X stays what it is.
+void leaveX(Engine& calc);
 
 }  // namespace tallyforge

@@ -7,10 +7,14 @@
 namespace tallyforge {
 
 void openCalculator(Keys& keys, const CalculatorTable& table) {
+    const auto typicalValue = [&keys] {
+        const auto taken = keys.lists.temperatureCoefficient();
+        return taken ? ValueCell{taken->value} : ValueCell{};
+    };
     keys.dialog.EnterDialog();
     {
-        CalculatorDialog dialog(keys.calc, keys.dialog,
-                                {.saveUnits = keys.saveUnits, .typicalValue = keys.typicalValue}, table);
+        CalculatorDialog dialog(keys.calc, keys.dialog, {.saveUnits = keys.saveUnits, .typicalValue = typicalValue},
+                                table);
         keys.calc.platform.showDialog(dialog);
     }
     keys.dialog.LeaveDialog();

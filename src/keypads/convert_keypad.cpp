@@ -3,8 +3,10 @@
 // The Convert keypad, a row a key.
 #include "electrical/value_codes.h"
 #include "functions/reciprocal_square.h"
+#include "keypads/constants_key.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
+#include "reference/charts.h"
 
 namespace tallyforge {
 
@@ -44,7 +46,7 @@ const KeypadTable kConvertKeypad{
          .tip = " Convert between 6 different Densities // Ctrl Click for list of specific gravities ",
          .under = {.shift = {"r", Face::Symbol}, .ctrl = "SG", .alt = {"r", Face::Symbol}},
          .helpTopic = 1405,
-         .does = [](Keys& keys) { keys.conversions.press(5); }},
+         .does = densityKey},
         {.key = 6,
          .caption = "W",
          .tip = " Convert between 18 different powers ",
@@ -109,7 +111,8 @@ const KeypadTable kConvertKeypad{
          .caption = "K",
          .tip = " Select between many useful constants |  Display SI Prefixes [Ctrl+Click] ",
          .under = {.shift = "K", .alt = "K"},
-         .helpTopic = 1416},
+         .helpTopic = 1416,
+         .does = constantsKey},
         {.key = 17,
          .caption = "Mg",
          .tip = " Convert between several different magnetic properties ",
@@ -129,7 +132,8 @@ const KeypadTable kConvertKeypad{
          .colour = KeyColour::Blue,
          .under = {.shift = "R code", .ctrl = " C ", .shiftCtrl = "C code", .alt = " L ", .shiftAlt = "L code"},
          .helpTopic = 1419,
-         .does = [](Keys& keys) { FindValue(keys.calc); }},
+         .does = [](Keys& keys) { FindValue(keys.calc); },
+         .choose = [](Keys& keys) { showChartAside(keys.calc, ChartId::Colours); }},
         {.key = 20,
          .caption = "Lt",
          .tip = " Convert between 11 Illuminances, 15 Luminances,  or Candlepower and Lumens ",

@@ -15,6 +15,7 @@
 #include "functions/quiz.h"
 #include "functions/statistics.h"
 #include "functions/triangles.h"
+#include "reference/reference_lists.h"
 
 #include <functional>
 #include <span>
@@ -30,8 +31,6 @@ struct Keys {
     std::function<bool(std::span<const UnitRange* const>)> saveUnits{};
     /// Picks a resistivity into X from the list of materials; not there without the list.
     std::function<void()> pickResistivity{};
-    /// A coefficient picked from the list of typical ones, Empty for none; not there without the list.
-    std::function<ValueCell()> typicalValue{};
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
     ConversionKeys conversions{calc};
@@ -41,6 +40,7 @@ struct Keys {
     Quiz quiz{calc};
     Statistics statistics{calc};
     Triangles triangles{calc};
+    ReferenceLists lists{calc};
 };
 
 }  // namespace tallyforge

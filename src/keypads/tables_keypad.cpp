@@ -7,8 +7,10 @@
 #include "electrical/table_wire.h"
 #include "engine/results.h"
 #include "functions/reciprocal_square.h"
+#include "keypads/constants_key.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
+#include "reference/charts.h"
 
 namespace tallyforge {
 
@@ -19,8 +21,7 @@ void boardFootCalculator(Keys& keys) {
     if (keys.runProgram) {
         keys.runProgram("Board feet.rec");
     }
-    keys.calc.s.stack.KeepX = keys.calc.s.stack.Xreg;
-    keys.calc.s.stack.Xreg = kNothingDone;
+    leaveX(keys.calc);
 }
 
 /// A look-up, which no modifier gives another meaning.
@@ -32,8 +33,7 @@ void plain(Keys& keys) {
 // The letters take the bank; X stays.
 void letterDrills(Engine& calc) {
     calc.keypads().ShowKeypad(Keypad::LetterDrill);
-    calc.s.stack.KeepX = calc.s.stack.Xreg;
-    leaveNothing(calc);
+    leaveX(calc);
 }
 
 void drillBits(Keys& keys) {
@@ -45,6 +45,11 @@ void drillBits(Keys& keys) {
         default:
             return refuseModifiers(keys.calc);
     }
+}
+
+template <ChartId Id>
+void chart(Engine& calc) {
+    showChart(calc, Id);
 }
 
 }  // namespace
@@ -79,11 +84,16 @@ const KeypadTable kTablesKeypad{
          .tip = " DCR, Half-Size Copper Wire: Base AWG - [Click] (1/2 is added to base!) ",
          .helpTopic = 3004,
          .does = plain<halfSizeResistance>},
-        {.key = 5, .caption = "Stl Wire", .tip = " Steel Wire, [Click] to View Table ", .helpTopic = 3005},
+        {.key = 5,
+         .caption = "Stl Wire",
+         .tip = " Steel Wire, [Click] to View Table ",
+         .helpTopic = 3005,
+         .does = plain<chart<ChartId::SteelWire>>},
         {.key = 6,
          .caption = "UNF",
          .tip = " National Fine Tap Drill Sizes - [Click] to View Table ",
-         .helpTopic = 3006},
+         .helpTopic = 3006,
+         .does = plain<chart<ChartId::FineThreads>>},
         {.key = 7,
          .caption = "MS",
          .tip = " Machine Screw size number [Click], calculate diameter ",
@@ -105,7 +115,11 @@ const KeypadTable kTablesKeypad{
                 "required for 0, 00, or 000 MS)  [Click] ",
          .helpTopic = 3010,
          .does = plain<machineScrewTap>},
-        {.key = 11, .caption = "nails", .tip = " Handy nail chart - [Click] to View ", .helpTopic = 3011},
+        {.key = 11,
+         .caption = "nails",
+         .tip = " Handy nail chart - [Click] to View ",
+         .helpTopic = 3011,
+         .does = plain<chart<ChartId::Nails>>},
         {.key = 12,
          .caption = {"½hy Ø"_t},
          .tip = " Half-Size Heavy Build Magnet Wire Diameter (4½ - 50½): Base AWG - [Click] (1/2 added to base!) "_t,
@@ -131,7 +145,8 @@ const KeypadTable kTablesKeypad{
         {.key = 16,
          .caption = "K",
          .tip = " Select between many useful constants - [Click] |  Display SI Prefixes [Ctrl+Click] ",
-         .helpTopic = 3016},
+         .helpTopic = 3016,
+         .does = constantsTableKey},
         {.key = 17,
          .caption = "AL Thk",
          .tip = " Aluminum sheet thickness, AWG 000000 (-5) to 38 - [Click] ",
@@ -140,7 +155,8 @@ const KeypadTable kTablesKeypad{
         {.key = 18,
          .caption = "UNC",
          .tip = " National Coarse Tap Drill Sizes - [Click] to View Table ",
-         .helpTopic = 3018},
+         .helpTopic = 3018,
+         .does = plain<chart<ChartId::CoarseThreads>>},
         {.key = 19,
          .caption = "F:D",
          .tip = " Fraction to Decimal: num.denom [Click] ",
@@ -159,8 +175,13 @@ const KeypadTable kTablesKeypad{
         {.key = 22,
          .caption = "ASP",
          .tip = " American Std. Pipe Tap Drill Sizes - [Click] to View Table ",
-         .helpTopic = 3022},
-        {.key = 23, .caption = "WS", .tip = " Handy Wood Screw Table, [Click] to View. ", .helpTopic = 3023},
+         .helpTopic = 3022,
+         .does = plain<chart<ChartId::PipeThreads>>},
+        {.key = 23,
+         .caption = "WS",
+         .tip = " Handy Wood Screw Table, [Click] to View. ",
+         .helpTopic = 3023,
+         .does = plain<chart<ChartId::WoodScrews>>},
     }},
 };
 

@@ -143,6 +143,11 @@ Lines menuLines(const Form& form) {
     return lines;
 }
 
+std::string stateText(const Control& control, bool checked) {
+    return std::string(control.enabled ? " enabled" : " disabled") + (control.visible ? " visible" : " hidden") +
+           (checked ? " checked" : "");
+}
+
 Lines formLines(const Form& form) {
     Lines lines;
     for (const Control* control : form.controls()) {
@@ -154,12 +159,13 @@ Lines formLines(const Form& form) {
 }  // namespace
 
 std::string controlLine(const Form& form, const Control& control) {
-    std::string line = control.fullName() + " " + inQuotes(control.text, control.font.face);
-    line += control.enabled ? " enabled" : " disabled";
-    line += control.visible ? " visible" : " hidden";
-    line += control.checked ? " checked" : "";
-    line += form.focus == &control ? " focus" : "";
-    return line;
+    return control.fullName() + " " + inQuotes(control.text, control.font.face) + stateText(control, control.checked) +
+           (form.focus == &control ? " focus" : "");
+}
+
+std::string rowLine(const Control& list, int number, std::size_t row) {
+    return list.name + "(" + std::to_string(number) + ") " + inQuotes(list.rows->row(row), list.font.face) +
+           stateText(list, list.rows->selected() == row);
 }
 
 std::optional<Lines> readWord(const Engine& calc, const Form& form, std::string_view word) {

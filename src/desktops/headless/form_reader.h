@@ -5,6 +5,7 @@
 
 #include "platform/form.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,9 @@ class Engine;
 
 /// A control as a script shows it: name, text, state.
 [[nodiscard]] std::string controlLine(const Form& form, const Control& control);
+
+/// Row `row` of a list, which is number `number` for the user, in the same way.
+[[nodiscard]] std::string rowLine(const Control& list, int number, std::size_t row);
 
 /// The lines of `word` (x, tape, keys, ...), UTF-8; empty where there is no such word. `form` is
 /// the form that has the keyboard.

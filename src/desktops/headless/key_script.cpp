@@ -384,7 +384,9 @@ void KeyScript::show(std::string_view rest) {
     for (std::string_view word = takeWord(rest); !word.empty(); word = takeWord(rest)) {
         auto lines = readWord(calculator_->engine(), form(), word);
         if (!lines) {
-            lines = std::vector<std::string>{controlLine(form(), *target(word).control)};
+            const Target at = target(word);
+            lines = std::vector<std::string>{at.row < 0 ? controlLine(form(), *at.control)
+                                                        : rowLine(*at.control, at.row, rowOf(at))};
         }
         for (std::string& line : *lines) {
             printLine_(line);
