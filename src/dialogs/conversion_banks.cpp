@@ -30,8 +30,8 @@ constexpr float kPoints = 8.0F;
 
 /// Width of a column that holds captions of `letters` letters.
 int columnWidth(std::size_t letters) {
-    constexpr int kDot = 270;
-    constexpr int kLetter = 84;
+    constexpr int kDot = 290;
+    constexpr int kLetter = 80;
     return kDot + kLetter * static_cast<int>(letters);
 }
 
@@ -71,7 +71,7 @@ void ConversionDialog::makeBanks() {
 void ConversionDialog::makeButtons(Bank& made) {
     const UnitGroup& group = table_.group(made.group);
     const std::string side = made.isTo ? "To" : "From";
-    const std::string heading = groupCount() > 1 ? std::string(group.heading) + ": " + side : side;
+    const std::string heading = groupCount() > 1 && !made.isTo ? std::string(group.heading) + ": " + side : side;
     make(made.heading, made.isTo ? "lblTo" : "lblFrom", ControlKind::Label, heading, {});
     made.heading.index = made.group;
     made.heading.font.bold = true;
@@ -162,8 +162,6 @@ void ConversionDialog::enrolAll() {
 
 void ConversionDialog::placeBank(Bank& placed, int left, int width) {
     const int rows = rowsFor(placed.units);
-    const int headingWidth = std::max(width * columnsFor(placed.units), columnWidth(placed.heading.text.size()));
-    placed.heading.place = {.left = left, .top = kHeadingTop, .width = headingWidth, .height = kLine};
     for (int unit = 0; unit < placed.units; ++unit) {
         placed.buttons[static_cast<std::size_t>(unit)].place = {.left = left + unit / rows * width,
                                                                 .top = kBanksTop + unit % rows * kLine,
@@ -181,9 +179,10 @@ void ConversionDialog::layOut() {
             letters = std::max(letters, button.text.size());
         }
         const int width = columnWidth(letters);
-        const int least = columnWidth(each.heading.text.size());
+        const int whole = std::max(width * columnsFor(each.units), columnWidth(each.heading.text.size()));
         placeBank(each, left, width);
-        left += std::max(width * columnsFor(each.units), least) + kGroupGap;
+        each.heading.place = {.left = left, .top = kHeadingTop, .width = whole, .height = kLine};
+        left += whole + kGroupGap;
         rows = std::max(rows, rowsFor(each.units));
     }
     constexpr int kLeastWidth = 6000;

@@ -366,13 +366,13 @@ TEST_F(ConvertKeypadTest, AnEmptyStackConvertsZero) {
     EXPECT_EQ(x(), "0");
 }
 
-TEST_F(ConvertKeypadTest, AnUnfinishedNumberOpensNoDialog) {
+TEST_F(ConvertKeypadTest, AnExponentWithoutDigitsIsTheNumberBeforeIt) {
+    pair("OptLength", 16, 105);
     type("1e");
-    const int depth = s().stack.depth();
     bank(kLength);
-    EXPECT_LE(s().stack.depth(), depth + 1);
-    EXPECT_LE(dialogs(), 1);
-    EXPECT_NE(x(), "ZZZ");
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(x(), "25.4");
+    EXPECT_EQ(s().stack.depth(), 1);
 }
 
 TEST_F(ConvertKeypadTest, TheLabelStaysUntilTheKeypadIsChosenAnew) {
