@@ -85,10 +85,15 @@ void Keypads::optKey_Click(int index) {
 template <typename Press>
 void Keypads::onConvertKeypad(Press press) {
     const Keypad shown = calc.s.modes.ActiveKeypad;
-    model.lay(Keypad::Convert);
+    const bool lent = shown != Keypad::Convert;
+    if (lent) {
+        model.lay(Keypad::Convert);
+    }
     calc.s.modifiers.ModifierMask = 0;
     press();
-    model.lay(shown);
+    if (lent) {
+        model.lay(shown);
+    }
 }
 
 void Keypads::PerformConvertFn() {

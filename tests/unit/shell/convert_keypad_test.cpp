@@ -410,6 +410,10 @@ TEST_F(ConvertKeypadTest, F10AppliesTheLastConversionOnAnyKeypad) {
     BankAtHand::press(kKeyF10);
     EXPECT_EQ(x(), "76.2") << "the length key was the last to convert";
     EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Trigonometry);
+    choose(form().mnuConvert);
+    BankAtHand::press(kKeyF10);
+    EXPECT_EQ(x(), "1935.48");
+    EXPECT_EQ(form().lblCnvrt.text, "25.4") << "on its own keypad the factor stays to be seen";
 }
 
 TEST_F(ConvertKeypadTest, ResetForgetsWhatIsInForce) {
