@@ -6,9 +6,18 @@
 namespace tallyforge {
 
 std::span<const CalculatorTable* const> calculatorTables() {
-    static constexpr std::array<const CalculatorTable*, 9> kTables{
-        &kOhmsLaw,           &kResonantFrequency,        &kGeometricMean, &kFluxDensity,           &kMagnetizingForce,
-        &kInductanceByTurns, &kInductanceByPermeability, &kCCore,         &kTemperatureCoefficient};
+    static constexpr std::array<const CalculatorTable*, 12> kTables{&kOhmsLaw,
+                                                                    &kResonantFrequency,
+                                                                    &kGeometricMean,
+                                                                    &kSeriesResonance,
+                                                                    &kParallelResonance,
+                                                                    &kFluxDensity,
+                                                                    &kMagnetizingForce,
+                                                                    &kInductanceByTurns,
+                                                                    &kInductanceByPermeability,
+                                                                    &kCCore,
+                                                                    &kTemperatureCoefficient,
+                                                                    &kArc};
     return kTables;
 }
 

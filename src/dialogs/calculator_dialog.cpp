@@ -21,6 +21,7 @@ CalculatorLook lookOf(const CalculatorTable& table) {
             .helpTopic = table.helpTopic,
             .useHeading = table.useHeading,
             .hasUnits = !table.units.empty(),
+            .clearCaption = table.clearCaption,
             .exitTip = table.exitTip};
 }
 
@@ -70,6 +71,10 @@ void CalculatorDialog::addFields() {
         addField(quantity.symbol, quantity.name,
                  {.signedValue = quantity.signedValue, .plainDecimals = quantity.plainDecimals},
                  quantity.tapeGlyphs ? Face::Terminal : Face::Arial);
+        if (quantity.angle) {
+            lblUnits(fieldCount() - 1).name = "lblAngle";
+            lblUnits(fieldCount() - 1).index = kNoIndex;
+        }
     }
 }
 
@@ -93,6 +98,13 @@ void CalculatorDialog::addAnswers() {
         const int index = static_cast<int>(i);
         lblAns_.push_back(&addControl(ControlKind::Label, "lblAns", {}, index));
         txtAns_.push_back(&addControl(ControlKind::Label, "txtAns", {}, index));
+        txtAns_.back()->font.face = Face::Terminal;
+    }
+    if (most > 0) {
+        lblAns_.push_back(&addControl(ControlKind::Label, "lblAns", {}, static_cast<int>(most)));
+    }
+    if (!table.hint.empty()) {
+        addControl(ControlKind::Label, "lblInput", table.hint);
     }
 }
 
@@ -258,6 +270,9 @@ bool CalculatorDialog::isSolved(int index) const {
 }
 
 double CalculatorDialog::scale(int index) const {
+    if (quantity(index).angle) {
+        return 1.0 / inAngleMode(1.0);
+    }
     const UnitRange* units = quantity(index).units;
     return units == nullptr ? 1.0 : unitScale(*units, calc.units);
 }
@@ -284,12 +299,19 @@ bool CalculatorDialog::solve() {
         showFailed();
     };
     const Solution* found = nullptr;
-    const bool ran = goOn(onFailure, [&] {
-        found = solveFor(table, given, values);
-        if (found != nullptr) {
-            showSolution(*found, values);
-        }
-    });
+    bool ran = false;
+    try {
+        ran = goOn(onFailure, [&] {
+            found = solveFor(table, given, values);
+            if (found != nullptr) {
+                showSolution(*found, values);
+            }
+        });
+    } catch (const Refusal& refusal) {
+        solution_ = nullptr;
+        calc.message(BoxKind::Stop, refusal.title, refusal.text);
+        showFailed();
+    }
     return found != nullptr || !ran;
 }
 

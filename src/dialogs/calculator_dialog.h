@@ -81,6 +81,7 @@ private:
     [[nodiscard]] double scale(int index) const;
     [[nodiscard]] std::string unitLabel(int index) const;
     [[nodiscard]] std::string tapeLabel(int index) const;
+    [[nodiscard]] double inAngleMode(double radians) const;
     [[nodiscard]] double parameter() const;
     [[nodiscard]] double shownAnswer(const AnswerField& answer, double value) const;
 

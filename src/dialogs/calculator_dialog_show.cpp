@@ -14,16 +14,6 @@
 
 namespace tallyforge {
 
-namespace {
-
-/// An angle in the angle mode of the keys; a circle is 360 degrees or 400 grads.
-double inMode(double radians, AngleMode mode) {
-    const double degrees = radians * 180.0 / kPi;
-    return mode == AngleMode::Radians ? radians : mode == AngleMode::Degrees ? degrees : degrees * 40.0 / 36.0;
-}
-
-}  // namespace
-
 void CalculatorDialog::showSolution(const Solution& solution, const Values& values) {
     std::vector<std::pair<int, double>> results;
     for (const int field : solution.solved) {
@@ -42,6 +32,9 @@ void CalculatorDialog::showSolution(const Solution& solution, const Values& valu
     kept_ = kNoIndex;
     showAnswers(solution, values);
     showSolved();
+    for (int i = 0; i < fieldCount(); ++i) {
+        optCalc(i).visible = optCalc(i).visible && !quantity(i).resultOnly;
+    }
     if (table.use == UseOption::Clears) {
         offerFields(solution);
     }
@@ -58,8 +51,25 @@ void CalculatorDialog::offerFields(const Solution& solution) {
     }
 }
 
+/// An angle in the angle mode of the keys; a circle is 360 degrees or 400 grads.
+double CalculatorDialog::inAngleMode(double radians) const {
+    const double degrees = radians * 180.0 / kPi;
+    switch (calc.s.format.Angle) {
+        case AngleMode::Degrees:
+            return degrees;
+        case AngleMode::Grads:
+            return degrees * 40.0 / 36.0;
+        default:
+            return radians;
+    }
+}
+
 std::string CalculatorDialog::unitLabel(int index) const {
+    static constexpr std::array<std::string_view, 3> kAngles{"deg", "rad", "grad"};
     const Quantity& field = quantity(index);
+    if (field.angle) {
+        return std::string(kAngles.at(static_cast<std::size_t>(calc.s.format.Angle)));
+    }
     return std::string(field.units == nullptr ? field.unit : chosenUnit(*field.units, calc.units).label);
 }
 
@@ -70,12 +80,13 @@ std::string CalculatorDialog::tapeLabel(int index) const {
 }
 
 double CalculatorDialog::shownAnswer(const AnswerField& answer, double value) const {
-    return answer.angle              ? inMode(value, calc.s.format.Angle)
+    return answer.angle              ? inAngleMode(value)
            : answer.units == nullptr ? value
                                      : value / unitScale(*answer.units, calc.units);
 }
 
 void CalculatorDialog::showAnswers(const Solution& solution, const Values& values) {
+    hideAnswers();
     for (std::size_t i = 0; i < solution.answers.size(); ++i) {
         const AnswerField& answer = solution.answers[i];
         answers_.at(i) = checked(shownAnswer(answer, values.at(kFirstAnswer + i)));
@@ -83,6 +94,10 @@ void CalculatorDialog::showAnswers(const Solution& solution, const Values& value
         lblAns_[i]->visible = true;
         txtAns_[i]->text = shown(answers_.at(i));
         txtAns_[i]->visible = true;
+        if (answer.angle) {
+            lblAns_.back()->text = AngleLabel(calc.s.format.Angle, true);
+            lblAns_.back()->visible = true;
+        }
     }
 }
 
@@ -102,6 +117,12 @@ void CalculatorDialog::addToTape() {
         lines.push_back({.value = answers_.at(i), .label = std::string(solution_->answers[i].caption)});
     }
     postLines(calc, lines);
+    // A text sets X to 0; what was posted last stays.
+    const ValueCell x = calc.s.stack.Xreg;
+    for (const std::string_view text : table.tapeTexts) {
+        calc.commit.TapeLine(text);
+    }
+    calc.s.stack.Xreg = x;
 }
 
 void CalculatorDialog::saveDefaults() {
@@ -115,6 +136,10 @@ void CalculatorDialog::saveDefaults() {
 }
 
 void CalculatorDialog::passEmpty(int index) {
+    if (quantity(index).afterSolution) {
+        // Nothing typed: back to where the circuit resonates.
+        static_cast<void>(solve());
+    }
     if (!quantity(index).missing.empty()) {
         calc.message(BoxKind::Notice, "Missing Parameter!", quantity(index).missing);
     }
@@ -162,9 +187,11 @@ void CalculatorDialog::enterFocus(int index) {
 }
 
 void CalculatorDialog::hideAnswers() {
-    for (std::size_t i = 0; i < txtAns_.size(); ++i) {
-        lblAns_[i]->visible = false;
-        txtAns_[i]->visible = false;
+    for (Control* label : lblAns_) {
+        label->visible = false;
+    }
+    for (Control* answer : txtAns_) {
+        answer->visible = false;
     }
 }
 

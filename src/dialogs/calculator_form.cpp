@@ -31,6 +31,7 @@ constexpr int kKeyWidth = 1320;
 constexpr int kKeyHeight = 375;
 constexpr int kColumn = 3400;  ///< height from which frames go on in a second column
 
+constexpr std::string_view kExit = "&Exit";
 constexpr int kDigitsShown = 4;
 constexpr std::size_t kMostCharacters = 15;
 
@@ -151,7 +152,7 @@ void CalculatorForm::hangField(int index) {
 
 void CalculatorForm::hangKeys() {
     cmdCalc.click = [this] {
-        if (solved_) {
+        if (cmdCalc.text == kExit) {
             open = false;
         } else if (activeField_ != kNoIndex && txtVal(activeField_).enabled) {
             setFocus(txtVal(activeField_));
@@ -159,7 +160,7 @@ void CalculatorForm::hangKeys() {
         }
     };
     cmdXreg.click = [this] {
-        if (!solved_) {
+        if (cmdXreg.text == kExit) {
             open = false;
             return;
         }
@@ -191,6 +192,7 @@ void CalculatorForm::enterField(int index) {
     bool movesOn = true;
     if (txtVal(index).text.empty()) {
         passEmpty(index);
+        movesOn = !solved_;
     } else {
         movesOn = commit(index);
     }
@@ -283,7 +285,7 @@ void CalculatorForm::reset() {
 }
 
 void CalculatorForm::exitCaption(Control& key) {
-    key.text = "&Exit";
+    key.text = kExit;
     key.tip = look.exitTip.empty() ? " Quit the " + std::string(look.name) + " Calculator " : std::string(look.exitTip);
 }
 

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstdint>
+#include <exception>
 #include <span>
 #include <string_view>
 
@@ -31,6 +32,7 @@ struct Quantity {
     std::uint8_t modifiers = 0;        ///< that bring X into it; 0 for none
     const UnitRange* units = nullptr;  ///< nullptr: always in the base unit
     std::string_view unit{};           ///< its label then, where it has one
+    bool angle = false;                ///< in radians here, in the angle mode for the user
     bool tapeGlyphs = false;           ///< symbol and unit are written in the glyphs of the tape
     bool signedValue = false;          ///< "\" turns the sign
     bool zeroCounts = false;           ///< 0 is a number here; elsewhere it starts anew
@@ -65,11 +67,19 @@ struct Solution {
     std::uint16_t given = 0;  ///< sum of the bits of the quantities that are given
     SolvedFields solved{-1, -1, -1, -1, -1};
     std::string_view relation{};  ///< shown in the tips of the solved fields
-    /// Finds the solved values of those given. Raises 5, 6 and 11.
+    /// Finds the solved values of those given. Raises 5, 6 and 11, and Refusal.
     void (*solve)(Values& values) = nullptr;
     std::span<const AnswerField> answers{};
     /// The solved field can be typed over: the frequency at which a circuit is looked at.
     bool asksOn = false;
+};
+
+/// A set of values that a solution refuses, in words of its own.
+struct Refusal : std::exception {
+    Refusal(std::string_view boxTitle, std::string_view boxText) : title(boxTitle), text(boxText) {}
+    [[nodiscard]] const char* what() const noexcept override { return "refused values"; }
+    std::string_view title;
+    std::string_view text;
 };
 
 /// What a click on a "Use" option does.
@@ -98,7 +108,10 @@ struct CalculatorTable {
     std::string_view checkTip{};
     bool typicalValues = false;  ///< has the key of a list for its first field
     std::string_view exitTip{};  ///< where it differs from " Quit the " + name + " Calculator "
-    Values example{};            ///< one consistent set in base units, for tests
+    std::string_view clearCaption = "&Clear";
+    std::string_view hint{};                        ///< a line of advice below the fields
+    std::span<const std::string_view> tapeTexts{};  ///< lines of text behind what is posted
+    Values example{};                               ///< one consistent set in base units, for tests
 };
 
 }  // namespace tallyforge

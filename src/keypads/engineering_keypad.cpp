@@ -169,14 +169,16 @@ const KeypadTable kEngineeringKeypad{
          .tip = " Par.Res.Ckt - Click: Calculator | Shift+: RL({LcX}) |  Ctrl+: C({LcC}) | Alt+: L({LcL}) |  ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "RL", .ctrl = "C", .alt = "L"},
-         .helpTopic = 1117},
+         .helpTopic = 1117,
+         .does = [](Keys& keys) { openCalculator(keys, kParallelResonance); }},
         {.key = 18,
          .caption = "Sr",
          .tip = " Ser.Res.Ckt. - Click: Calculator | Shift+Click: Rp(Ohms) | Ctrl+: C({LcC}) | Alt+: L({LcL}) | "
                 "Ctrl+Alt+: Rs({LcX}) | ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "Rp", .ctrl = "C", .alt = "L", .ctrlAlt = "Rs"},
-         .helpTopic = 1118},
+         .helpTopic = 1118,
+         .does = [](Keys& keys) { openCalculator(keys, kSeriesResonance); }},
         {.key = 19,
          .caption = "scl",
          .tip = " Freq and Z Scaling: R [Shift+Click] | Fc [Alt+] or [Sh+Alt+(HP)] | Fo [Ctrl+Alt+] | Enter L [Click] "

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The Trigonometry keypad, a row a key.
+#include "calculators/calculators.h"
 #include "functions/constants.h"
 #include "functions/hours.h"
 #include "functions/solids.h"
 #include "functions/trigonometry.h"
+#include "keypads/calculator_keys.h"
 #include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -61,7 +63,8 @@ const KeypadTable kTrigonometryKeypad{
          .caption = "arc",
          .tip = " Calculate Arc Length, Chord & Angle ",
          .colour = KeyColour::Yellow,
-         .helpTopic = 1208},
+         .helpTopic = 1208,
+         .does = [](Keys& keys) { openCalculator(keys, kArc); }},
         {.key = 9,
          .caption = "cot",
          .tip = " cot(x), OR Shift: arccot(x) ",
