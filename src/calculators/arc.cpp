@@ -4,6 +4,7 @@
 // sector, triangle and segment. Angles are radians.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 #include "numbers/circle.h"
 
 namespace tallyforge {
@@ -164,6 +165,7 @@ const CalculatorTable kArc{
     .clearCaption = "Clear",
     .hint = "  Input any two values.",
     .tapeTexts = kTapeTexts,
+    .picture = arcPicture,
     // A third of a right angle on a radius of 2, by sines of 15 and 30 degrees.
     .example = {1.03527618041008295, 2.0, kPi / 6.0, kPi / 3.0, kPi / 3.0, 1.0, kPi / 3.0 - 1.0},
 };

@@ -4,6 +4,7 @@
 // circular mils, feet of a turn and pounds.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 #include "numbers/circle.h"
 
 namespace tallyforge {
@@ -87,6 +88,7 @@ const CalculatorTable kCCore{
     .fields = kFields,
     .units = kUnits,
     .solutions = kSolutions,
+    .picture = corePicture,
     // By hand: 0.5, 1; 2 (pi / 2 + 4.5); 0.276 times both; 762000 · 3.75; (1.5 + 1.5 · 1.57) · 0.167.
     .example = {0.5, 1.0, 1.5, 3.0, 0.5, 12.14159265358979, 1.67553978619539102, 3429000.0, 0.643785},
 };

@@ -4,6 +4,7 @@
 // square centimetres; the parameter is the wave's factor, 4.44 for a sine and 4 for a square wave.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 
 namespace tallyforge {
 
@@ -62,6 +63,7 @@ const CalculatorTable kFluxDensity{
     .units = kUnits,
     .solutions = kSolutions,
     .parameter = &kMagWave,
+    .picture = windingPicture,
     // By hand for a sine: 4.44 · 12000 · 60 · 6.45 · 500 / 10^8 V.
     .example = {12000.0, 103.0968, 60.0, 6.45, 500.0},
 };

@@ -4,6 +4,7 @@
 // four are in the unit that is chosen, so that none is converted.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 
 namespace tallyforge {
 
@@ -83,6 +84,7 @@ const CalculatorTable kGeometricMean{
     .units = kUnits,
     .solutions = kSolutions,
     .countsFromSolved = true,
+    .picture = bandPicture,
     .example = {1200.0, 700.0, 900.0, 1600.0},
 };
 

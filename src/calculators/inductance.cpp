@@ -4,6 +4,7 @@
 // size. Base units are henries, henries a turn squared, centimetres and their squares.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 
 namespace tallyforge {
 
@@ -92,6 +93,7 @@ const CalculatorTable kInductanceByTurns{
     .fields = by_turns::kFields,
     .units = by_turns::kUnits,
     .solutions = by_turns::kSolutions,
+    .picture = windingPicture,
     // 157 nH a turn squared, 40 turns.
     .example = {157e-9, 157e-9 * 1600.0, 40.0},
 };
@@ -105,6 +107,7 @@ const CalculatorTable kInductanceByPermeability{
     .fields = by_permeability::kFields,
     .units = by_permeability::kUnits,
     .solutions = by_permeability::kSolutions,
+    .picture = windingPicture,
     // 100 turns on 0.65 cm² and 6.35 cm of permeability 125.
     .example = {1e-8 * 1.2566370614359161 * 1e4 * 0.65 * 125.0 / 6.35, 100.0, 0.65, 6.35, 125.0},
 };

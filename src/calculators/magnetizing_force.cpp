@@ -5,6 +5,7 @@
 // the first.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 
 namespace tallyforge {
 
@@ -52,6 +53,7 @@ const CalculatorTable kMagnetizingForce{
     .fields = kFields,
     .units = kUnits,
     .solutions = kSolutions,
+    .picture = windingPicture,
     .example = {20.0, 100.0, 2.0, 10.0},
 };
 

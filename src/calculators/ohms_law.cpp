@@ -4,6 +4,7 @@
 // watts, amperes, volts and ohms.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 
 namespace tallyforge {
 
@@ -86,6 +87,7 @@ const CalculatorTable kOhmsLaw{
     .units = kUnits,
     .solutions = kSolutions,
     .countsFromSolved = true,
+    .picture = ohmsLawPicture,
     .example = {20.0, 2.0, 10.0, 5.0},
 };
 

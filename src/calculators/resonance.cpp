@@ -4,6 +4,7 @@
 // units are ohms, farads, henries and hertz.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 #include "numbers/circle.h"
 
 namespace tallyforge {
@@ -92,6 +93,7 @@ const CalculatorTable kResonantFrequency{
     .units = kUnits,
     .solutions = kSolutions,
     .countsFromSolved = true,
+    .picture = resonancePicture,
     // 1 µF and 25.33 mH at 1 kHz.
     .example = {kTwoPi * 1000.0 * 0.0253302959105844428, 1e-6, 0.0253302959105844428, 1000.0},
 };

@@ -5,6 +5,7 @@
 // any frequency. Base units are ohms, farads, henries and hertz; angles are radians.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 #include "numbers/circle.h"
 
 namespace tallyforge {
@@ -156,6 +157,7 @@ const CalculatorTable kSeriesResonance{
     .solutions = series::kSolutions,
     .useHeading = "Clear/ Use",
     .use = UseOption::Clears,
+    .picture = seriesPicture,
     // 1 mH and 25.33 nF resonate near 31.6 kHz.
     .example = {10.0, 25.33e-9, 1e-3, series::kNoLoad, 31622.961313230942},
 };
@@ -172,6 +174,7 @@ const CalculatorTable kParallelResonance{
     .solutions = parallel::kSolutions,
     .useHeading = "Clear/ Use",
     .use = UseOption::Clears,
+    .picture = parallelPicture,
     .example = {10.0, 25.33e-9, 1e-3, 50000.0},
 };
 

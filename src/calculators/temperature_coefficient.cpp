@@ -4,6 +4,7 @@
 // that at T1; for copper and aluminium, whose tables give it at 20 degrees, the parameter is 1.
 #include "calculators/calculators.h"
 #include "calculators/careful.h"
+#include "calculators/pictures.h"
 
 namespace tallyforge {
 
@@ -116,6 +117,7 @@ const CalculatorTable kTemperatureCoefficient{
     .checkTip = " Check when T1 does not equal 20°c and the calculation involves Al or Cu. "_t,
     .typicalValues = true,
     .exitTip = "Exit The Temperature Coefficient of Resistivity Calculator",
+    .picture = temperaturePicture,
     .example = {0.004, 100.0, 120.0, 25.0, 75.0},
 };
 

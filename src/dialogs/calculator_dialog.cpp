@@ -21,6 +21,7 @@ CalculatorLook lookOf(const CalculatorTable& table) {
             .helpTopic = table.helpTopic,
             .useHeading = table.useHeading,
             .hasUnits = !table.units.empty(),
+            .hasPicture = table.picture != nullptr,
             .clearCaption = table.clearCaption,
             .exitTip = table.exitTip};
 }
@@ -191,6 +192,9 @@ void CalculatorDialog::forget() {
     kept_ = kNoIndex;
     solution_ = nullptr;
     handOver_.ClearHandOver();
+    if (table.picture != nullptr) {
+        showPicture(table.picture({}, false));
+    }
     for (int i = 0; i < fieldCount(); ++i) {
         txtVal(i).tip = " " + std::string(quantity(i).name) + " ";
     }

@@ -39,7 +39,7 @@ public:
 
 protected:
     bool commit(int index) override;
-    void passEmpty(int index) override;
+    bool passEmpty(int index) override;
     void use(int index) override;
     void addToTape() override;
     void saveDefaults() override;

@@ -31,6 +31,9 @@ void CalculatorDialog::showSolution(const Solution& solution, const Values& valu
     EntryCount = solution.solved.front();
     kept_ = kNoIndex;
     showAnswers(solution, values);
+    if (table.picture != nullptr) {
+        showPicture(table.picture(values, true));
+    }
     showSolved();
     for (int i = 0; i < fieldCount(); ++i) {
         optCalc(i).visible = optCalc(i).visible && !quantity(i).resultOnly;
@@ -135,14 +138,15 @@ void CalculatorDialog::saveDefaults() {
     }
 }
 
-void CalculatorDialog::passEmpty(int index) {
+bool CalculatorDialog::passEmpty(int index) {
     if (quantity(index).afterSolution) {
         // Nothing typed: back to where the circuit resonates.
-        static_cast<void>(solve());
+        return !solve();
     }
     if (!quantity(index).missing.empty()) {
         calc.message(BoxKind::Notice, "Missing Parameter!", quantity(index).missing);
     }
+    return true;
 }
 
 void CalculatorDialog::use(int index) {

@@ -11,6 +11,7 @@
 #include "dialogs/dialog_support.h"
 #include "dialogs/unit_tables.h"
 #include "numbers/failure.h"
+#include "platform/drawing.h"
 #include "platform/form.h"
 
 #include <deque>
@@ -37,8 +38,11 @@ struct CalculatorLook {
     int helpTopic = 0;
     std::string_view useHeading = "Use";
     bool hasUnits = true;  ///< cmdDefault beside Exit; else cmdClear
+    bool hasUse = true;    ///< a solved field can be kept
+    bool hasPicture = false;
     std::string_view clearCaption = "&Clear";
     std::string_view clearTip = " Reset Calculator ";
+    int symbolWidth = 900;       ///< of the fields' names, twips
     std::string_view exitTip{};  ///< where it differs from " Quit the " + name + " Calculator "
 };
 
@@ -52,16 +56,17 @@ protected:
     /// A heading with its option keys; `choose` runs when a row is clicked.
     void addOptions(std::string_view options, std::string_view heading, const std::vector<std::string_view>& captions,
                     int chosen, std::function<void(int row)> choose);
-    /// A control of the dialog's own, below the fields; its place is the dialog's business.
-    Control& addControl(ControlKind kind, std::string_view controlName, std::string_view caption, int index = kNoIndex);
+    /// A control of the dialog's own below the fields, `lines` lines high.
+    Control& addControl(ControlKind kind, std::string_view controlName, std::string_view caption, int index = kNoIndex,
+                        int lines = 1);
     /// Call once all is added: keys, places, size.
     void finish();
 
     // What the dialog answers.
     /// Enter or Tab on a field that holds something. Returns whether the focus is to move on.
     virtual bool commit(int index) = 0;
-    /// Enter or Tab on an empty field, before the focus moves on.
-    virtual void passEmpty(int /*index*/) {}
+    /// Enter or Tab on an empty field. Returns whether the focus is to move on.
+    virtual bool passEmpty(int /*index*/) { return true; }
     virtual void use(int /*index*/) {}
     virtual void addToTape() = 0;
     virtual void saveDefaults() {}
@@ -71,11 +76,18 @@ protected:
     virtual void beginTyping(int /*index*/) {}
     /// The keyboard came to the field.
     virtual void enterFocus(int /*index*/) {}
+    /// And left it.
+    virtual void leaveFocus(int /*index*/) {}
 
     /// All fields empty and enabled, captions of the empty state, the focus on the first field.
     void reset();
     void showEntering();
     void showSolved();
+    /// There is something to add to the tape; the fields stay as they are.
+    void offerAdd();
+    /// cmdCalc closes the dialog, or enters again.
+    void offerExit() { exitCaption(cmdCalc); }
+    void takeEntry();
     /// After a failure: what was given stays until it is cleared.
     void showFailed();
     /// The key of the field was typed or a value stands: the default key clears.
@@ -83,6 +95,8 @@ protected:
     /// The first empty field behind `index`, around the end, takes the focus.
     void nextField(int index);
     void keepOption(int index);
+    /// What is drawn beside the fields from now on.
+    void showPicture(Drawing drawing);
 
     /// The number in a field. Raises 13 for a text that is none, 6.
     [[nodiscard]] double numberIn(const Control& field) const;
@@ -126,6 +140,7 @@ private:
     std::deque<OptionFrame> frames_;
     std::deque<Control> own_;
     Control lblUse_;
+    Control picture_;
     DialogKeyFilter filter_;
     int activeField_ = kNoIndex;
     bool solved_ = false;

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "dialogs/unit_tables.h"
+#include "platform/drawing.h"
 #include "platform/form.h"
 
 #include <array>
@@ -111,7 +112,9 @@ struct CalculatorTable {
     std::string_view clearCaption = "&Clear";
     std::string_view hint{};                        ///< a line of advice below the fields
     std::span<const std::string_view> tapeTexts{};  ///< lines of text behind what is posted
-    Values example{};                               ///< one consistent set in base units, for tests
+    /// What stands beside the fields: by the values of a solution, or, before one, in its usual shape.
+    Drawing (*picture)(const Values& values, bool solved) = nullptr;
+    Values example{};  ///< one consistent set in base units, for tests
 };
 
 }  // namespace tallyforge

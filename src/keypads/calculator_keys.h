@@ -10,5 +10,9 @@ struct Keys;
 
 /// Shows the dialog of `table` until the user closes it.
 void openCalculator(Keys& keys, const CalculatorTable& table);
+/// The dialogs that are more than a table.
+void openLadder(Keys& keys);
+void openPolynomial(Keys& keys);
+void openLoan(Keys& keys);
 
 }  // namespace tallyforge

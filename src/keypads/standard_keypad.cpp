@@ -7,6 +7,7 @@
 #include "functions/percent_tax.h"
 #include "functions/rounding.h"
 #include "functions/trigonometry.h"
+#include "keypads/calculator_keys.h"
 #include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
@@ -135,7 +136,8 @@ const KeypadTable kStandardKeypad{
          .tip = " Coumpound Interest Calculator: Loan Amount [Shift+Click] ",
          .colour = KeyColour::Yellow,
          .under = {.shift = "Amt"},
-         .helpTopic = 1018},
+         .helpTopic = 1018,
+         .does = openLoan},
         {.key = 19,
          .caption = "f:d",
          .tip = "  fraction to decimal: num.denom [Click]  // Board Feet: thickness (in) Shift+ | width (in) Ctrl+ | "

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What stands on a calculator dialog, and where.
+#include "dialogs/calculator_form.h"
+#include "engine/engine.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tallyforge {
+
+namespace {
+
+constexpr Font kCaption{.face = Face::Arial, .points = 8.0F};
+constexpr Font kNumbers{.face = Face::Terminal, .points = 9.0F};
+
+// Lengths in twips.
+constexpr int kMargin = 120;
+constexpr int kLine = 360;
+constexpr int kFieldHeight = 300;
+constexpr int kUseWidth = 260;
+constexpr int kFieldWidth = 2000;
+constexpr int kUnitWidth = 800;
+constexpr int kOptionLine = 260;
+constexpr int kFrameHead = 240;
+constexpr int kFrameWidth = 2600;
+constexpr int kKeyWidth = 1320;
+constexpr int kKeyHeight = 375;
+constexpr int kColumn = 3400;  ///< height from which frames go on in a second column
+
+void dress(Control& control, ControlKind kind, std::string_view name, int index, std::string_view text) {
+    control.kind = kind;
+    control.name = name;
+    control.index = index;
+    control.text = text;
+    control.font = kCaption;
+}
+
+/// Beside the middle of the main form, or over it where the screen ends; all in twips.
+DialogPlace placeCalculator(const Place& form, const DesktopMetrics& screen, int width, int height) {
+    constexpr int kTaskBar = 800;
+    const int half = form.width / 2;
+    DialogPlace at{.DialogTop = form.top, .DialogLeft = form.left + half};
+    if (at.DialogLeft + width > screen.screenWidth - kTaskBar) {
+        at.DialogLeft = half >= width ? form.left : screen.screenWidth - kTaskBar - width;
+    }
+    if (at.DialogTop + height > screen.screenHeight) {
+        at.DialogTop = screen.screenHeight - height;
+    }
+    return at;
+}
+
+}  // namespace
+
+CalculatorForm::CalculatorForm(Engine& calculator, const CalculatorLook& formLook)
+    : Form(std::string(formLook.form), std::string(formLook.title)),
+      calc(calculator),
+      look(formLook),
+      filter_(calculator.s.format.DecimalChar) {
+    helpTopic = look.helpTopic;
+    dress(lblUse_, ControlKind::Label, "lblUse", kNoIndex, look.useHeading);
+    placing = [this] {
+        const DialogPlace at = placeCalculator(calc.form.place, calc.platform.metrics(), place.width, place.height);
+        place.left = at.DialogLeft;
+        place.top = at.DialogTop;
+    };
+    preview = [this](KeyEvent event) { return leavesFields(event); };
+}
+
+void CalculatorForm::addField(std::string_view symbol, std::string_view fieldName, FieldRules rules, Face face) {
+    const int index = fieldCount();
+    dress(lblVal_.emplace_back(), ControlKind::Label, "lblVal", index, symbol);
+    Control& field = txtVal_.emplace_back();
+    dress(field, ControlKind::Field, "txtVal", index, {});
+    field.font = kNumbers;
+    field.rightAligned = true;
+    field.spoken = fieldName;
+    field.tip = " " + std::string(fieldName) + " ";
+    dress(lblUnits_.emplace_back(), ControlKind::Label, "lblUnits", index, {});
+    lblVal_.back().font.face = face;
+    lblUnits_.back().font.face = face;
+    Control& option = optCalc_.emplace_back();
+    dress(option, ControlKind::Option, "optCalc", index, {});
+    option.spoken = "Use " + std::string(symbol);
+    option.visible = false;
+    rules_.push_back(rules);
+}
+
+void CalculatorForm::addOptions(std::string_view options, std::string_view heading,
+                                const std::vector<std::string_view>& captions, int chosen,
+                                std::function<void(int row)> choose) {
+    OptionFrame& frame = frames_.emplace_back();
+    dress(frame.frame, ControlKind::Frame, "fra" + std::string(options.substr(3)), kNoIndex, heading);
+    for (std::size_t row = 0; row < captions.size(); ++row) {
+        const int number = static_cast<int>(row);
+        Control& option = frame.options.emplace_back();
+        dress(option, ControlKind::Option, options, number, captions[row]);
+        option.checked = number == chosen;
+        option.click = [choose, number] { choose(number); };
+    }
+}
+
+Control& CalculatorForm::addControl(ControlKind kind, std::string_view controlName, std::string_view caption, int index,
+                                    int lines) {
+    Control& control = own_.emplace_back();
+    dress(control, kind, controlName, index, caption);
+    control.place.height = kFieldHeight + (lines - 1) * kOptionLine;
+    return control;
+}
+
+void CalculatorForm::finish() {
+    // An option that is never to be seen: with it chosen, no field is held.
+    Control& none = optCalc_.emplace_back();
+    dress(none, ControlKind::Option, "optCalc", fieldCount(), {});
+    none.visible = false;
+    dress(cmdCalc, ControlKind::Key, "cmdCalc", kNoIndex, {});
+    dress(cmdXreg, ControlKind::Key, "cmdXreg", kNoIndex, {});
+    dress(cmdDefault, ControlKind::Key, look.hasUnits ? "cmdDefault" : "cmdClear", kNoIndex, {});
+    for (int i = 0; i < fieldCount(); ++i) {
+        enrol(lblVal_.at(static_cast<std::size_t>(i)));
+        enrol(txtVal(i));
+        enrol(lblUnits(i));
+        hangField(i);
+    }
+    for (Control& control : own_) {
+        enrol(control);
+    }
+    enrol(lblUse_);
+    for (Control& option : optCalc_) {
+        enrol(option);
+    }
+    for (OptionFrame& frame : frames_) {
+        enrol(frame.frame);
+        for (Control& option : frame.options) {
+            enrol(option);
+        }
+    }
+    for (Control* key : {&cmdXreg, &cmdCalc, &cmdDefault}) {
+        enrol(*key);
+    }
+    if (look.hasPicture) {
+        dress(picture_, ControlKind::Picture, "picFigure", kNoIndex, {});
+        enrol(picture_);
+    }
+    hangKeys();
+    arrange();
+    reset();
+}
+
+void CalculatorForm::arrange() {
+    int top = kMargin;
+    lblUse_.place = {.left = kMargin, .top = top, .width = kKeyWidth, .height = kFieldHeight};
+    for (int i = 0; i < fieldCount(); ++i) {
+        top += kLine;
+        int left = kMargin;
+        const auto put = [&](Control& control, int width) {
+            control.place = {.left = left, .top = top, .width = width, .height = kFieldHeight};
+            left += width + kMargin / 2;
+        };
+        put(optCalc(i), kUseWidth);
+        put(lblVal_.at(static_cast<std::size_t>(i)), look.symbolWidth);
+        put(txtVal(i), kFieldWidth);
+        put(lblUnits(i), kUnitWidth);
+    }
+    top += kLine;
+    for (Control& control : own_) {
+        control.place = {.left = kMargin, .top = top, .width = 3 * kKeyWidth, .height = control.place.height};
+        top += control.place.height + kMargin / 2;
+    }
+    int left = kMargin;
+    for (Control* key : {&cmdCalc, &cmdXreg, &cmdDefault}) {
+        key->place = {.left = left, .top = top + kMargin, .width = kKeyWidth, .height = kKeyHeight};
+        left += kKeyWidth + kMargin / 2;
+    }
+    int right = arrangeFrames(left + kMargin);
+    place.height = top + kKeyHeight + 2 * kMargin;
+    if (look.hasPicture) {
+        constexpr int kPictureWidth = 3600;
+        constexpr int kPictureHeight = 2400;
+        picture_.place = {.left = right + kMargin, .top = kMargin, .width = kPictureWidth, .height = kPictureHeight};
+        right += kMargin + kPictureWidth;
+        place.height = std::max(place.height, kPictureHeight + 2 * kMargin);
+    }
+    place.width = right + kMargin;
+    for (const OptionFrame& frame : frames_) {
+        place.height = std::max(place.height, frame.frame.place.top + frame.frame.place.height + kMargin);
+    }
+}
+
+/// Returns where the frames end on the right.
+int CalculatorForm::arrangeFrames(int left) {
+    int top = kMargin;
+    int right = left;
+    for (OptionFrame& frame : frames_) {
+        const int rows = static_cast<int>(frame.options.size());
+        const int height = kFrameHead + rows * kOptionLine + kMargin / 2;
+        if (top > kMargin && top + height > kColumn) {
+            left += kFrameWidth + kMargin;
+            top = kMargin;
+        }
+        frame.frame.place = {.left = left, .top = top, .width = kFrameWidth, .height = height};
+        int line = top + kFrameHead;
+        for (Control& option : frame.options) {
+            option.place = {
+                .left = left + kMargin, .top = line, .width = kFrameWidth - 2 * kMargin, .height = kOptionLine};
+            line += kOptionLine;
+        }
+        top += height + kMargin / 2;
+        right = left + kFrameWidth;
+    }
+    return right;
+}
+
+}  // namespace tallyforge
