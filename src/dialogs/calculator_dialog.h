@@ -21,7 +21,7 @@ class DialogHandOver;
 /// What a dialog asks of the rooms above.
 struct CalculatorServices {
     /// Asks whether the units in force of these ranges are to be the default.
-    std::function<bool(std::span<const UnitRange* const>)> saveUnits;
+    std::function<void(std::span<const UnitRange* const>)> saveUnits;
     /// A value picked from the list of typical ones; Empty for none. Without the function the key of
     /// the list is disabled.
     std::function<ValueCell()> typicalValue;
