@@ -36,20 +36,6 @@ void dress(Control& control, ControlKind kind, std::string_view name, int index,
     control.font = kCaption;
 }
 
-/// Beside the middle of the main form, or over it where the screen ends; all in twips.
-DialogPlace placeCalculator(const Place& form, const DesktopMetrics& screen, int width, int height) {
-    constexpr int kTaskBar = 800;
-    const int half = form.width / 2;
-    DialogPlace at{.DialogTop = form.top, .DialogLeft = form.left + half};
-    if (at.DialogLeft + width > screen.screenWidth - kTaskBar) {
-        at.DialogLeft = half >= width ? form.left : screen.screenWidth - kTaskBar - width;
-    }
-    if (at.DialogTop + height > screen.screenHeight) {
-        at.DialogTop = screen.screenHeight - height;
-    }
-    return at;
-}
-
 }  // namespace
 
 CalculatorForm::CalculatorForm(Engine& calculator, const CalculatorLook& formLook)
