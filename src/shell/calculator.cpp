@@ -37,7 +37,7 @@ Calculator::Calculator(Platform& platform)
     hangMenus();
     hangLifeCycle();
     hangPrograms();
-    hangWords(engine_);
+    hangWords(engine_, clipboard_);
 }
 
 void Calculator::hangEntry() {

@@ -2,10 +2,12 @@
 #include "shell/clipboard.h"
 
 #include "engine/engine.h"
+#include "shell/loose_number.h"
 
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tallyforge {
 
@@ -31,14 +33,39 @@ void Clipboard::mnuCopy_Click() {
 }
 
 void Clipboard::mnuPaste_Click() {
-    EngineState& s = calc.s;
-    s.CurrentProc = "mnuPaste";
+    calc.s.CurrentProc = "mnuPaste";
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     if (!calc.entryText().empty()) {
         calc.commit.cmdEnter_Click();
     }
+    take(calc.platform.clipboardText());
+}
+
+void Clipboard::pasteLoosely() {
     const std::string clipped = calc.platform.clipboardText();
+    const std::vector<std::string> readings = looseReadings(clipped, calc.s.format.DecimalChar);
+    if (readings.empty()) {
+        return mnuPaste_Click();
+    }
+    std::string chosen = readings.front();
+    if (readings.size() > 1) {
+        const std::string text = "Read \"" + std::string(withoutMargins(clipped)) + "\" as " + readings[0] +
+                                 "?\n\"No\" reads " + readings[1] + ".";
+        if (!calc.question("Paste", text)) {
+            chosen = readings[1];
+        }
+    }
+    calc.ClearOptKeys();
+    calc.keypads().RepaintKeypad();
+    if (!calc.entryText().empty()) {
+        calc.commit.cmdEnter_Click();
+    }
+    take(chosen);
+}
+
+void Clipboard::take(const std::string& clipped) {
+    EngineState& s = calc.s;
     const ValueCell before = std::exchange(s.stack.Xreg, withoutMargins(clipped));
     const auto report = [&](const Failure& failure) {
         if (failure.number() != FailureNumber::TypeMismatch) {

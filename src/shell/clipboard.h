@@ -3,6 +3,8 @@
 // X to the clipboard and back.
 #pragma once
 
+#include <string>
+
 namespace tallyforge {
 
 class Engine;
@@ -18,7 +20,13 @@ public:
     /// nothing is pushed.
     void mnuPaste_Click();
 
+    /// Pushes what the clipboard's text may mean as a number; asks where it may mean two.
+    void pasteLoosely();
+
 private:
+    /// Pushes `clipped`, or refuses it.
+    void take(const std::string& clipped);
+
     Engine& calc;
 };
 

@@ -6,10 +6,13 @@
 #include "keypads/caption_words.h"
 #include "platform/form_input.h"
 #include "platform/key_codes.h"
+#include "shell/clipboard.h"
+#include "shell/loose_number.h"
 
 #include <algorithm>
 #include <array>
 #include <string>
+#include <vector>
 
 namespace tallyforge {
 
@@ -54,6 +57,20 @@ std::string bankWords(const Engine& calc, const Control& key) {
     return words.empty() ? fromUnicode(caption) : std::string(words);
 }
 
+/// What X holds since a paste was refused, and how it can be read all the same.
+std::string refusedText(const Engine& calc) {
+    const ValueCell& x = calc.s.stack.Xreg;
+    if (x.isEmptyText() || x.isTagged() || x.tryNumber(calc.s.format.DecimalChar)) {
+        return {};
+    }
+    const std::string text = calc.text(x);
+    if (text.empty()) {
+        return {};
+    }
+    const std::vector<std::string> readings = looseReadings(text, calc.s.format.DecimalChar);
+    return '"' + text + "\" is no number" + (readings.empty() ? "" : "; Shift+Ctrl+V reads " + readings.front());
+}
+
 std::string statusLine(const Engine& calc) {
     const EngineState& s = calc.s;
     const bool latched = !calc.form.optKey.back().checked;
@@ -63,17 +80,24 @@ std::string statusLine(const Engine& calc) {
     if (latched) {
         return "Held for the next key";
     }
+    if (const std::string refused = refusedText(calc); !refused.empty()) {
+        return refused;
+    }
     if (!s.modes.BaseMode) {
         return {};
     }
     return calc.form.lblBank.text + ", " + std::to_string(s.format.WordSize) + " bits";
 }
 
-void hangFunctionKeys(Engine& calc) {
+void hangFunctionKeys(Engine& calc, Clipboard& clipboard) {
     MainForm& form = calc.form;
     const std::array<Control*, 7> chosen{&form.optDeg,    &form.optRad,    &form.optGrad, &form.optFix[0],
                                          &form.optFix[1], &form.optFix[2], &form.cmdView};
-    form.preview = [&form, chosen](KeyEvent event) {
+    form.preview = [&form, &clipboard, chosen](KeyEvent event) {
+        if (event.keyCode == 'V' && event.shift == (kShift | kCtrl)) {
+            clipboard.pasteLoosely();
+            return true;
+        }
         constexpr int kF2 = kKeyF1 + 1;
         const int at = event.keyCode - kF2;
         if (event.shift != 0 || at < 0 || at >= static_cast<int>(chosen.size())) {
@@ -88,7 +112,7 @@ void hangFunctionKeys(Engine& calc) {
 
 }  // namespace
 
-void hangWords(Engine& calc) {
+void hangWords(Engine& calc, Clipboard& clipboard) {
     MainForm& form = calc.form;
     form.txtXreg.resting = [&calc] { return restingX(calc); };
     form.lstDisplayReg.resting = [&calc] {
@@ -101,7 +125,7 @@ void hangWords(Engine& calc) {
     }
     form.status = [&calc] { return statusLine(calc); };
     form.copyText = [&calc](std::string_view text) { calc.platform.setClipboardText(text); };
-    hangFunctionKeys(calc);
+    hangFunctionKeys(calc, clipboard);
 }
 
 }  // namespace tallyforge

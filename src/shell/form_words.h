@@ -7,10 +7,11 @@
 
 namespace tallyforge {
 
+class Clipboard;
 class Engine;
 
 /// Hangs words and function keys on the form of `calc`. To be called once the keys have their
 /// handlers.
-void hangWords(Engine& calc);
+void hangWords(Engine& calc, Clipboard& clipboard);
 
 }  // namespace tallyforge
