@@ -3,6 +3,7 @@
 
 #include "engine/results.h"
 #include "keypads/keys.h"
+#include "reference/material_lists.h"
 #include "reference/physical_constants.h"
 
 #include <utility>
@@ -74,6 +75,13 @@ void densityKey(Keys& keys) {
     } else {
         keys.conversions.press(kDensityKey);
     }
+}
+
+void pickResistivity(Keys& keys) {
+    if (const auto taken = keys.lists.resistivity(); taken && keys.calc.commit.FetchX()) {
+        pushAtOnce(keys.calc, {ValueCell{taken->value}, kRhoUnit}, true);
+    }
+    keys.calc.focusEntry();
 }
 
 }  // namespace tallyforge

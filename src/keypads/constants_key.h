@@ -18,4 +18,7 @@ void constantsTableKey(Keys& keys);
 /// Densities; with Ctrl picks a specific gravity.
 void densityKey(Keys& keys);
 
+/// A resistivity picked from the list of materials goes on the stack under its unit.
+void pickResistivity(Keys& keys);
+
 }  // namespace tallyforge

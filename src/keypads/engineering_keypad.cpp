@@ -9,6 +9,7 @@
 #include "functions/trigonometry.h"
 #include "keypads/calculator_keys.h"
 #include "keypads/common_rows.h"
+#include "keypads/constants_key.h"
 #include "keypads/keypad_table.h"
 #include "keypads/keys.h"
 
@@ -201,7 +202,7 @@ const KeypadTable kEngineeringKeypad{
          .choose =
              [](Keys& keys) {
                  ParameterDialog(keys.calc, kResistivityTable,
-                                 {.saveUnits = keys.saveUnits, .showValues = keys.pickResistivity})
+                                 {.saveUnits = keys.saveUnits, .showValues = [&keys] { pickResistivity(keys); }})
                      .ask();
              }},
         {.key = 21,

@@ -29,8 +29,6 @@ struct Keys {
     std::function<void(std::string_view)> runProgram{};
     /// Asks whether the units in force of these ranges are to be the default; whether they are now.
     std::function<bool(std::span<const UnitRange* const>)> saveUnits{};
-    /// Picks a resistivity into X from the list of materials; not there without the list.
-    std::function<void()> pickResistivity{};
     DialogHandOver dialog{calc};
     BinaryKeys binary{calc};
     ConversionKeys conversions{calc};
