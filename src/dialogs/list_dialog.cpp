@@ -115,9 +115,6 @@ void ListDialog::dressLists() {
         list.click = [this] { showChosen(); };
         list.doubleClick = [this] { take(); };
     }
-    lstNameSym.tabStop = true;
-    lstValue.tabStop = false;
-    lstUnits.tabStop = false;
     if (!hasUnits()) {
         return;
     }

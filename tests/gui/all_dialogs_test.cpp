@@ -56,6 +56,10 @@ TEST(AllDialogsInAWindow, ClipNothingOnASmallScreen) {
                 continue;
             }
             EXPECT_LE(neededWidth(*widget), widget->width()) << dialogKey(dialog) << " " << control->fullName();
+            if (control->kind == ControlKind::Picture) {
+                // It scales as a whole and has no text of its own.
+                continue;
+            }
             EXPECT_GE(widget->font().pixelSize(), kLegible) << dialogKey(dialog) << " " << control->fullName();
             EXPECT_GE(widget->height() + 2, QFontMetrics(widget->font()).height())
                 << dialogKey(dialog) << " " << control->fullName();

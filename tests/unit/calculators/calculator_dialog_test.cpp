@@ -317,7 +317,8 @@ TEST_F(OhmsLaw, StandsBesideTheMainFormAndOnTheScreen) {
         EXPECT_EQ(hand.form.place.left, 28800 - 800 - hand.form.place.width);
         EXPECT_EQ(hand.form.place.top, 16200 - hand.form.place.height);
     });
-    calc.form.place.width = 20000;
+    // Where half of the main form is wider than the dialog, it stands over the form.
+    calc.form.place.width = 28000;
     open(kOhmsLaw,
          [&](DialogAtHand hand) { EXPECT_EQ(hand.form.place.left, std::min(24000, 28800 - hand.form.place.width)); });
 }

@@ -209,29 +209,6 @@ TEST_F(DispatchTest, AFunctionOfPlainNumbersLeavesANumberOfABaseOnTheStackAndSay
     EXPECT_EQ(calc.s.stack.Xnum, 0.0);
 }
 
-TEST_F(DispatchTest, AKeyThatIsNotBuiltYetLosesNothing) {
-    type("7");
-    enter();
-    type("12.5");
-    constexpr std::size_t kInterestKey = 18;
-    ASSERT_EQ(keypadTable(Keypad::Standard).rows[kInterestKey].does, nullptr) << "choose another key that is not built";
-    const std::size_t before = calc.tape.lines();
-    latch(0);
-    clickBank(kInterestKey);
-    EXPECT_EQ(calc.entryText(), "12.5");
-    EXPECT_TRUE(calc.s.entry.EntryOpen);
-    EXPECT_TRUE(calc.s.entry.EntryTouched);
-    EXPECT_EQ(x(), "7");
-    EXPECT_EQ(calc.s.stack.depth(), 1);
-    EXPECT_EQ(calc.tape.lines(), before);
-    EXPECT_TRUE(platform.boxes.empty());
-    EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
-    EXPECT_EQ(bank(kInterestKey).text, "Intr");
-    EXPECT_EQ(calc.form.focus, &calc.form.txtXreg);
-    type("6");
-    EXPECT_EQ(calc.entryText(), "12.56");
-}
-
 TEST_F(DispatchTest, AfterAKeyTheEntryLineHasTheKeyboard) {
     type("4");
     clickBank(1);
