@@ -204,12 +204,10 @@ void LoanDialog::derive(int given) {
     } else if (given == Years && periods) {
         ppy = quotient(*periods, *years);
     }
-    if (given == PeriodRate && ppy) {
+    if (rate && ppy && (given == PeriodRate || !apr)) {
         apr = *rate * *ppy;
     } else if (apr && ppy) {
         rate = quotient(*apr, *ppy);
-    } else if (rate && ppy) {
-        apr = *rate * *ppy;
     }
 }
 

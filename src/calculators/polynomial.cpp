@@ -60,6 +60,7 @@ std::vector<ExactInteger> wholeCoefficients(std::span<const std::string> texts, 
         }
     }
     std::vector<ExactInteger> whole;
+    whole.reserve(numbers.size());
     for (const Decimal& number : numbers) {
         whole.push_back(number.digits.sign() == 0 ? ExactInteger{} : number.digits.timesTen(number.exponent - least));
     }

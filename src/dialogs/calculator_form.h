@@ -55,7 +55,7 @@ protected:
     void addField(std::string_view symbol, std::string_view fieldName, FieldRules rules, Face face = Face::Arial);
     /// A heading with its option keys; `choose` runs when a row is clicked.
     void addOptions(std::string_view options, std::string_view heading, const std::vector<std::string_view>& captions,
-                    int chosen, std::function<void(int row)> choose);
+                    int chosen, const std::function<void(int row)>& choose);
     /// A control of the dialog's own below the fields, `lines` lines high.
     Control& addControl(ControlKind kind, std::string_view controlName, std::string_view caption, int index = kNoIndex,
                         int lines = 1);

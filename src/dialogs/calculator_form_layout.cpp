@@ -74,7 +74,7 @@ void CalculatorForm::addField(std::string_view symbol, std::string_view fieldNam
 
 void CalculatorForm::addOptions(std::string_view options, std::string_view heading,
                                 const std::vector<std::string_view>& captions, int chosen,
-                                std::function<void(int row)> choose) {
+                                const std::function<void(int row)>& choose) {
     OptionFrame& frame = frames_.emplace_back();
     dress(frame.frame, ControlKind::Frame, "fra" + std::string(options.substr(3)), kNoIndex, heading);
     for (std::size_t row = 0; row < captions.size(); ++row) {

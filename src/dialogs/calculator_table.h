@@ -59,7 +59,7 @@ struct AnswerField {
     const UnitRange* units = nullptr;
 };
 
-using SolvedFields = std::array<std::int8_t, 5>;  ///< filled up with -1
+using SolvedFields = std::array<int, 5>;  ///< filled up with -1
 constexpr SolvedFields solves(std::int8_t first, std::int8_t second = -1) {
     return {first, second, -1, -1, -1};
 }

@@ -57,7 +57,7 @@ void make(Control& control, std::string_view name, ControlKind kind, std::string
 
 void ConversionDialog::makeBanks() {
     const int groups = static_cast<int>(table_.groups.size());
-    banks_.resize(static_cast<std::size_t>(2 * groups));
+    banks_.resize(2 * table_.groups.size());
     for (int group = 0; group < groups; ++group) {
         for (const bool isTo : {false, true}) {
             Bank& made = bank(group, isTo);

@@ -90,7 +90,7 @@ private:
     [[nodiscard]] std::string resultText() const;
     [[nodiscard]] std::string noteText() const;
     [[nodiscard]] Bank& bank(int group, bool isTo) {
-        return banks_[static_cast<std::size_t>(2 * group + (isTo ? 1 : 0))];
+        return banks_[2 * static_cast<std::size_t>(group) + (isTo ? 1 : 0)];
     }
     [[nodiscard]] std::size_t groupCount() const { return table_.groups.size(); }
     [[nodiscard]] bool complete() const { return FromIndex >= 0 && ToIndex >= 0; }

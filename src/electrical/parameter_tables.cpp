@@ -80,7 +80,7 @@ std::string solenoidFormula(const ParameterChoice& choice) {
 }
 
 std::string ferriteFormula(const ParameterChoice& choice) {
-    std::string text("PL = a·F^c·B^d (mW/cm³), F in kHz, B in kg"_t);
+    std::string text = joined({"PL = a·F^c·B^d (mW/cm³), "_t, "F in kHz, B in kg"});
     if (!choice.row) {
         return text + "\na, c, d by material and frequency";
     }

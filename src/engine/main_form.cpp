@@ -41,17 +41,17 @@ MainForm::MainForm() : Form("frm_Tallyforge", "Tallyforge") {
 
 // Tab goes entry line, tape, stack, bank, pad, modes.
 void MainForm::giveStops() {
-    constexpr int kEntry = 1;
-    constexpr int kTape = 2;
-    constexpr int kStack = 3;
-    constexpr int kBank = 4;
-    constexpr int kPad = 5;
-    constexpr int kFormat = 6;
-    constexpr int kAngle = 7;
-    constexpr int kHeld = 8;
+    constexpr int kStopAtEntry = 1;
+    constexpr int kStopAtTape = 2;
+    constexpr int kStopAtStack = 3;
+    constexpr int kStopAtBank = 4;
+    constexpr int kStopAtPad = 5;
+    constexpr int kStopAtFormat = 6;
+    constexpr int kStopAtAngle = 7;
+    constexpr int kStopAtHeld = 8;
     for (Control* control : controls()) {
         if (control->kind == ControlKind::Key) {
-            control->walkStop = kPad;
+            control->walkStop = kStopAtPad;
         }
     }
     for (Control& key : cmdNumPad) {
@@ -64,22 +64,22 @@ void MainForm::giveStops() {
         key->tone = KeyTone::Mode;
     }
     cmdEnter.tone = KeyTone::Enter;
-    txtXreg.walkStop = kEntry;
-    lstDisplayReg.walkStop = kTape;
-    lstStack.walkStop = kStack;
+    txtXreg.walkStop = kStopAtEntry;
+    lstDisplayReg.walkStop = kStopAtTape;
+    lstStack.walkStop = kStopAtStack;
     for (Control& key : cmdFunctions) {
-        key.walkStop = kBank;
+        key.walkStop = kStopAtBank;
     }
     for (Control& option : optFix) {
-        option.walkStop = kFormat;
+        option.walkStop = kStopAtFormat;
         option.group = "Number format";
     }
     for (Control* option : {&optDeg, &optRad, &optGrad}) {
-        option->walkStop = kAngle;
+        option->walkStop = kStopAtAngle;
         option->group = "Angle";
     }
     for (Control& option : optKey) {
-        option.walkStop = kHeld;
+        option.walkStop = kStopAtHeld;
         option.group = "Keys held for the next click";
     }
     for (Control* told : {&lstDisplayReg, &lblName, &lblBank}) {
@@ -184,6 +184,11 @@ void MainForm::dressKeys() {
         put(cmdNumPad.at(static_cast<std::size_t>(i)), "cmdNumPad",
             {.text = digit, .spoken = i == kDecimalKey ? "Decimal" : std::string_view{}, .font = kDigits}, i);
     }
+    dressStackKeys();
+    dressModeKeys();
+}
+
+void MainForm::dressStackKeys() {
     put(cmdEnter, "cmdEnter", {.text = "Enter <----", .tip = " Enter ", .spoken = "Enter", .font = kDigits});
     put(cmdBackSpace, "cmdBackSpace", {.text = "<-", .tip = " Backspace ", .spoken = "Backspace", .font = kCaption});
     put(cmdEex, "cmdEex",
@@ -201,6 +206,9 @@ void MainForm::dressKeys() {
         {.text = "C&HS", .tip = R"( Chg Sign - use \ key )", .spoken = "Change sign", .font = kSmallCaption});
     put(cmdLastx, "cmdLastx",
         {.text = "&Last x", .tip = "Retrieve Last x value - use Ins key ", .font = kSmallCaption, .enabled = false});
+}
+
+void MainForm::dressModeKeys() {
     put(cmdSTO, "cmdSTO",
         {.text = "REG",
          .tip = " Input a (Register) number: Click - retrieves; Shift+Click - saves; Ctrl+Click - names ",

@@ -96,6 +96,8 @@ private:
     void put(Control& control, std::string_view controlName, const Look& look, int index = kNoIndex);
     void dressLists();
     void dressKeys();
+    void dressStackKeys();
+    void dressModeKeys();
     void dressOptions();
     void dressRegisters();
     void dressMenus();

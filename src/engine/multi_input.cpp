@@ -155,9 +155,9 @@ void MultiInput::writeEcho(const KeyInput& input) {
     calc.commit.cmdEnter_Click();
 }
 
-void MultiInput::setX(double value, std::string label) {
+void MultiInput::setX(double value, std::string_view label) {
     calc.s.stack.Xreg = value;
-    calc.s.delivery.FnLabel = std::move(label);
+    calc.s.delivery.FnLabel = label;
     calc.s.delivery.ValueInXreg = true;
 }
 

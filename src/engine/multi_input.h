@@ -164,7 +164,7 @@ private:
     void settle();
     void useLook(const LineLook& look);
     void writeEcho(const KeyInput& input);
-    void setX(double value, std::string label);
+    void setX(double value, std::string_view label);
     [[nodiscard]] double& valueOf(const KeyInput& input);
 
     Engine& calc;

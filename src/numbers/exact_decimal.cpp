@@ -133,8 +133,8 @@ double ExactDecimal::value(int shift) const {
         return -(-*this).value(shift);
     }
     std::string text;
-    for (auto limb = limbs_.rbegin(); limb != limbs_.rend(); ++limb) {
-        const std::string digits = std::to_string(*limb);
+    for (std::size_t i = limbs_.size(); i-- > 0;) {
+        const std::string digits = std::to_string(limbs_[i]);
         text.append(kLimbDigits - std::min<std::size_t>(digits.size(), kLimbDigits), '0').append(digits);
     }
     text += "e" + std::to_string(kLimbDigits * lowest_ + shift);

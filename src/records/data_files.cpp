@@ -50,7 +50,7 @@ std::optional<std::filesystem::path> askForName(Engine& calc, const InputBox& bo
         if (entered.empty()) {
             return std::nullopt;
         }
-        const auto path = inDataFolder(calc, entered);
+        auto path = inDataFolder(calc, entered);
         const std::string_view complaint =
             path ? refused(*path) : "That is no name for a file, please enter another one.";
         if (complaint.empty()) {

@@ -96,7 +96,6 @@ protected:
 constexpr std::uint8_t kShiftCtrl = kShift + kCtrl;
 constexpr std::uint8_t kShiftAlt = kShift + kAlt;
 constexpr std::uint8_t kCtrlAlt = kCtrl + kAlt;
-constexpr std::uint8_t kAllThree = kShift + kCtrl + kAlt;
 
 const SeveralInputs kEngineering[] = {
     {5, "Reset RT", {0, kCtrl, kAlt}, {7}},         {9, "Reset Cp", {0, kCtrl, kAlt, kCtrlAlt}},
