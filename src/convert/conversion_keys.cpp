@@ -24,7 +24,7 @@ constexpr int kFirstTopic = 1400;  ///< help topic of key 0
 
 constexpr const char* kFile = ".conversions";
 constexpr const char* kSetAside = ".conversions.damaged";
-constexpr std::size_t kLargest = 64 * 1024;
+constexpr std::size_t kLargest = std::size_t{64} * 1024;
 
 std::size_t slot(int key) {
     return static_cast<std::size_t>(key);
