@@ -69,7 +69,7 @@ const KeypadTable kBinaryKeypad{
         {.key = 10,
          .caption = "sR",
          .tip = " Performs a 1 bit shift right ",
-         .helpTopic = 2010,
+         .helpTopic = 2040,
          .does = [](Keys& keys) { keys.binary.RotateShift("sR"); }},
         {.key = 11,
          .caption = "AND",

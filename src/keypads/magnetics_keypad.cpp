@@ -45,7 +45,7 @@ const KeypadTable kMagneticsKeypad{
     .id = Keypad::Magnetics,
     .name = "Magnetics",
     .rows = {{
-        reciprocalRow(1800),
+        reciprocalRow(1830),
         squareRow(1801),
         squareRootRow(1802),
         {.key = 3,

@@ -18,7 +18,7 @@ const KeypadTable kStandardKeypad{
     .id = Keypad::Standard,
     .name = "Standard",
     .rows = {{
-        reciprocalRow(1000),
+        reciprocalRow(1030),
         squareRow(1001),
         squareRootRow(1002),
         {.key = 3,

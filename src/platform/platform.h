@@ -99,6 +99,8 @@ public:
     virtual void openUrl(std::string_view url) = 0;
     virtual void openFolder(const std::filesystem::path& folder) = 0;
     virtual void helpTopic(int topic) = 0;
+    /// Lines about the desktop and its libraries, for a bug report; eight-bit.
+    [[nodiscard]] virtual std::string systemInformation() const { return {}; }
 
     [[nodiscard]] virtual LocalTime now() const = 0;
     /// Uniform in [0, 1).

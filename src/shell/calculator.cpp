@@ -2,8 +2,10 @@
 #include "shell/calculator.h"
 
 #include "dialogs/unit_choice.h"
+#include "shell/about_dialog.h"
 #include "shell/form_words.h"
 #include "shell/help_topics.h"
+#include "shell/tip_dialog.h"
 
 #include <new>
 #include <utility>
@@ -22,6 +24,7 @@ Calculator::Calculator(Platform& platform)
       viewKeys_(engine_, settings_),
       lifeCycle_(engine_, settings_, viewKeys_),
       clipboard_(engine_),
+      printing_(engine_),
       programs_({.calc = engine_,
                  .keypads = keypads_,
                  .stackKeys = stackKeys_,
@@ -35,6 +38,7 @@ Calculator::Calculator(Platform& platform)
     hangKeys();
     hangOptions();
     hangMenus();
+    hangHelpMenu();
     hangLifeCycle();
     hangPrograms();
     hangWords(engine_, clipboard_);
@@ -110,12 +114,42 @@ void Calculator::hangMenus() {
     form.mnuSkins.click = [this] { lifeCycle_.mnuSkins_Click(); };
     form.mnuCopy.click = [this] { clipboard_.mnuCopy_Click(); };
     form.mnuPaste.click = [this] { clipboard_.mnuPaste_Click(); };
+    form.mnuPrint.click = [this] { printing_.mnuPrint_Click(); };
+    form.mnuTip.click = [this] { engine_.form.mnuTip.checked = showTips(engine_); };
+    keypads_.above.showTips = [this] { return showTips(engine_); };
+    form.mnuAbout.click = [this] {
+        engine_.s.stack.Xnum = 0.0;
+        AboutDialog dialog(engine_);
+        engine_.platform.showDialog(dialog);
+        engine_.focusEntry();
+    };
+    form.mnuWeb.click = [this] { openAfterQuestion("Open the manual?", "manual.html"); };
+    form.mnuVersion.click = [this] { openAfterQuestion("Open the list of changes?", "changes.html"); };
     form.mnuSave.click = [this] { lifeCycle_.mnuSave_Click(); };
     form.mnuSaveTape.click = [this] { tapeKeys_.mnuSaveTape_Click(); };
     form.mnuTape.click = [this] { tapeKeys_.mnuTape_Click(); };
     form.mnuSaveMem.click = [this] { registers_.mnuSaveMem_Click(); };
     form.mnuRetMem.click = [this] { registers_.mnuRetMem_Click(); };
     form.mnuFileExit.click = [this] { lifeCycle_.Form_Unload(); };
+}
+
+void Calculator::hangHelpMenu() {
+    MainForm& form = engine_.form;
+    const std::pair<Control*, int> topics[] = {
+        {&form.mnuHelpIntro, 500}, {&form.mnuHlepStd, 1000}, {&form.mnuEngKp, 2101},  {&form.mnuBKP, 2102},
+        {&form.mnuMagKp, 2103},    {&form.mnuTrigKp, 2104},  {&form.mnuCvrtKp, 2105}, {&form.mnuHelpSupport, 2100},
+    };
+    for (const auto& [entry, number] : topics) {
+        entry->click = [this, topic = number] { engine_.platform.helpTopic(topic); };
+    }
+}
+
+// The pages come with the calculator; nothing is fetched or sent.
+void Calculator::openAfterQuestion(std::string_view question, std::string_view page) {
+    if (engine_.question("Oakhollow", question)) {
+        engine_.platform.openUrl(page);
+    }
+    engine_.focusEntry();
 }
 
 void Calculator::hangLifeCycle() {

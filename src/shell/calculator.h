@@ -17,6 +17,7 @@
 #include "program/programs.h"
 #include "records/settings_file.h"
 #include "shell/clipboard.h"
+#include "shell/printing.h"
 
 #include <cstddef>
 #include <exception>
@@ -51,6 +52,8 @@ private:
     void hangKeys();
     void hangOptions();
     void hangMenus();
+    void hangHelpMenu();
+    void openAfterQuestion(std::string_view question, std::string_view page);
     void hangLifeCycle();
     void hangPrograms();
 
@@ -66,6 +69,7 @@ private:
     ViewKeys viewKeys_;
     LifeCycle lifeCycle_;
     Clipboard clipboard_;
+    Printing printing_;
     Programs programs_;
 };
 

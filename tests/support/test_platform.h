@@ -48,6 +48,8 @@ public:
     std::function<void(Form&)> inDialog;
 
     // What the desktop is like.
+    /// The tips' option is as it was stored; else tips are off, so that a start shows nothing.
+    bool tips = false;
     std::filesystem::path folder;
     DesktopMetrics desktop;
     char decimal = '.';
@@ -91,6 +93,9 @@ public:
     std::filesystem::path dataFolder() const override { return folder; }
     std::filesystem::path installedFolder() const override { return folder; }
     bool readOption(std::string_view key, bool preset) const override {
+        if (!tips && key == "Show Tips at Startup") {
+            return false;
+        }
         const auto found = options.find(key);
         return found == options.end() ? preset : found->second;
     }

@@ -25,6 +25,7 @@
 #include <QSettings>
 #include <QSpacerItem>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QThread>
 #include <QUrl>
 
@@ -234,6 +235,13 @@ void QtPlatform::openFolder(const std::filesystem::path& folder) {
 
 // Help pages are not part of the calculator yet.
 void QtPlatform::helpTopic(int /*topic*/) {}
+
+std::string QtPlatform::systemInformation() const {
+    const QString text = QString("System: %1, %2\nQt: %3, window system: %4\n")
+                             .arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture(), qVersion(),
+                                  QGuiApplication::platformName());
+    return fromUnicode(text.toStdString());
+}
 
 LocalTime QtPlatform::now() const {
     const QDateTime time = QDateTime::currentDateTime();

@@ -44,6 +44,7 @@ public:
     void openUrl(std::string_view url) override;
     void openFolder(const std::filesystem::path& folder) override;
     void helpTopic(int topic) override;
+    [[nodiscard]] std::string systemInformation() const override;
     [[nodiscard]] LocalTime now() const override;
     [[nodiscard]] double random() override;
     void sleep(std::chrono::milliseconds time) override;

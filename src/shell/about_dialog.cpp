@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/about_dialog.h"
+
+#include "dialogs/dialog_support.h"
+#include "engine/engine.h"
+
+namespace tallyforge {
+
+namespace {
+
+constexpr int kWidth = 5400;
+constexpr int kHeight = 3200;
+constexpr int kMargin = 180;
+constexpr int kLine = 400;
+constexpr int kKeyWidth = 1700;
+
+void dress(Control& control, std::string_view name, ControlKind kind, std::string_view text, Place place) {
+    control.name = name;
+    control.kind = kind;
+    control.text = text;
+    control.place = place;
+    control.font = {.face = Face::Arial, .points = 10.0F};
+}
+
+}  // namespace
+
+std::string_view version() {
+    return TALLYFORGE_VERSION;
+}
+
+AboutDialog::AboutDialog(Engine& calculator) : Form("frmAbout", "About Tallyforge"), calc(calculator) {
+    place.width = kWidth;
+    place.height = kHeight;
+    const auto line = [](int number) { return Place{kMargin, kMargin + number * kLine, kWidth - 2 * kMargin, kLine}; };
+    dress(lblTitle, "lblTitle", ControlKind::Label, "Tallyforge", line(0));
+    lblTitle.font = {.face = Face::Arial, .points = 14.0F, .bold = true};
+    dress(lblVersion, "lblVersion", ControlKind::Label, "Version " + std::string(version()) + "  by Oakhollow",
+          line(1));
+    dress(lblDescription, "lblDescription", ControlKind::Label, "Another Quality Application from Oakhollow", line(2));
+    dress(lblLicence, "lblLicence", ControlKind::Label, "Free software under the GNU GPL, version 3 or later", line(3));
+    const int keysTop = kHeight - kMargin - kLine;
+    dress(cmdSysInfo, "cmdSysInfo", ControlKind::Key, "&System Info...", {kMargin, keysTop, kKeyWidth, kLine});
+    dress(cmdOK, "cmdOK", ControlKind::Key, "OK", {kWidth - kMargin - kKeyWidth, keysTop, kKeyWidth, kLine});
+    for (Control* control : {&lblTitle, &lblVersion, &lblDescription, &lblLicence, &cmdOK, &cmdSysInfo}) {
+        enrol(*control);
+    }
+    defaultKey = &cmdOK;
+    cancelKey = &cmdOK;
+    setFocus(cmdOK);
+    cmdOK.click = [this] { open = false; };
+    cmdSysInfo.click = [this] { cmdSysInfo_Click(); };
+    placing = [this] {
+        const DialogPlace beside = PlaceDialog(calc.form.place, calc.platform.metrics(), place.width, place.height);
+        place.top = beside.DialogTop;
+        place.left = beside.DialogLeft;
+    };
+}
+
+// What a bug report needs, shown and on the clipboard.
+void AboutDialog::cmdSysInfo_Click() {
+    const DesktopMetrics desktop = calc.platform.metrics();
+    const std::string information = "Tallyforge " + std::string(version()) + "\n" + calc.platform.systemInformation() +
+                                    "Dots per inch: " + std::to_string(desktop.dotsPerInch) +
+                                    "\nDecimal character: " + calc.s.format.DecimalChar +
+                                    "\nData folder: " + fromUnicode(calc.AppDataDir.string());
+    calc.platform.setClipboardText(information);
+    calc.message(BoxKind::Info, "System Info", information + "\n\nThis text is on the clipboard, too.");
+}
+
+}  // namespace tallyforge
