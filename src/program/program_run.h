@@ -77,6 +77,8 @@ private:
     void pushCopy(const ValueCell& cell);
     void roundTrip();
 
+    void compare(const ProgramWord& word);
+    void pushSeconds();  ///< of the day
     void trac(const ProgramWord& word);
     void listVariables();
     void mark(const ProgramWord& word, bool bold);

@@ -68,9 +68,7 @@ void ProgramRun::executeStatement(const ProgramWord& word) {
         case Statement::End:
             return endOfSection();
         case Statement::If:
-            // As a word of another line it has nothing to compare.
-            return word.text.find(' ') == std::string::npos ? throw ProgramFault(ProgramFaultNumber::Overflow)
-                                                            : runIf(text->prepared(position_, state.variables));
+            return compare(word);
         case Statement::Sto:
         case Statement::Rcl:
             return memory(word);
@@ -78,10 +76,8 @@ void ProgramRun::executeStatement(const ProgramWord& word) {
             return pushCopy(ValueCell(calc.s.stack.Xreg));
         case Statement::Y:
             return pushCopy(ValueCell(calc.s.stack.Yreg));
-        case Statement::Seed: {
-            const LocalTime now = calc.platform.now();
-            return pushNumber((now.hour * 60.0 + now.minute) * 60.0 + now.second);
-        }
+        case Statement::Seed:
+            return pushSeconds();
         case Statement::Kill:
             killed_ = true;
             return pressFunction(*word.function);
@@ -90,6 +86,19 @@ void ProgramRun::executeStatement(const ProgramWord& word) {
         case Statement::None:
             break;
     }
+}
+
+void ProgramRun::compare(const ProgramWord& word) {
+    if (word.text.find(' ') == std::string::npos) {
+        // As a word of another line it has nothing to compare.
+        throw ProgramFault(ProgramFaultNumber::Overflow);
+    }
+    runIf(text->prepared(position_, state.variables));
+}
+
+void ProgramRun::pushSeconds() {
+    const LocalTime now = calc.platform.now();
+    pushNumber((now.hour * 60.0 + now.minute) * 60.0 + now.second);
 }
 
 void ProgramRun::trac(const ProgramWord& word) {

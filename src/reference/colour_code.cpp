@@ -37,6 +37,7 @@ constexpr std::array<std::size_t, kBands> kFirstBands{4, 7, 2, 10};
 
 std::vector<BandColour> bandColours() {
     std::vector<BandColour> colours;
+    colours.reserve(kColours.size());
     for (const CodeColour& colour : kColours) {
         colours.push_back({.name = std::string(colour.name),
                            .look = colour.look,

@@ -39,7 +39,7 @@ std::string bankWords(const Engine& calc, const Control& key) {
     const EngineState& s = calc.s;
     if (s.modes.MemoryArrayMode) {
         // The keys stand for registers: what a register holds.
-        const std::string name = key.text;
+        std::string name = key.text;
         for (int number = 1; number <= kRegisters; ++number) {
             if (keyOfRegister(number) == key.index) {
                 const std::string held = calc.text(s.memory.Registers.at(static_cast<std::size_t>(number)));
@@ -80,7 +80,7 @@ std::string statusLine(const Engine& calc) {
     if (latched) {
         return "Held for the next key";
     }
-    if (const std::string refused = refusedText(calc); !refused.empty()) {
+    if (std::string refused = refusedText(calc); !refused.empty()) {
         return refused;
     }
     if (!s.modes.BaseMode) {

@@ -92,7 +92,7 @@ std::optional<std::string> ungrouped(std::string_view digits, char mark, std::si
 /// What the points and commas among the digits may mean.
 std::vector<std::string> digitReadings(std::string_view digits, char decimal) {
     const auto count = [digits](char mark) { return std::count(digits.begin(), digits.end(), mark); };
-    const auto withDecimal = [&](std::string whole, std::size_t at) {
+    const auto withDecimal = [&](const std::string& whole, std::size_t at) {
         return whole + decimal + std::string(digits.substr(at + 1));
     };
     const auto points = count('.');

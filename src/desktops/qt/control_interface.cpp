@@ -44,7 +44,7 @@ QString spokenName(const ControlWidget& widget) {
         return widget.label().simplified();
     }
     if (control.words) {
-        if (const QString words = unicode(control.words()); !words.isEmpty()) {
+        if (QString words = unicode(control.words()); !words.isEmpty()) {
             return words;
         }
     }

@@ -63,7 +63,7 @@ void paintWell(QPainter& painter, const QRectF& area, const Theme& theme, double
 }
 
 void paintKey(QPainter& painter, const QRectF& area, const Control& control, const FittedCaption& caption,
-              const Theme& theme, PaintState state) {
+              const Theme& theme, const PaintState& state) {
     QColor face = theme.keyFace(control);
     const bool dark = theme.window.lightness() < 128;
     if (state.pressed) {
@@ -105,7 +105,8 @@ QString fittedFieldText(const Control& control, double width, const QFont& font)
     return QFontMetricsF(font).elidedText(shownText(control), Qt::ElideMiddle, width);
 }
 
-void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
+void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
+                const PaintState& state) {
     box(painter, area, theme.field, state.focused ? theme.text : theme.fieldEdge, kRadius * state.pixelsPerTwip);
     const double margin = kFieldMargin * state.pixelsPerTwip;
     QFont font = fieldFont(control, area.height(), state.pixelsPerTwip);
@@ -135,7 +136,7 @@ void paintField(QPainter& painter, const QRectF& area, const Control& control, c
 }
 
 void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const QString& text, const Theme& theme,
-                PaintState state) {
+                const PaintState& state) {
     const double lineHeight = area.height() / static_cast<double>(text.count('\n') + 1);
     double pixels = std::min(fontPixels(control.font, state.pixelsPerTwip), lineHeight * kListFontShare);
     while (pixels > kSmallestPixels &&
@@ -148,7 +149,8 @@ void paintLabel(QPainter& painter, const QRectF& area, const Control& control, c
     painter.drawText(area, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip, text);
 }
 
-void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
+void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
+                 const PaintState& state) {
     painter.setRenderHint(QPainter::Antialiasing);
     const double size = std::min(area.height() * 0.72, 120.0 * state.pixelsPerTwip);
     const QRectF ring(area.left() + 2.0, area.center().y() - size / 2.0, size, size);
@@ -172,7 +174,8 @@ void paintOption(QPainter& painter, const QRectF& area, const Control& control, 
     }
 }
 
-void paintFrame(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state) {
+void paintFrame(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
+                const PaintState& state) {
     const QFont font = faceFont(control.font, fontPixels(control.font, state.pixelsPerTwip));
     painter.setFont(font);
     painter.setPen(theme.secondary);
@@ -236,7 +239,8 @@ void paintLogLine(QPainter& painter, const QRectF& place, double baseline, const
     painter.drawText(QPointF(place.right() - metrics.horizontalAdvance(parts.value), baseline), parts.value);
 }
 
-void paintFirstSteps(QPainter& painter, const QRectF& area, const Control& list, const Theme& theme, PaintState state) {
+void paintFirstSteps(QPainter& painter, const QRectF& area, const Control& list, const Theme& theme,
+                     const PaintState& state) {
     QFont font = faceFont({.face = Face::Arial}, fontPixels(list.font, state.pixelsPerTwip) * 0.85);
     painter.setFont(font);
     painter.setPen(theme.secondary);
@@ -246,7 +250,7 @@ void paintFirstSteps(QPainter& painter, const QRectF& area, const Control& list,
 }  // namespace
 
 void paintList(QPainter& painter, const QRectF& area, const Control& list, std::size_t first, const Theme& theme,
-               PaintState state) {
+               const PaintState& state) {
     const double radius = kRadius * state.pixelsPerTwip;
     box(painter, area, theme.field, state.focused ? theme.text : theme.fieldEdge, radius);
     if (list.rows == nullptr) {

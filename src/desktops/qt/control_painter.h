@@ -34,14 +34,17 @@ struct PaintState {
 [[nodiscard]] QString fittedRow(const Control& list, std::size_t row, double width, const QFont& font);
 
 void paintKey(QPainter& painter, const QRectF& area, const Control& control, const FittedCaption& caption,
-              const Theme& theme, PaintState state);
-void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
+              const Theme& theme, const PaintState& state);
+void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
+                const PaintState& state);
 void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const QString& text, const Theme& theme,
-                PaintState state);
+                const PaintState& state);
 /// What a hidden key leaves.
 void paintWell(QPainter& painter, const QRectF& area, const Theme& theme, double pixelsPerTwip);
-void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
-void paintFrame(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme, PaintState state);
+void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
+                 const PaintState& state);
+void paintFrame(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
+                const PaintState& state);
 void paintLamp(QPainter& painter, const QRectF& area, const Theme& theme);
 
 /// Geometry of a list's rows in an area of `height` pixels.
@@ -55,6 +58,6 @@ struct ListMetrics {
 [[nodiscard]] QFont listFont(const Control& list, const ListMetrics& rows, double pixelsPerTwip);
 /// Draws the rows from `first` on; what lies outside the area costs nothing.
 void paintList(QPainter& painter, const QRectF& area, const Control& list, std::size_t first, const Theme& theme,
-               PaintState state);
+               const PaintState& state);
 
 }  // namespace tallyforge::qt
