@@ -2,6 +2,7 @@
 #include "desktops/headless/key_script.h"
 
 #include "desktops/headless/form_reader.h"
+#include "desktops/headless/key_names.h"
 #include "platform/form_input.h"
 #include "platform/key_codes.h"
 
@@ -14,23 +15,6 @@
 namespace tallyforge {
 
 namespace {
-
-struct NamedKey {
-    std::string_view name;
-    int keyCode;
-    int character;
-};
-constexpr std::array<NamedKey, 25> kNamedKeys{{
-    {"Enter", kKeyEnter, 13},  {"Esc", kKeyEscape, 27},   {"Backspace", kKeyBackspace, 8},
-    {"Delete", kKeyDelete, 0}, {"Insert", kKeyInsert, 0}, {"Home", kKeyHome, 0},
-    {"End", kKeyEnd, 0},       {"Left", kKeyLeft, 0},     {"Right", kKeyRight, 0},
-    {"Up", kKeyUp, 0},         {"Down", kKeyDown, 0},     {"Tab", kKeyTab, 9},
-    {"Space", kKeySpace, ' '}, {"F1", kKeyF1, 0},         {"F2", kKeyF1 + 1, 0},
-    {"F3", kKeyF1 + 2, 0},     {"F4", kKeyF1 + 3, 0},     {"F5", kKeyF1 + 4, 0},
-    {"F6", kKeyF1 + 5, 0},     {"F7", kKeyF1 + 6, 0},     {"F8", kKeyF1 + 7, 0},
-    {"F9", kKeyF9, 0},         {"F10", kKeyF10, 0},       {"F11", kKeyF11, 0},
-    {"F12", kKeyF12, 0},
-}};
 
 /// Takes "Shift+", "Ctrl+" and "Alt+" from the head of `text`.
 std::uint8_t takeModifiers(std::string_view& text) {
