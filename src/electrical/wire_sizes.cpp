@@ -116,8 +116,9 @@ std::optional<int> gaugeOfDiameter(WireBuild build, double inches) {
     if (wanted < millionths(range.least) || wanted > millionths(rows.front().value)) {
         return std::nullopt;
     }
-    const auto thinner = std::find_if(rows.begin(), rows.end(),
-                                      [wanted](const TableRow& row) { return millionths(row.value) < wanted; });
+    // Diameters fall from row to row.
+    const auto thinner = std::partition_point(
+        rows.begin(), rows.end(), [wanted](const TableRow& row) { return millionths(row.value) >= wanted; });
     return (thinner - 1)->size;
 }
 
