@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Every tests/fuzz/NAME.cpp is the libFuzzer target fuzz_NAME, with its seeds in corpus/NAME/. The
-# whole tree is then built by clang with the same instrumentation; use the preset "fuzz".
+# whole tree is then built by clang with the same instrumentation; use the preset "asan".
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  message(FATAL_ERROR "TALLYFORGE_FUZZ needs clang: cmake --preset fuzz")
+  message(FATAL_ERROR "TALLYFORGE_FUZZ needs clang: cmake --preset asan")
 endif()
 file(GLOB targets CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/fuzz/*.cpp)
 foreach(target ${targets})
