@@ -206,7 +206,7 @@ std::optional<Call> readCall(const std::vector<std::string>& words) {
 void listUnfinished() {
     for (const KeypadTable* table : keypadTables()) {
         for (const KeyRow& row : table->rows) {
-            if (row.does == nullptr && row.types.plain == '\0') {
+            if (!row.built() && row.types.plain == '\0') {
                 std::string caption = toUnicode(row.caption.text, row.caption.face);
                 for (char& character : caption) {
                     character = character == '\n' ? ' ' : character;

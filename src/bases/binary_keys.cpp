@@ -74,49 +74,32 @@ BinaryKeys::BinaryKeys(Engine& calculator) : calc(calculator) {
     calc.cutToWord = cutToWord;
 }
 
-// The keys with one meaning refuse every modifier.
-bool BinaryKeys::plainKeyOnly() {
-    if (calc.s.modifiers.ModifierMask != 0) {
-        calc.s.stack.Xreg = kNoMeaning;
-        return false;
-    }
-    return true;
-}
-
 void BinaryKeys::show(char letter) {
-    if (plainKeyOnly()) {
-        calc.s.entry.BaseLetter = letter;
-        calc.s.stack.Xreg = tagged(wholeOf(calc.s.stack.Xreg, calc.s.format.DecimalChar), letter);
-    }
+    calc.s.entry.BaseLetter = letter;
+    calc.s.stack.Xreg = tagged(wholeOf(calc.s.stack.Xreg, calc.s.format.DecimalChar), letter);
 }
 
-void BinaryKeys::baseChoice() {
+void BinaryKeys::toBase(char letter) {
     EngineState& s = calc.s;
-    constexpr std::array<char, 5> kLetterUnder{kBinary, kHexadecimal, kOctal, '\0', kDecimal};
-    const char letter =
-        s.modifiers.ModifierMask < kLetterUnder.size() ? kLetterUnder.at(s.modifiers.ModifierMask) : '\0';
-    if (letter == '\0') {
-        s.stack.Xreg = kNoMeaning;
-        return;
-    }
     if (s.stack.Xreg.isTagged()) {
-        if (s.modifiers.ModifierMask != 0) {
-            throw Failure{FailureNumber::Overflow};
-        }
-        s.stack.Xreg = ConvertBin(s.stack.Xreg.textView());
-        s.delivery.FnLabel = "real";
-        return;
+        throw Failure{FailureNumber::Overflow};
     }
     s.entry.BaseLetter = letter;
     s.stack.Xreg = "#" + Real2Bin(s.stack.Xreg, letter, s.format.DecimalChar) + letter;
     s.delivery.FnLabel = std::string("(") + letter + ")";
 }
 
+void BinaryKeys::toBinaryOrReal() {
+    EngineState& s = calc.s;
+    if (!s.stack.Xreg.isTagged()) {
+        return toBase(kBinary);
+    }
+    s.stack.Xreg = ConvertBin(s.stack.Xreg.textView());
+    s.delivery.FnLabel = "real";
+}
+
 void BinaryKeys::LogicOp(std::string_view name) {
     EngineState& s = calc.s;
-    if (!plainKeyOnly()) {
-        return;
-    }
     char letter = kHexadecimal;
     rememberLetter(letter, s.stack.Xreg);
     const std::uint64_t x = wholeOf(s.stack.Xreg, s.format.DecimalChar);
@@ -135,9 +118,6 @@ void BinaryKeys::LogicOp(std::string_view name) {
 
 void BinaryKeys::RotateShift(std::string_view code) {
     EngineState& s = calc.s;
-    if (!plainKeyOnly()) {
-        return;
-    }
     if (!s.stack.Xreg.isTagged() || (needsBytes(code) && s.format.WordSize < kSmallestByteWord)) {
         if (!s.stack.Xreg.isTagged()) {
             calc.errorBox(BoxKind::Stop, kOutOfRange);

@@ -23,9 +23,10 @@ public:
     void DisplatHex() { show('h'); }
     void DisplayOctal() { show('o'); }
 
-    /// Real number to binary, with Shift hexadecimal, Ctrl octal, Alt decimal; without a modifier
-    /// a number of a base to a real one. Raises 6.
-    void baseChoice();
+    /// A real number to the base of `letter`. Raises 6 for a number of a base.
+    void toBase(char letter);
+    /// A number of a base to a real one, a real one to binary. Raises 6.
+    void toBinaryOrReal();
 
     /// X becomes the result of "AND", "OR", "XOR" (with Y, which it replaces) or "NOT".
     void LogicOp(std::string_view name);
@@ -40,7 +41,6 @@ public:
 
 private:
     void show(char letter);
-    bool plainKeyOnly();
 
     Engine& calc;
 };

@@ -67,7 +67,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kAreaTable{
-    .key = 14,
+    .key = key::Area,
     .form = "frmArea",
     .title = "Convert Area",
     .groups = kGroups,

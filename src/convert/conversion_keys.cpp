@@ -18,8 +18,6 @@ namespace tallyforge {
 
 namespace {
 
-constexpr int kTemperatureKey = 3;
-constexpr int kConstantsKey = 16;  ///< its caption is a symbol from the list of constants
 constexpr int kFirstTopic = 1400;  ///< help topic of key 0
 
 constexpr const char* kFile = ".conversions";
@@ -54,7 +52,7 @@ void addToTip(Control& control, std::string_view text) {
 
 ConversionKeys::Gate ConversionKeys::ConversionKeyGate(int key) {
     const std::uint8_t mask = calc.s.modifiers.ModifierMask;
-    const bool alt = mask == kAlt && key != kTemperatureKey;
+    const bool alt = mask == kAlt && key != key::Temperature;
     if (mask != 0 && mask != kShift && !alt) {
         calc.s.stack.KeepX = calc.s.stack.Xreg;
         refuseModifiers(calc);
@@ -64,7 +62,8 @@ ConversionKeys::Gate ConversionKeys::ConversionKeyGate(int key) {
         leaveX(calc);
         return Gate::Done;
     }
-    const bool stored = key == kTemperatureKey ? memory.TemperatureHeld : memory.ConversionFactors.at(slot(key)) != 0.0;
+    const bool stored =
+        key == key::Temperature ? memory.TemperatureHeld : memory.ConversionFactors.at(slot(key)) != 0.0;
     if (mask == 0 && stored) {
         convertStored(key);
         return Gate::Done;
@@ -74,7 +73,7 @@ ConversionKeys::Gate ConversionKeys::ConversionKeyGate(int key) {
 
 void ConversionKeys::convertStored(int key) {
     double value = 0.0;
-    if (key == kTemperatureKey) {
+    if (key == key::Temperature) {
         const UnitPair& pair = memory.former.at(slot(key)).value();
         value = convert(kTemperatureTable.group(pair.group), pair.from, pair.to, calc.xNumber()).value;
     } else {
@@ -182,7 +181,7 @@ void ConversionKeys::convertWith(const ConversionTable& table, const ConversionC
 }
 
 void ConversionKeys::showFactor(int key, Gate gate) {
-    if (key == kTemperatureKey) {
+    if (key == key::Temperature) {
         return;
     }
     const double factor = memory.ConversionFactors.at(slot(key));
@@ -215,7 +214,8 @@ void ConversionKeys::dress() {
 void ConversionKeys::dressHeld(Control& control, int key) const {
     const std::string& caption = memory.ConversionCaptions.at(slot(key));
     write(control.text, caption);
-    const Face face = key == kConstantsKey ? Face::Terminal : Face::Arial;
+    // Its caption is a symbol from the list of constants.
+    const Face face = key == key::ConvertConstants ? Face::Terminal : Face::Arial;
     const Font font{.face = face, .points = fittingPoints(caption.size())};
     if (control.font != font) {
         control.font = font;

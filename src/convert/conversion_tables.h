@@ -5,6 +5,7 @@
 #pragma once
 
 #include "dialogs/conversion_table.h"
+#include "engine/key_names.h"
 
 #include <span>
 

@@ -67,7 +67,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kEnergyTable{
-    .key = 18,
+    .key = key::Energy,
     .form = "frmEnergyAT",
     .title = "Convert Energy",
     .groups = kGroups,

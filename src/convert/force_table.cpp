@@ -74,21 +74,21 @@ static_assert(std::size(kForce) == kPlaces);
 }  // namespace
 
 const ConversionTable kForceTable{
-    .key = 23,
+    .key = key::Force,
     .form = "frmForce",
     .title = "Convert Force",
     .groups = kForces,
 };
 
 const ConversionTable kTemperatureTable{
-    .key = 3,
+    .key = key::Temperature,
     .form = "frmForce",
     .title = "Convert Temperature",
     .groups = kTemperatures,
 };
 
 const ConversionTable kDensityTable{
-    .key = 5,
+    .key = key::Density,
     .form = "frmForce",
     .title = "Convert Density",
     .groups = kDensities,

@@ -43,7 +43,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kFuelTable{
-    .key = 9,
+    .key = key::Fuel,
     .form = "frmFuel",
     .title = "Convert Fuel Consumption",
     .groups = kGroups,

@@ -93,7 +93,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kLengthTable{
-    .key = 15,
+    .key = key::Length,
     .form = "frmlength",
     .title = "Convert Length",
     .groups = kGroups,

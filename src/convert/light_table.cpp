@@ -74,7 +74,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kLightTable{
-    .key = 20,
+    .key = key::Light,
     .form = "frmCandle",
     .title = "Convert Light",
     .groups = kGroups,

@@ -52,7 +52,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kMagneticsTable{
-    .key = 17,
+    .key = key::MagneticUnits,
     .form = "frmMag",
     .title = "Convert Magnetics",
     .groups = kGroups,

@@ -66,7 +66,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kMassTable{
-    .key = 12,
+    .key = key::Mass,
     .form = "frmMass",
     .title = "Convert Mass",
     .groups = kGroups,

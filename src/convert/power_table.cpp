@@ -55,7 +55,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kPowerTable{
-    .key = 6,
+    .key = key::PowerUnits,
     .form = "frmPower",
     .title = "Convert Power",
     .groups = kGroups,

@@ -54,7 +54,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kPressureTable{
-    .key = 11,
+    .key = key::Pressure,
     .form = "frmPressure",
     .title = "Convert Pressure",
     .groups = kGroups,

@@ -37,14 +37,14 @@ const UnitGroup kWaves[] = {{.options = "OptWave", .heading = "Sine wave", .base
 }  // namespace
 
 const ConversionTable kDecibelTable{
-    .key = 21,
+    .key = key::Level,
     .form = "frmDB",
     .title = "Convert Decibels",
     .groups = kLevels,
 };
 
 const ConversionTable kWaveformTable{
-    .key = 22,
+    .key = key::Waveform,
     .form = "frmWav4rm",
     .title = "Convert Waveforms",
     .groups = kWaves,

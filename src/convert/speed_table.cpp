@@ -69,7 +69,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kSpeedTable{
-    .key = 10,
+    .key = key::Speed,
     .form = "frmSpdAndAccel",
     .title = "Convert Speed and Acceleration",
     .groups = kGroups,

@@ -47,7 +47,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kTimeTable{
-    .key = 7,
+    .key = key::Time,
     .form = "frmTime",
     .title = "Convert Time",
     .groups = kGroups,

@@ -48,7 +48,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kTorqueTable{
-    .key = 8,
+    .key = key::Torque,
     .form = "frmTorque",
     .title = "Convert Torque",
     .groups = kGroups,

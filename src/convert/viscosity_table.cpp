@@ -45,7 +45,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kViscosityTable{
-    .key = 4,
+    .key = key::Viscosity,
     .form = "frmViscosity",
     .title = "Convert Viscosity",
     .groups = kGroups,

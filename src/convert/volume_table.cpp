@@ -97,7 +97,7 @@ constexpr UnitGroup kGroups[] = {
 }  // namespace
 
 const ConversionTable kVolumeTable{
-    .key = 13,
+    .key = key::Volume,
     .form = "frmVolume",
     .title = "Convert Volume",
     .groups = kGroups,

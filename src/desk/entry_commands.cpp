@@ -2,6 +2,8 @@
 #include "desk/entry_commands.h"
 
 #include "engine/engine.h"
+#include "engine/key_names.h"
+#include "platform/borrowed.h"
 #include "platform/key_codes.h"
 #include "platform/text.h"
 
@@ -18,18 +20,6 @@ constexpr int kCtrlF = 6;
 constexpr int kCtrlP = 16;
 constexpr int kCtrlV = 22;
 constexpr int kCtrlX = 24;
-
-// Function keys that the keyboard reaches, by index on the bank.
-constexpr int kReciprocal = 0;
-constexpr int kSquare = 1;
-constexpr int kSquareRoot = 2;
-constexpr int kPi = 3;
-constexpr int kPercent = 4;
-constexpr int kPower = 5;
-constexpr int kToBase = 6;
-constexpr int kShiftLeft = 7;
-constexpr int kShiftRight = 10;
-constexpr int kFactorial = 23;
 
 /// Arithmetic key of a character, or -1.
 int arithmeticKey(int key) {
@@ -57,12 +47,10 @@ int arithmeticKey(int key) {
 
 template <typename Action>
 void EntryCommands::withoutBase(Action action) {
-    EngineState& s = calc.s;
-    const bool base = std::exchange(s.modes.BaseMode, false);
-    s.modes.BaseSuspended = base ? kBaseSuspended : std::uint8_t{0};
+    ModeState& modes = calc.s.modes;
+    const Borrowed base{modes.BaseMode, false};
+    const Borrowed suspended{modes.BaseSuspended, base.before() ? kBaseSuspended : std::uint8_t{0}};
     action();
-    s.modes.BaseMode = base;
-    s.modes.BaseSuspended = 0;
 }
 
 // Digit keys that mean a function with Ctrl. Returns whether nothing more is to be done.
@@ -71,11 +59,11 @@ bool EntryCommands::shortCut(KeyEvent event) {
     const bool shiftCtrl = event.shift == (kShift | kCtrl);
     if (ctrl && (event.keyCode == kKeyDigit6 || event.keyCode == kKeyPad6)) {
         calc.closeEmptyEntry();
-        pressOn(Keypad::Standard, kPower, kCtrl);
+        pressOn(Keypad::Standard, key::Power, kCtrl);
     } else if ((ctrl || shiftCtrl) && (event.keyCode == kKeyDigit5 || event.keyCode == kKeyPad5)) {
         if (!calc.s.modes.BaseMode) {
             calc.closeEmptyEntry();
-            pressOn(Keypad::Percent, kPercent, ctrl ? kCtrl : kShift);
+            pressOn(Keypad::Percent, key::Percent, ctrl ? kCtrl : kShift);
         }
         return true;
     }
@@ -97,12 +85,12 @@ void EntryCommands::controlCharacter(int key) {
             break;
         case kCtrlP:
             calc.closeEmptyEntry();
-            withoutBase([this] { pressOn(Keypad::Standard, kPi, kCtrl); });
+            withoutBase([this] { pressOn(Keypad::Standard, key::Pi, kCtrl); });
             break;
         case kCtrlX:
             if (!calc.s.modes.BaseMode) {
                 calc.closeEmptyEntry();
-                pressFunction(kSquareRoot);
+                pressFunction(key::SquareRoot);
             }
             break;
         default:
@@ -135,18 +123,18 @@ bool EntryCommands::functionCharacter(int key) {
         case kCtrlX:
         case 'x':
             calc.closeEmptyEntry();
-            pressFunction(std::exchange(s.modifiers.ShiftCtrlHeld, false) ? kSquare : kReciprocal);
+            pressFunction(std::exchange(s.modifiers.ShiftCtrlHeld, false) ? key::Square : key::Reciprocal);
             return true;
         case 'X':
             calc.closeEmptyEntry();
-            pressFunction(kSquare);
+            pressFunction(key::Square);
             return true;
         case kCtrlP:
         case 'P':
         case 'p':
             calc.closeEmptyEntry();
             withoutBase([&] {
-                pressOn(Keypad::Standard, kPi,
+                pressOn(Keypad::Standard, key::Pi,
                         s.modifiers.ShiftCtrlHeld ? std::uint8_t{kCtrl | kAlt} : s.modifiers.ModifierMask);
             });
             return true;
@@ -155,11 +143,11 @@ bool EntryCommands::functionCharacter(int key) {
             stackKeys.cmdChs_Click();
             return true;
         case '^':
-            return withoutBaseMode(Keypad::Standard, kPower, 0);
+            return withoutBaseMode(Keypad::Standard, key::Power, 0);
         case '!':
-            return withoutBaseMode(Keypad::Standard, kFactorial, 0);
+            return withoutBaseMode(Keypad::Standard, key::Factorial, 0);
         case '%':
-            return withoutBaseMode(Keypad::Percent, kPercent, s.modifiers.ModifierMask);
+            return withoutBaseMode(Keypad::Percent, key::Percent, s.modifiers.ModifierMask);
         case '<':
         case '>':
             doubleOrHalve(key);
@@ -187,7 +175,7 @@ void EntryCommands::toBase() {
     if (!s.stack.Xreg.isTagged()) {
         s.modifiers.ModifierMask = kShift;
     }
-    pressFunction(kToBase);
+    pressFunction(key::ToBase);
 }
 
 void EntryCommands::doubleOrHalve(int key) {
@@ -199,15 +187,12 @@ void EntryCommands::doubleOrHalve(int key) {
     const bool doubles = key == '<';
     if (s.stack.Xreg.isTagged()) {
         // The shift is a key of the Binary keypad, lent to the keypad on show.
-        const bool base = std::exchange(s.modes.BaseMode, true);
-        pressOn(Keypad::Binary, doubles ? kShiftLeft : kShiftRight, s.modifiers.ModifierMask);
-        s.modes.BaseMode = base;
+        const Borrowed base{s.modes.BaseMode, true};
+        pressOn(Keypad::Binary, doubles ? key::ShiftLeft : key::ShiftRight, s.modifiers.ModifierMask);
         return;
     }
     s.CurrentProc = "txtXreg";
-    const auto report = [&](const Failure& failure) {
-        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
-    };
+    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
     constexpr double kLargestToDouble = 1.7976931348623157e308 / 2.0;
     double value = 0.0;
     const bool read = goOn(report, [&] {
@@ -233,10 +218,12 @@ void EntryCommands::pressFunction(int function) {
 
 void EntryCommands::pressOn(Keypad keypad, int function, std::uint8_t mask) {
     EngineState& s = calc.s;
-    const Keypad shown = std::exchange(s.modes.ActiveKeypad, keypad);
-    s.modifiers.ModifierMask = mask;
-    pressFunction(function);
-    s.modes.ActiveKeypad = shown;
+    const Keypad shown = s.modes.ActiveKeypad;
+    {
+        const Borrowed lent{s.modes.ActiveKeypad, keypad};
+        s.modifiers.ModifierMask = mask;
+        pressFunction(function);
+    }
     if (shown != keypad && !s.modes.MemoryArrayMode && !s.modes.ProgramMode) {
         calc.keypads().RepaintKeypad();
     }

@@ -2,6 +2,7 @@
 #include "desk/entry_line.h"
 
 #include "engine/engine.h"
+#include "engine/key_names.h"
 #include "platform/key_codes.h"
 
 #include <array>
@@ -319,10 +320,10 @@ void EntryLine::txtXreg_KeyUp(KeyEvent event) {
 
 void EntryLine::cmdNumPad_Click(int index) {
     EngineState& s = calc.s;
-    constexpr int kDecimalKey = 10;
     calc.commit.BeginEntry();
-    const char character = index == kDecimalKey ? s.format.DecimalChar : static_cast<char>('0' + index);
-    const bool secondPoint = index == kDecimalKey && calc.entryText().find(s.format.DecimalChar) != std::string::npos;
+    const char character = index == key::kPadDecimal ? s.format.DecimalChar : static_cast<char>('0' + index);
+    const bool secondPoint =
+        index == key::kPadDecimal && calc.entryText().find(s.format.DecimalChar) != std::string::npos;
     if (!secondPoint && !s.entry.BaseNumberDone && !lineIsFull()) {
         calc.setEntry(calc.entryText() + character);
         s.entry.EntryTouched = true;

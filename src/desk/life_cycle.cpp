@@ -259,9 +259,7 @@ void LifeCycle::Form_Deactivate() {
 
 template <typename Change>
 void LifeCycle::changeRecord(int number, Change change) {
-    const auto report = [&](const Failure& failure) {
-        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
-    };
+    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
     goOn(report, [&] { settings.change(number, change); });
 }
 

@@ -2,6 +2,7 @@
 #include "desk/machine_reset.h"
 
 #include "engine/engine.h"
+#include "engine/key_names.h"
 #include "engine/tape_width.h"
 
 #include <algorithm>
@@ -47,10 +48,9 @@ void MachineReset::clearStackAndTape() {
     for (Control* key : {&calc.form.cmdDown, &calc.form.cmdXchgY, &calc.form.cmdLastx}) {
         key->enabled = false;
     }
-    constexpr std::size_t kLogarithmKey = 13;
-    calc.form.cmdFunctions.at(kLogarithmKey).enabled = true;
+    calc.form.cmdFunctions.at(key::LogOfOnePlus).enabled = true;
     calc.form.cmdSTO.enabled = s.memory.RegistersUsed;
-    s.functions.FunctionResetMask = kAllBits;
+    s.functions.FunctionResetMask = static_cast<std::uint32_t>(ResetBit::All);
     s.functions.RightTriangleHasAngle = false;
     s.functions.CalcResetWord = kAllBits;
     calc.keypads().ClearPartialStates();

@@ -169,9 +169,7 @@ void StackKeys::changeSignOfX() {
     s.entry.EntryOpen = false;
     takeTop();
     s.CurrentProc = "cmdChs";
-    const auto report = [&](const Failure& failure) {
-        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
-    };
+    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
     double value = 0.0;
     if (!goOn(report, [&] { value = calc.xNumber(); })) {
         return;

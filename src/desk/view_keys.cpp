@@ -88,9 +88,7 @@ void ViewKeys::toggleTall() {
 }
 
 void ViewKeys::writeOption(int bit, bool on) {
-    const auto report = [&](const Failure& failure) {
-        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
-    };
+    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
     calc.s.CurrentProc = "cmdView";
     goOn(report, [&] { settings.change(2, [&](SettingsRecord& record) { record.setOption(bit, on); }); });
 }

@@ -105,9 +105,7 @@ bool askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRa
     if (calc.platform.messageBox(question) != Answer::Yes) {
         return false;
     }
-    const auto report = [&](const Failure& failure) {
-        calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
-    };
+    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
     goOn(report, [&] {
         for (const UnitRange* range : ranges) {
             settings.replaceUnits(range->word, bitsOf(*range), calc.units.*range->word);

@@ -40,19 +40,19 @@ constexpr std::array<TableRow, 11> kPtfeRows{{{8, 0.206},
                                               {26, 0.040},
                                               {28, 0.035}}};
 
-/// The strand's diameter in inches, as the modifiers name it; empty after a box.
-std::optional<double> strandDiameter(Engine& calc, WireBuild build) {
+/// The strand's diameter in inches; empty after a box.
+std::optional<double> strandDiameter(Engine& calc, WireBuild build, Strand strand) {
     const double x = calc.xNumber();
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
+    switch (strand) {
+        case Strand::Diameter:
             return x;
-        case kShift:
+        case Strand::MagnetGauge:
             if (const auto inches = filmDiameter(build, x)) {
                 return inches;
             }
             refuseGauge(calc, build, x);
             return std::nullopt;
-        case kCtrl:
+        case Strand::InsulatedGauge:
             if (const auto inches = kPtfeDiameters.at(x)) {
                 return inches;
             }
@@ -60,12 +60,10 @@ std::optional<double> strandDiameter(Engine& calc, WireBuild build) {
                           .title = "Insulated dia error!",
                           .kind = BoxKind::Notice});
             return std::nullopt;
-        case kAlt:
-            return screwDiameter(calc, x);
-        default:
-            refuseModifiers(calc);
-            return std::nullopt;
+        case Strand::ScrewSize:
+            break;
     }
+    return screwDiameter(calc, x);
 }
 
 }  // namespace
@@ -103,8 +101,8 @@ std::optional<double> bundleFactor(double count) {
     return below->value + (above->value - below->value) / (above->size - below->size) * (count - below->size);
 }
 
-void bundleDiameter(Engine& calc, WireBuild build) {
-    const auto inches = strandDiameter(calc, build);
+void bundleDiameter(Engine& calc, WireBuild build, Strand strand) {
+    const auto inches = strandDiameter(calc, build, strand);
     if (!inches) {
         return;
     }
@@ -117,7 +115,7 @@ void bundleDiameter(Engine& calc, WireBuild build) {
         refuse(calc, {.text = "Number of wires: 1 to 1000, integers only!"});
         return;
     }
-    const bool asGiven = (calc.s.modifiers.ModifierMask & ~kShift) == 0;
+    const bool asGiven = strand == Strand::Diameter || strand == Strand::MagnetGauge;
     answerWithDigits(calc, {checked(*factor * *inches), asGiven ? "dia" : "dia(in)"}, kBundleDigits, 2);
 }
 

@@ -6,6 +6,7 @@
 #include "electrical/lookup_table.h"
 #include "electrical/wire_build.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace tallyforge {
@@ -21,8 +22,10 @@ extern const LookupTable kPtfeDiameters;
 /// Bundle diameter of `count` strands over that of one; empty but for whole counts of 1 to 1000.
 [[nodiscard]] std::optional<double> bundleFactor(double count);
 
-/// Y is the count of strands; X a strand's diameter, with Shift its gauge as magnet wire of
-/// `build`, with Ctrl that of PTFE insulated wire, with Alt its size as a machine screw.
-void bundleDiameter(Engine& calc, WireBuild build);
+/// What X says of a strand: its diameter, its gauge as magnet wire, that of PTFE insulated wire, its
+/// size as a machine screw.
+enum class Strand : std::uint8_t { Diameter, MagnetGauge, InsulatedGauge, ScrewSize };
+/// Y is the count of strands, X a strand; `build` is that of the magnet wire.
+void bundleDiameter(Engine& calc, WireBuild build, Strand strand);
 
 }  // namespace tallyforge

@@ -22,7 +22,7 @@ constexpr std::uint8_t kForInductance = 2 + 4 + 8;
 constexpr KeySolution kSolenoidSets[] = {
     {.bits = kForTurns}, {.bits = kForInductance}, {.bits = 1 + 2 + 4}, {.bits = 1 + 2 + 8}};
 constexpr MultiInput::Shape kSolenoid{.resetLabel = "Reset Ls",
-                                      .resetBit = 1U << 23U,
+                                      .resetBit = ResetBit::Solenoid,
                                       .inputs = kSolenoidInputs,
                                       .solutions = kSolenoidSets,
                                       .givenLook = kBySize,
@@ -36,7 +36,7 @@ constexpr KeyInput kQualityInputs[] = {{.mask = 0, .bit = kFrequencyBit},
                                        {.mask = kCtrl + kAlt, .bit = 8, .label = "Bm(g)"}};
 constexpr KeySolution kQualitySet[] = {{.bits = 15}};
 constexpr MultiInput::Shape kQuality{.resetLabel = "Reset Q",
-                                     .resetBit = 1U << 27U,
+                                     .resetBit = ResetBit::Quality,
                                      .inputs = kQualityInputs,
                                      .solutions = kQualitySet,
                                      .givenLook = kBySize,
@@ -62,15 +62,13 @@ constexpr std::array<TurnUnit, 3> kTurnUnits{{{0.0393701, 304.8}, {0.393701, 30.
 
 MultiInput::Shape meanTurnShape(TurnShape shape) {
     const bool round = shape == TurnShape::Round;
-    MultiInput::Shape key{.resetLabel = "Reset MTL", .resetBit = 0};
+    MultiInput::Shape key{.resetLabel = "Reset MTL", .resetBit = ResetBit::None};
     key.inputs = round                             ? std::span<const KeyInput>(kRoundInputs)
                  : shape == TurnShape::Rectangular ? std::span<const KeyInput>(kRectangularInputs)
                                                    : std::span<const KeyInput>(kToroidInputs);
     key.solutions = round ? std::span<const KeySolution>(kTwoDimensions) : kThreeDimensions;
     return key;
 }
-// One bit for the keys of all shapes.
-constexpr std::uint32_t kMeanTurnResetBit = 4194304;
 
 }  // namespace
 
@@ -144,14 +142,14 @@ MultiInput CoilKeys::meanTurnKey(TurnShape turnShape) {
 
 void CoilKeys::meanTurn() {
     const auto shape = static_cast<std::size_t>(chosenRow(kLmuCore, calc.units).value_or(0));
-    std::uint32_t& due = calc.s.functions.FunctionResetMask;
+    // One bit for the keys of all shapes.
+    const bool due = calc.s.functions.takeReset(ResetBit::MeanTurn);
     for (std::size_t other = 0; other < meanTurn_.size(); ++other) {
         // Dimensions of another shape mean nothing for this one.
-        if (other != shape || (due & kMeanTurnResetBit) != 0) {
+        if (other != shape || due) {
             meanTurn_.at(other).clear();
         }
     }
-    due &= ~kMeanTurnResetBit;
     meanTurn_.at(shape).press();
 }
 

@@ -21,7 +21,7 @@ constexpr KeyInput kPowderInputs[] = {{.mask = 0, .bit = kFluxBit, .label = "B(g
 constexpr KeySolution kPowderLoss[] = {
     {.bits = 7, .label = "W/lb", .solve = [](const InputValues& v) { return powderCoreLoss(v[0], v[1], v[2]); }}};
 constexpr MultiInput::Shape kPowder{.resetLabel = "Reset Pc",
-                                    .resetBit = 1U << 17U,
+                                    .resetBit = ResetBit::CoreLoss,
                                     .inputs = kPowderInputs,
                                     .solutions = kPowderLoss,
                                     .givenLook = kBySize,
@@ -31,7 +31,7 @@ constexpr KeyInput kFerriteInputs[] = {{.mask = kCtrl, .bit = 1, .label = "F(KHz
                                        {.mask = 0, .bit = 2, .label = "B(gausses)"}};
 constexpr KeySolution kFerriteSet[] = {{.bits = 3}};
 constexpr MultiInput::Shape kFerrite{.resetLabel = "Reset PL",
-                                     .resetBit = 1U << 18U,
+                                     .resetBit = ResetBit::FerriteLoss,
                                      .inputs = kFerriteInputs,
                                      .solutions = kFerriteSet,
                                      .givenLook = kBySize,
@@ -42,7 +42,7 @@ constexpr KeyInput kAtFluxInputs[] = {{.mask = 0, .bit = 1, .label = "Gauss"},
 constexpr KeySolution kChange[] = {
     {.bits = 3, .label = "%", .solve = [](const InputValues& v) { return permeabilityChangePercent(v[0], v[1]); }}};
 constexpr MultiInput::Shape kAtFlux{.resetLabel = "Reset Bæ"_t,
-                                    .resetBit = 1U << 20U,
+                                    .resetBit = ResetBit::PermeabilityAtFlux,
                                     .inputs = kAtFluxInputs,
                                     .solutions = kChange,
                                     .givenLook = kBySize,
@@ -54,7 +54,7 @@ constexpr KeyInput kUnderFieldInputs[] = {{.mask = kCtrl, .bit = 2, .label = "æ
 constexpr KeySolution kLeft[] = {
     {.bits = 3, .label = "% perm", .solve = [](const InputValues& v) { return permeabilityUnderBias(v[1], v[0]); }}};
 constexpr MultiInput::Shape kUnderField{.resetLabel = "Reset perm vs DC",
-                                        .resetBit = 1U << 21U,
+                                        .resetBit = ResetBit::PermeabilityUnderField,
                                         .inputs = kUnderFieldInputs,
                                         .solutions = kLeft,
                                         .givenLook = kBySize,
@@ -74,7 +74,7 @@ constexpr KeySolution kByLoResults[] = {
          return inductanceByPermeability(v[3], v[0], v[2]);
      }}};
 constexpr MultiInput::Shape kByLo{.resetLabel = "Reset ue vs Lo",
-                                  .resetBit = 1U << 30U,
+                                  .resetBit = ResetBit::PermeabilityByLo,
                                   .inputs = kByLoInputs,
                                   .solutions = kByLoResults,
                                   .givenLook = kBySize,

@@ -25,7 +25,7 @@ constexpr KeyInput kButterworthInputs[] = {{.mask = kCtrl, .bit = 1, .label = "n
 constexpr KeySolution kButterworthLoss[] = {
     {.bits = 3, .label = "dB", .solve = [](const InputValues& v) { return butterworthLoss(v[0], v[1]); }}};
 constexpr MultiInput::Shape kButterworth{.resetLabel = "Reset àB"_t,
-                                         .resetBit = 1U << 24U,
+                                         .resetBit = ResetBit::ButterworthFilter,
                                          .inputs = kButterworthInputs,
                                          .solutions = kButterworthLoss,
                                          .givenLook = kBySize};
@@ -38,7 +38,7 @@ constexpr KeyInput kChebyshevInputs[] = {
     {.mask = 0, .bit = 4, .label = "f/fc", .echoLook = kThreeDigits}};
 constexpr KeySolution kChebyshevSet[] = {{.bits = 7}};
 constexpr MultiInput::Shape kChebyshev{.resetLabel = "Reset Cheby.",
-                                       .resetBit = 1U << 14U,
+                                       .resetBit = ResetBit::ChebyshevFilter,
                                        .inputs = kChebyshevInputs,
                                        .solutions = kChebyshevSet,
                                        .alwaysEchoes = true,
@@ -56,7 +56,7 @@ constexpr KeyInput kScalingInputs[] = {
 constexpr KeySolution kScalingSets[] = {{.bits = kCoilBit, .among = kCoilBit},
                                         {.bits = kCapacitorBit, .among = kCapacitorBit}};
 constexpr MultiInput::Shape kScaling{.resetLabel = "Reset scl",
-                                     .resetBit = 1U << 29U,
+                                     .resetBit = ResetBit::FilterScaling,
                                      .inputs = kScalingInputs,
                                      .solutions = kScalingSets,
                                      .shiftRecalculates = false,
@@ -71,7 +71,7 @@ constexpr KeyInput kSupplyInputs[] = {{.mask = 0, .bit = 1, .label = "Vac"},
                                       {.mask = kCtrl + kAlt, .bit = kFrequencyBit}};
 constexpr KeySolution kSupplySet[] = {{.bits = 15}};
 constexpr MultiInput::Shape kSupply{.resetLabel = "Reset Cp",
-                                    .resetBit = 1U << 28U,
+                                    .resetBit = ResetBit::SupplyCapacitor,
                                     .inputs = kSupplyInputs,
                                     .solutions = kSupplySet,
                                     .givenLook = kBySize,

@@ -23,7 +23,7 @@ constexpr KeySolution kVoltSecondResults[] = {
     {.bits = 5, .label = "turns", .solve = [](const InputValues& v) { return otherOfVoltSeconds(v[2], v[0]); }},
     {.bits = 6, .label = "ít"_t, .solve = [](const InputValues& v) { return otherOfVoltSeconds(v[2], v[1]); }}};
 constexpr MultiInput::Shape kVoltSecondShape{.resetLabel = "Reset Ní"_t,
-                                             .resetBit = 1U << 26U,
+                                             .resetBit = ResetBit::VoltSeconds,
                                              .inputs = kVoltSecondInputs,
                                              .solutions = kVoltSecondResults,
                                              .givenLook = kBySize,
@@ -39,7 +39,7 @@ constexpr KeySolution kCapacityResults[] = {
     {.bits = 13, .label = "turns", .solve = [](const InputValues& v) { return otherOfSineVolts(v[3], v[0], v[2]); }},
     {.bits = 14, .label = "ít"_t, .solve = [](const InputValues& v) { return otherOfSineVolts(v[3], v[2], v[1]); }}};
 constexpr MultiInput::Shape kCapacityShape{.resetLabel = "Reset Flux Cap.",
-                                           .resetBit = 524288,
+                                           .resetBit = ResetBit::FluxCapacity,
                                            .inputs = kCapacityInputs,
                                            .solutions = kCapacityResults,
                                            .echoLook = {.digits = 3, .bySize = true}};
@@ -59,15 +59,13 @@ double volts(double x, double y, double k) {
     return checked(y * x / k);
 }
 
-// By the modifier mask.
-constexpr std::array<WaveStep, 8> kWaveSteps{{{ratio, kSineHalfCycle, "V-S"},
+// By HalfWave.
+constexpr std::array<WaveStep, 6> kWaveSteps{{{ratio, kSineHalfCycle, "V-S"},
                                               {volts, kSineHalfCycle, "E(V)"},
                                               {ratio, kSquareHalfCycle, "V-S"},
                                               {volts, kSquareHalfCycle, "E(V)"},
                                               {ratio, kSineHalfCycle, "F(Hz)"},
-                                              {},
-                                              {ratio, kSquareHalfCycle, "F(Hz)"},
-                                              {}}};
+                                              {ratio, kSquareHalfCycle, "F(Hz)"}}};
 
 }  // namespace
 
@@ -82,28 +80,18 @@ void FluxKeys::fluxCapacity() {
     capacity_.press();
 }
 
-void fluxAndDensity(Engine& calc) {
-    const double area = operandBelow(calc, 1);
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            replaceOperands(calc, 2, {fluxDensity(calc.xNumber(), area), "Bm"});
-            break;
-        case kShift:
-            replaceOperands(calc, 2, {fluxOfDensity(calc.xNumber(), area), "ít"_t});
-            break;
-        default:
-            refuseModifiers(calc);
-            return;
-    }
+void densityOfFlux(Engine& calc) {
+    replaceOperands(calc, 2, {fluxDensity(calc.xNumber(), operandBelow(calc, 1)), "Bm"});
     chooseDigits(calc);
 }
 
-void voltSecondsOfWave(Engine& calc) {
-    const WaveStep& step = kWaveSteps.at(calc.s.modifiers.ModifierMask);
-    if (step.of == nullptr) {
-        refuseModifiers(calc);
-        return;
-    }
+void fluxOfDensity(Engine& calc) {
+    replaceOperands(calc, 2, {fluxOfDensity(calc.xNumber(), operandBelow(calc, 1)), "ít"_t});
+    chooseDigits(calc);
+}
+
+void halfWave(Engine& calc, HalfWave which) {
+    const WaveStep& step = kWaveSteps.at(static_cast<std::size_t>(which));
     replaceOperands(calc, 2, {step.of(calc.xNumber(), operandBelow(calc, 1), step.formFactor), step.label});
     chooseDigits(calc);
 }

@@ -5,6 +5,8 @@
 
 #include "engine/multi_input.h"
 
+#include <cstdint>
+
 namespace tallyforge {
 
 class Engine;
@@ -23,12 +25,23 @@ private:
     MultiInput capacity_;
 };
 
-/// Y is an area in square centimetres, X lines of flux from peak to peak, or with Shift the flux
-/// density in gauss: the other one. Raises 6, 11.
-void fluxAndDensity(Engine& calc);
+/// Y is an area in square centimetres, X lines of flux from peak to peak: the flux density in gauss.
+/// Raises 6, 11.
+void densityOfFlux(Engine& calc);
+/// The same back, from a flux density in X.
+void fluxOfDensity(Engine& calc);
 
-/// Half a cycle of a sine, with Ctrl of a square wave. Plain Y is a frequency and X volts, to
-/// volt-seconds; Shift back to volts; Alt Y is volt-seconds and X volts, to the frequency. Raises 6, 11.
-void voltSecondsOfWave(Engine& calc);
+/// Half a cycle of a sine or of a square wave.
+enum class HalfWave : std::uint8_t {
+    SineVoltSeconds,
+    SineVolts,
+    SquareVoltSeconds,
+    SquareVolts,
+    SineHertz,
+    SquareHertz
+};
+/// To volt-seconds Y is a frequency and X volts; back to volts X is volt-seconds; to the frequency Y
+/// is volt-seconds and X volts. Raises 6, 11.
+void halfWave(Engine& calc, HalfWave which);
 
 }  // namespace tallyforge

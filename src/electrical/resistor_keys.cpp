@@ -20,8 +20,10 @@ constexpr KeySolution kThirdResistor[] = {
     {.bits = 3, .label = "R2", .solve = [](const InputValues& v) { return parallelOther(v[0], v[1]); }},
     {.bits = 5, .label = "R1", .solve = [](const InputValues& v) { return parallelOther(v[0], v[2]); }},
     {.bits = 6, .label = "RT", .solve = [](const InputValues& v) { return parallelTotal(v[1], v[2]); }}};
-constexpr MultiInput::Shape kParallel{
-    .resetLabel = "Reset RT", .resetBit = 1024, .inputs = kResistors, .solutions = kThirdResistor};
+constexpr MultiInput::Shape kParallel{.resetLabel = "Reset RT",
+                                      .resetBit = ResetBit::ParallelResistors,
+                                      .inputs = kResistors,
+                                      .solutions = kThirdResistor};
 
 constexpr std::uint8_t kLengthBit = 2;
 constexpr std::uint8_t kAreaBit = 4;
@@ -35,10 +37,8 @@ constexpr KeyInput kParts[] = {{.mask = 0, .bit = 1, .label = "xb"},
                                {.mask = kAlt, .bit = 4, .label = "xa"},
                                {.mask = kCtrl + kAlt, .bit = 8, .label = "jya"}};
 constexpr KeySolution kTotal[] = {{.bits = 15}};
-// A bit that no other key has: with the triangles' bit, which it was once given, the key that comes
-// second after Reset would keep its inputs.
 constexpr MultiInput::Shape kImpedance{
-    .resetLabel = "Reset ZyZ", .resetBit = 8192, .inputs = kParts, .solutions = kTotal};
+    .resetLabel = "Reset ZyZ", .resetBit = ResetBit::ParallelImpedance, .inputs = kParts, .solutions = kTotal};
 
 constexpr std::string_view angleLabelOf(AngleMode mode) {
     switch (mode) {
@@ -64,11 +64,7 @@ ResistorKeys::ResistorKeys(Engine& calculator)
                  {.solve = [this](std::uint8_t, const InputValues& v) { return impedance(v); }}) {}
 
 void ResistorKeys::parallelResistors() {
-    if (calc.s.modifiers.ModifierMask == kCtrl + kAlt) {
-        minimumLossPad();
-    } else {
-        parallel_.press();
-    }
+    parallel_.press();
 }
 
 void ResistorKeys::minimumLossPad() {

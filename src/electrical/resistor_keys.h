@@ -17,9 +17,10 @@ class ResistorKeys {
 public:
     explicit ResistorKeys(Engine& calculator);
 
-    /// RT, R1 (Ctrl), R2 (Alt): any two give the third. With Ctrl+Alt the pad of least loss between
-    /// Y and X. Raises 5, 6, 11.
+    /// RT, R1 (Ctrl), R2 (Alt): any two give the third. Raises 6, 11.
     void parallelResistors();
+    /// The pad of least loss between Y and X. Raises 5, 6, 11.
+    void minimumLossPad();
     /// Resistivity in microhm-cm, length (Ctrl) and area (Alt) in the units in force, to ohms.
     void resistivity();
     /// xb, jyb (Ctrl), xa (Alt), jya (Ctrl+Alt): two impedances in parallel; angle, magnitude and
@@ -29,7 +30,6 @@ public:
     void clearResistivity() { rho_.clear(); }
 
 private:
-    void minimumLossPad();
     [[nodiscard]] std::string rhoLabel(const KeyInput& input) const;
     [[nodiscard]] std::vector<KeyResult> resistance(const InputValues& values) const;
     [[nodiscard]] std::vector<KeyResult> impedance(const InputValues& values) const;

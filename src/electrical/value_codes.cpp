@@ -125,24 +125,8 @@ std::optional<double> encoded(double value) {
     return scaled(kept.value(), -zeros) * kTen + zeros;
 }
 
-void FindValue(Engine& calc) {
-    const std::uint8_t mask = calc.s.modifiers.ModifierMask;
-    const bool toCode = (mask & kShift) != 0;
-    Component component = Component::Resistor;
-    switch (mask & ~kShift) {
-        case 0:
-            break;
-        case kCtrl:
-            component = Component::Capacitor;
-            break;
-        case kAlt:
-            component = Component::Inductor;
-            break;
-        default:
-            refuseModifiers(calc);
-            return;
-    }
-    toCode ? valueToCode(calc, component) : codeToValue(calc, component);
+void FindValue(Engine& calc, Component component, Sought sought) {
+    sought == Sought::Code ? valueToCode(calc, component) : codeToValue(calc, component);
 }
 
 }  // namespace tallyforge

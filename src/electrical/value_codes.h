@@ -33,8 +33,8 @@ struct Prefixed {
 /// digits, half to even, of which a last 0 is left out. Empty from kBeyondCodes on, rounded.
 [[nodiscard]] std::optional<double> encoded(double value);
 
-/// The code key. Plain: a resistor's code to its value; with Ctrl a capacitor's, with Alt an
-/// inductor's. With Shift in addition ohms, microfarads or millihenries to the code.
-void FindValue(Engine& calc);
+enum class Sought : std::uint8_t { Value, Code };
+/// The code in X to its value; or X in ohms, microfarads or millihenries to the code.
+void FindValue(Engine& calc, Component component, Sought sought);
 
 }  // namespace tallyforge

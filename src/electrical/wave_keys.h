@@ -3,20 +3,31 @@
 // Keys of waves and levels: wavelength, angular frequency, decibels.
 #pragma once
 
+#include <cstdint>
+
 namespace tallyforge {
 
 class Engine;
 
-/// X is metres of wave, hertz or seconds, as the modifiers say: plain metres to hertz, Shift hertz
-/// to metres, Ctrl metres to seconds, Shift+Ctrl seconds to metres, Alt hertz to seconds, Ctrl+Alt
-/// seconds to hertz. Raises 6, 11.
-void wavelength(Engine& calc);
+/// What X, metres of wave, hertz or seconds, becomes, and what follows from a frequency.
+enum class WaveStep : std::uint8_t {
+    MetresToHertz,
+    HertzToMetres,
+    MetresToSeconds,
+    SecondsToMetres,
+    HertzToSeconds,
+    SecondsToHertz,
+    Angular,  ///< 2 pi f
+    OneOverAngular,
+    AngularSquared,
+    OneOverAngularSquared,
+};
+/// Raises 6, 11.
+void wave(Engine& calc, WaveStep which);
 
-/// X is a frequency: 2 pi f, with Ctrl its square, with Shift the reciprocal. Raises 6, 11.
-void angularFrequencyKey(Engine& calc);
-
-/// Plain: Y and X are powers, whose ratio in dB stays in Y and its double, of voltages, in X. Shift:
-/// a voltage, its impedance, another voltage and X, its impedance. Raises 5, 11.
-void decibels(Engine& calc);
+/// Y and X are powers, whose ratio in dB stays in Y and its double, of voltages, in X. Raises 5, 11.
+void levelOfPowers(Engine& calc);
+/// A voltage, its impedance, another voltage and X, its impedance. Raises 5, 11.
+void levelOfVoltages(Engine& calc);
 
 }  // namespace tallyforge

@@ -47,26 +47,13 @@ struct LengthUnit {
     int digits = 2;
 };
 
-/// By the modifiers 0 to 5.
+/// By WireLength.
 constexpr std::array<LengthUnit, 6> kLengthUnits{{{.label = "ê/ft"_t, .perFoot = 1.0, .digits = 3},
                                                   {.label = "ê/in"_t, .perFoot = 12.0},
                                                   {.label = "ê/m"_t, .perFoot = 0.3048, .digits = 3},
                                                   {.label = "ê/mm"_t, .perFoot = 304.8},
                                                   {.label = "ê/cm"_t, .perFoot = 30.48},
                                                   {.label = "ê/1000ft"_t, .perFoot = 0.001}}};
-
-void resistanceByWeight(Engine& calc, bool gramsPerOhm) {
-    const double ohms = ohmsPerFoot(calc.xNumber());
-    const auto pounds = poundsPerFoot(calc);
-    if (!pounds) {
-        return;
-    }
-    if (gramsPerOhm) {
-        answerBySize(calc, {*pounds * kGramsPerPound / ohms, "g/ê"_t});
-    } else {
-        answerBySize(calc, {ohms / *pounds, "ê/lb"_t});
-    }
-}
 
 // What the tables of circular mils hold is told in the build's own words.
 void refuseArea(Engine& calc, WireBuild build) {
@@ -82,34 +69,11 @@ void refuseArea(Engine& calc, WireBuild build) {
     }
 }
 
-void gaugeToArea(Engine& calc, WireBuild build) {
-    constexpr std::array<std::string_view, 4> kLabels{"CMAsgl(", "CMAi(", "CMAtriple(", "CMAquad("};
-    const double awg = calc.xNumber();
-    if (const auto area = filmArea(build, awg)) {
-        const std::string label(kLabels.at(static_cast<std::size_t>(build)));
-        replaceX(calc, {*area, label + gaugeName(awg, calc.s.format.DecimalChar) + ")"});
-    } else {
-        refuseArea(calc, build);
-    }
-}
-
 /// Places that suit the circular mils of a bare wire.
 int bareDigits(double awg) {
     constexpr std::array<double, 4> kOneMoreFrom{20.0, 30.0, 50.0, 59.0};
     return static_cast<int>(
         std::count_if(kOneMoreFrom.begin(), kOneMoreFrom.end(), [awg](double from) { return awg >= from; }));
-}
-
-void gaugeToBareArea(Engine& calc) {
-    const double awg = calc.xNumber();
-    const double area = circularMils(bareDiameter(awg));
-    answerWithDigits(calc, {area, "CMAb(" + gaugeName(awg, calc.s.format.DecimalChar) + ")"}, bareDigits(awg));
-}
-
-void gaugeToWeight(Engine& calc) {
-    if (const auto pounds = poundsPerFoot(calc)) {
-        answerBySize(calc, {*pounds, "lbs/ft"});
-    }
 }
 
 void gaugeToDiameter(Engine& calc, WireBuild build, bool inMillimetres) {
@@ -153,17 +117,6 @@ std::string_view noGauge(WireBuild build, bool tooLarge) {
                     : "Data not available for AWG numbers greater than 44, use Heavy or Single Build Insulation.";
 }
 
-void areaToGauge(Engine& calc, WireBuild build) {
-    const double area = calc.xNumber();
-    const AreaRange range = areaRange(build);
-    if (area >= range.least && area <= range.most) {
-        answerWithDigits(calc, {gaugeOfArea(build, area), "AWG"}, kGaugeDigits);
-        return;
-    }
-    calc.message(BoxKind::Stop, "No Data", noGauge(build, area > range.most));
-    replaceX(calc, {ValueCell::zero(), "No Data"});
-}
-
 }  // namespace
 
 void refuseGauge(Engine& calc, WireBuild build, double awg) {
@@ -183,35 +136,73 @@ void refuseGauge(Engine& calc, WireBuild build, double awg) {
     refuse(calc, {.text = text, .title = "No Data", .label = "No Data"});
 }
 
-void wireResistance(Engine& calc) {
-    const std::size_t mask = calc.s.modifiers.ModifierMask;
-    if (mask >= kLengthUnits.size()) {
-        resistanceByWeight(calc, mask > kLengthUnits.size());
-        return;
-    }
-    const LengthUnit& unit = kLengthUnits.at(mask);
+void wireResistance(Engine& calc, WireLength over) {
+    const LengthUnit& unit = kLengthUnits.at(static_cast<std::size_t>(over));
     answerBySize(calc, {checked(ohmsPerFoot(calc.xNumber()) / unit.perFoot), unit.label}, unit.digits);
 }
 
-void wireSize(Engine& calc, WireBuild build) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            return areaToGauge(calc, build);
-        case kShift:
-            return gaugeToArea(calc, build);
-        case kCtrl:
-            return gaugeToBareArea(calc);
-        case kShift | kCtrl:
-            return gaugeToWeight(calc);
-        case kAlt:
-            return gaugeToDiameter(calc, build, false);
-        case kShift | kAlt:
-            return diameterToGauge(calc, build, calc.xNumber());
-        case kCtrl | kAlt:
-            return gaugeToDiameter(calc, build, true);
-        default:
-            return diameterToGauge(calc, build, calc.xNumber() / kMillimetresPerInch);
+void resistancePerPound(Engine& calc) {
+    const double ohms = ohmsPerFoot(calc.xNumber());
+    if (const auto pounds = poundsPerFoot(calc)) {
+        answerBySize(calc, {ohms / *pounds, "ê/lb"_t});
     }
+}
+
+void gramsPerOhm(Engine& calc) {
+    const double ohms = ohmsPerFoot(calc.xNumber());
+    if (const auto pounds = poundsPerFoot(calc)) {
+        answerBySize(calc, {*pounds * kGramsPerPound / ohms, "g/ê"_t});
+    }
+}
+
+void areaToGauge(Engine& calc, WireBuild build) {
+    const double area = calc.xNumber();
+    const AreaRange range = areaRange(build);
+    if (area >= range.least && area <= range.most) {
+        answerWithDigits(calc, {gaugeOfArea(build, area), "AWG"}, kGaugeDigits);
+        return;
+    }
+    calc.message(BoxKind::Stop, "No Data", noGauge(build, area > range.most));
+    replaceX(calc, {ValueCell::zero(), "No Data"});
+}
+
+void gaugeToArea(Engine& calc, WireBuild build) {
+    constexpr std::array<std::string_view, 4> kLabels{"CMAsgl(", "CMAi(", "CMAtriple(", "CMAquad("};
+    const double awg = calc.xNumber();
+    if (const auto area = filmArea(build, awg)) {
+        const std::string label(kLabels.at(static_cast<std::size_t>(build)));
+        replaceX(calc, {*area, label + gaugeName(awg, calc.s.format.DecimalChar) + ")"});
+    } else {
+        refuseArea(calc, build);
+    }
+}
+
+void gaugeToBareArea(Engine& calc) {
+    const double awg = calc.xNumber();
+    const double area = circularMils(bareDiameter(awg));
+    answerWithDigits(calc, {area, "CMAb(" + gaugeName(awg, calc.s.format.DecimalChar) + ")"}, bareDigits(awg));
+}
+
+void gaugeToWeight(Engine& calc) {
+    if (const auto pounds = poundsPerFoot(calc)) {
+        answerBySize(calc, {*pounds, "lbs/ft"});
+    }
+}
+
+void gaugeToInches(Engine& calc, WireBuild build) {
+    gaugeToDiameter(calc, build, false);
+}
+
+void gaugeToMillimetres(Engine& calc, WireBuild build) {
+    gaugeToDiameter(calc, build, true);
+}
+
+void inchesToGauge(Engine& calc, WireBuild build) {
+    diameterToGauge(calc, build, calc.xNumber());
+}
+
+void millimetresToGauge(Engine& calc, WireBuild build) {
+    diameterToGauge(calc, build, calc.xNumber() / kMillimetresPerInch);
 }
 
 }  // namespace tallyforge

@@ -5,20 +5,31 @@
 
 #include "electrical/wire_build.h"
 
+#include <cstdint>
+
 namespace tallyforge {
 
 class Engine;
 
-/// X is a gauge; the copper's resistance per foot, with Shift per inch, with Ctrl per metre, with
-/// Shift+Ctrl per millimetre, with Alt per centimetre, with Shift+Alt per 1000 feet, with Ctrl+Alt
-/// per pound; with all three grams per ohm. Weights take the gauges of the table only.
-void wireResistance(Engine& calc);
+enum class WireLength : std::uint8_t { Foot, Inch, Metre, Millimetre, Centimetre, ThousandFeet };
+/// X is a gauge: the copper's resistance over a length.
+void wireResistance(Engine& calc, WireLength over);
+/// The same over a pound, and the grams of an ohm; for the gauges of the table only.
+void resistancePerPound(Engine& calc);
+void gramsPerOhm(Engine& calc);
 
-/// Plain: circular mils over the film to the gauge. A gauge with Shift to circular mils over the
-/// film, with Ctrl of the bare wire, with Shift+Ctrl to its weight in pounds per foot, with Alt to
-/// its diameter over the film in inches, with Ctrl+Alt in millimetres. With Shift+Alt a diameter
-/// over the film in inches to the gauge that is not thinner, with all three one in millimetres.
-void wireSize(Engine& calc, WireBuild build);
+/// Circular mils over the film to the gauge, and back.
+void areaToGauge(Engine& calc, WireBuild build);
+void gaugeToArea(Engine& calc, WireBuild build);
+/// Circular mils of the bare wire.
+void gaugeToBareArea(Engine& calc);
+/// Pounds per foot.
+void gaugeToWeight(Engine& calc);
+/// Diameter over the film, and back to the gauge that is not thinner.
+void gaugeToInches(Engine& calc, WireBuild build);
+void gaugeToMillimetres(Engine& calc, WireBuild build);
+void inchesToGauge(Engine& calc, WireBuild build);
+void millimetresToGauge(Engine& calc, WireBuild build);
 
 /// The box for a gauge that the table of `build` does not hold; X stays.
 void refuseGauge(Engine& calc, WireBuild build, double awg);

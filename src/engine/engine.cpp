@@ -40,6 +40,10 @@ void Engine::errorBox(BoxKind kind, std::string_view text) {
     message(kind, std::string(std::string_view(s.CurrentProc)) + " Error!", text);
 }
 
+void Engine::reportNumber(const Failure& failure) {
+    errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
+}
+
 bool Engine::question(std::string_view title, std::string_view text) {
     commit.wake();
     if (unwatched) {

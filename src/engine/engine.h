@@ -14,6 +14,7 @@
 #include "engine/stack_list.h"
 #include "engine/tape.h"
 #include "engine/unit_words.h"
+#include "numbers/failure.h"
 #include "platform/platform.h"
 
 #include <filesystem>
@@ -66,6 +67,8 @@ public:
     void message(BoxKind kind, std::string_view title, std::string_view text);
     /// Message box titled `CurrentProc` + " Error!".
     void errorBox(BoxKind kind, std::string_view text);
+    /// "Error number N!" under the title of the procedure, for a handler to report a failure with.
+    void reportNumber(const Failure& failure);
     /// A Yes/No question.
     [[nodiscard]] bool question(std::string_view title, std::string_view text);
     /// "Error N (description) in procedure NAME of Form frm_Tallyforge", stop icon.

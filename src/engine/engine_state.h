@@ -11,6 +11,7 @@
 //   4. Stack has at least StackPtr + 1 slots.
 #pragma once
 
+#include "engine/reset_bits.h"
 #include "engine/tape_label.h"
 #include "numbers/value_cell.h"
 
@@ -204,7 +205,14 @@ struct WindowState {
 /// What the functions share with Reset and the settings.
 struct FunctionState {
     /// Multi-input functions that have still to clear their stored inputs, one bit each.
-    std::uint32_t FunctionResetMask = 0x7FFFFFFF;
+    std::uint32_t FunctionResetMask = static_cast<std::uint32_t>(ResetBit::All);
+    /// Whether a Reset has happened since this was last asked for `bit`.
+    [[nodiscard]] bool takeReset(ResetBit bit) {
+        const auto own = static_cast<std::uint32_t>(bit);
+        const bool due = (FunctionResetMask & own) != 0;
+        FunctionResetMask &= ~own;
+        return due;
+    }
     /// The same for the calculators.
     std::uint32_t CalcResetWord = 0x7FFFFFFF;
     float TaxRate = 7.75F;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/main_form.h"
 
+#include "engine/key_names.h"
 #include "platform/key_codes.h"
 #include "platform/text.h"
 
@@ -94,11 +95,10 @@ void MainForm::giveStrokes() {
     for (std::size_t i = 0; i < kMath.size(); ++i) {
         cmdMath.at(i).typedBy = kMath.at(i);
     }
-    constexpr int kDecimalKey = 10;
-    for (int digit = 0; digit < kDecimalKey; ++digit) {
+    for (int digit = 0; digit < key::kPadDecimal; ++digit) {
         cmdNumPad.at(static_cast<std::size_t>(digit)).typedBy = std::to_string(digit);
     }
-    cmdNumPad.at(kDecimalKey).typedBy = ".,";
+    cmdNumPad.at(key::kPadDecimal).typedBy = ".,";
     cmdEex.typedBy = "eE";
     cmdChs.typedBy = "\\";
     const std::pair<Control*, int> struck[] = {
@@ -178,11 +178,10 @@ void MainForm::dressKeys() {
             {.text = kMath.at(i).caption, .tip = kRegisterArithmetic, .spoken = kMath.at(i).spoken, .font = kDigits},
             static_cast<int>(i));
     }
-    constexpr int kDecimalKey = 10;
-    for (int i = 0; i <= kDecimalKey; ++i) {
-        const std::string digit = i == kDecimalKey ? "." : std::to_string(i);
+    for (int i = 0; i <= key::kPadDecimal; ++i) {
+        const std::string digit = i == key::kPadDecimal ? "." : std::to_string(i);
         put(cmdNumPad.at(static_cast<std::size_t>(i)), "cmdNumPad",
-            {.text = digit, .spoken = i == kDecimalKey ? "Decimal" : std::string_view{}, .font = kDigits}, i);
+            {.text = digit, .spoken = i == key::kPadDecimal ? "Decimal" : std::string_view{}, .font = kDigits}, i);
     }
     dressStackKeys();
     dressModeKeys();

@@ -60,13 +60,11 @@ MultiInput::Outcome MultiInput::press(std::uint8_t name) {
 }
 
 bool MultiInput::clearIfDue() {
-    std::uint32_t& due = calc.s.functions.FunctionResetMask;
-    if ((due & shape.resetBit) == 0) {
-        return false;
+    const bool due = calc.s.functions.takeReset(shape.resetBit);
+    if (due) {
+        clear();
     }
-    due &= ~shape.resetBit;
-    clear();
-    return true;
+    return due;
 }
 
 MultiInput::Outcome MultiInput::startAnew(std::string_view label) {

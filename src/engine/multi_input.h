@@ -6,12 +6,14 @@
 //
 //     constexpr KeyInput kInputs[] = {{.mask = 0, .bit = 1, .label = "RT"}, ...};
 //     constexpr KeySolution kSolutions[] = {{.bits = 6, .label = "RT", .solve = totalOfBoth}, ...};
-//     MultiInput key{calc, {.resetLabel = "Reset RT", .resetBit = 1024, .inputs = kInputs, ...}};
+//     MultiInput key{calc, {.resetLabel = "Reset RT", .resetBit = ResetBit::ParallelResistors, .inputs = kInputs,
+//     ...}};
 //
 // Inputs that follow each other take one place on the stack. What the user puts there between two of
 // them stays until the set is complete; then the result stands in the place of the first input.
 #pragma once
 
+#include "engine/reset_bits.h"
 #include "numbers/value_cell.h"
 
 #include <array>
@@ -92,7 +94,7 @@ public:
     struct Shape {
         std::string_view resetLabel{};  ///< "Reset RT"
         /// The key's bit of FunctionResetMask, 0 for a key that Reset leaves alone.
-        std::uint32_t resetBit = 0;
+        ResetBit resetBit = ResetBit::None;
         std::span<const KeyInput> inputs{};
         std::span<const KeySolution> solutions{};
         /// Shift names no input but asks to compute again from the inputs of the last set.

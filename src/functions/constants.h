@@ -1,20 +1,45 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The keys that put a mathematical constant on the stack, one constant under each mask. The
-// constants of the circle come from fifteen digits of pi.
+// The mathematical constants that keys put on the stack. Those of the circle come from fifteen
+// digits of pi.
 #pragma once
+
+#include <cstdint>
 
 namespace tallyforge {
 
 class Engine;
 
-/// pi, its square and cube root, 2 pi; with Shift their reciprocals. Every mask has a meaning.
-void piConstant(Engine& calc);
-/// e, e^2, root of e; with Shift their reciprocals.
-void eConstant(Engine& calc);
-/// Roots of 2, 3 and 10; with Shift their reciprocals.
-void rootConstant(Engine& calc);
-/// Roots of pi, 2 pi and pi/2; with Shift their reciprocals.
-void rootOfPiConstant(Engine& calc);
+enum class Constant : std::uint8_t {
+    Pi,
+    OneOverPi,
+    PiSquared,
+    OneOverPiSquared,
+    CubeRootOfPi,
+    OneOverCubeRootOfPi,
+    TwoPi,
+    OneOverTwoPi,
+    E,
+    OneOverE,
+    ESquared,
+    OneOverESquared,
+    RootOfE,
+    OneOverRootOfE,
+    RootOf2,
+    OneOverRootOf2,
+    RootOf3,
+    OneOverRootOf3,
+    RootOf10,
+    OneOverRootOf10,
+    RootOfPi,
+    OneOverRootOfPi,
+    RootOfTwoPi,
+    OneOverRootOfTwoPi,
+    RootOfHalfPi,
+    OneOverRootOfHalfPi,
+};
+
+/// Pushes the constant under its label.
+void constant(Engine& calc, Constant which);
 
 }  // namespace tallyforge

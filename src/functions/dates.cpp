@@ -17,7 +17,6 @@ using std::chrono::days;
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-constexpr std::uint32_t kResetBit = 16;
 constexpr int kDateDigits = 6;
 constexpr double kDaysOfWeek = 7.0;
 constexpr int kLastYear = 9999;
@@ -107,39 +106,8 @@ sys_days ParseDate(std::string_view text, char decimal, int thisYear) {
     return sys_days{first / 1} + days{day - 1};
 }
 
-void Dates::differenceKey() {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            return Calander(DateOperation::DaysBetween);
-        case kShift:
-            return Calander(DateOperation::DaysFromDate1);
-        case kCtrl:
-            return Calander(DateOperation::AddDays);
-        case kShift | kCtrl:
-            return Calander(DateOperation::ShowDate1);
-        case kAlt:
-            return Calander(DateOperation::AddWeeks);
-        default:
-            refuseModifiers(calc);
-    }
-}
-
-void Dates::todayKey() {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            return Calander(DateOperation::Today);
-        case kShift:
-            return Calander(DateOperation::DayOfWeek);
-        case kCtrl:
-            return Calander(DateOperation::DaysToWeeks);
-        default:
-            refuseModifiers(calc);
-    }
-}
-
 void Dates::Calander(DateOperation operation) {
-    if ((calc.s.functions.FunctionResetMask & kResetBit) != 0) {
-        calc.s.functions.FunctionResetMask &= ~kResetBit;
+    if (calc.s.functions.takeReset(ResetBit::Dates)) {
         Date1.reset();
     }
     reading_ = "Date1";

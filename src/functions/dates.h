@@ -35,12 +35,6 @@ class Dates {
 public:
     explicit Dates(Engine& calculator) : calc(calculator) {}
 
-    /// Plain: days from Y to X. Shift: days from Date1 to X. Ctrl, Alt: the date Y and X days, or
-    /// weeks. Shift+Ctrl: Date1.
-    void differenceKey();
-    /// Plain: today. Shift: the weekday of X. Ctrl: days as weeks.days.
-    void todayKey();
-
     /// Shows its own failures in a box and then commits nothing.
     void Calander(DateOperation operation);
 

@@ -17,7 +17,6 @@ namespace tallyforge {
 namespace {
 
 constexpr int kFractionDigits = 4;
-constexpr std::uint32_t kBoardResetBit = 1;
 constexpr std::string_view kBoardReset = "Reset Brd Ft";
 
 // Places of a board's inputs in the table, and their bits.
@@ -74,26 +73,20 @@ double MathFunctions::fractionValue(std::string_view text, char decimal) {
     return (empty ? 0.0 : readNumber(numerator, decimal)) / divisor;
 }
 
-void windChillHeatIndex(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0: {
-            const double felt = MathFunctions::windChill(operandBelow(calc, 1), calc.xNumber());
-            calc.display.SaveDisplay(1);
-            replaceOperands(calc, 2, {felt, "øF"_t});
-            break;
-        }
-        case kShift:
-            replaceOperands(calc, 2, {MathFunctions::heatIndex(operandBelow(calc, 1), calc.xNumber()), "øF"_t});
-            break;
-        default:
-            refuseModifiers(calc);
-    }
+void windChill(Engine& calc) {
+    const double felt = MathFunctions::windChill(operandBelow(calc, 1), calc.xNumber());
+    calc.display.SaveDisplay(1);
+    replaceOperands(calc, 2, {felt, "øF"_t});
+}
+
+void heatIndex(Engine& calc) {
+    replaceOperands(calc, 2, {MathFunctions::heatIndex(operandBelow(calc, 1), calc.xNumber()), "øF"_t});
 }
 
 Fractions::Fractions(Engine& calculator)
     : calc(calculator),
       board(calculator, {.resetLabel = kBoardReset,
-                         .resetBit = kBoardResetBit,
+                         .resetBit = ResetBit::BoardFeet,
                          .inputs = kBoardInputs,
                          .solutions = kBoardSolutions,
                          .shiftRecalculates = false,

@@ -27,8 +27,10 @@ namespace MathFunctions {
 
 }  // namespace MathFunctions
 
-/// Plain: wind chill; Y is the speed, X the temperature. Shift: heat index; Y is the humidity.
-void windChillHeatIndex(Engine& calc);
+/// Y is the speed of the wind, X the temperature.
+void windChill(Engine& calc);
+/// Y is the humidity, X the temperature.
+void heatIndex(Engine& calc);
 
 /// The fraction key, which takes board feet with modifiers on the Standard keypad.
 class Fractions {

@@ -115,7 +115,10 @@ double MathFunctions::gammaOf(double x) {
     return less == std::floor(less) ? productDownFrom(less) : gammaByPolynomial(less);
 }
 
-void factorialGamma(Engine& calc) {
+namespace {
+
+template <typename Function>
+void reported(Engine& calc, Function function) {
     const auto onFailure = [&](const Failure& failure) {
         if (failure.number() == FailureNumber::TypeMismatch && calc.s.stack.Xreg.isTagged()) {
             // A number of a base stays where it is, as with every other function.
@@ -123,20 +126,21 @@ void factorialGamma(Engine& calc) {
         }
         showFailure(calc, failure);
     };
-    goOn(onFailure, [&] {
-        switch (calc.s.modifiers.ModifierMask) {
-            case 0:
-            case kShift:
-                factorial(calc, calc.s.modifiers.ModifierMask == kShift);
-                break;
-            case kCtrl:
-                gamma(calc);
-                break;
-            default:
-                calc.s.delivery.FnLabel.clear();
-                refuseModifiers(calc);
-        }
-    });
+    goOn(onFailure, function);
+}
+
+}  // namespace
+
+void factorialOfX(Engine& calc) {
+    reported(calc, [&] { factorial(calc, false); });
+}
+
+void factorialOfWholePart(Engine& calc) {
+    reported(calc, [&] { factorial(calc, true); });
+}
+
+void gammaOfX(Engine& calc) {
+    reported(calc, [&] { gamma(calc); });
 }
 
 }  // namespace tallyforge

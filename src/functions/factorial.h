@@ -20,8 +20,11 @@ namespace MathFunctions {
 
 }  // namespace MathFunctions
 
-/// Plain: X!, of a whole number only. Shift: the factorial of the whole part. Ctrl: gamma. The key
-/// shows its own failures: after them X is 0 under "No Data!".
-void factorialGamma(Engine& calc);
+// These show their own failures: after them X is 0 under "No Data!".
+
+/// X!, of a whole number only.
+void factorialOfX(Engine& calc);
+void factorialOfWholePart(Engine& calc);
+void gammaOfX(Engine& calc);
 
 }  // namespace tallyforge

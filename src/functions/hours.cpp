@@ -77,23 +77,18 @@ double MathFunctions::HmsConvert(double value, bool toDecimal) {
     return value < 0.0 ? -converted : converted;
 }
 
-void hoursMinutes(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            replaceX(calc, {MathFunctions::HmsConvert(calc.xNumber(), true), "h.ddd"});
-            break;
-        case kShift:
-            deliverHms(calc, 1, calc.xNumber(), "h:mm ss.d");
-            break;
-        case kCtrl: {
-            const double x = MathFunctions::HmsConvert(calc.xNumber(), true);
-            const double y = MathFunctions::HmsConvert(operandBelow(calc, 1), true);
-            deliverHms(calc, 2, checked(y + x), "h:mm ss.d+");
-            break;
-        }
-        default:
-            refuseModifiers(calc);
-    }
+void toDecimalHours(Engine& calc) {
+    replaceX(calc, {MathFunctions::HmsConvert(calc.xNumber(), true), "h.ddd"});
+}
+
+void toHoursMinutes(Engine& calc) {
+    deliverHms(calc, 1, calc.xNumber(), "h:mm ss.d");
+}
+
+void addHoursMinutes(Engine& calc) {
+    const double x = MathFunctions::HmsConvert(calc.xNumber(), true);
+    const double y = MathFunctions::HmsConvert(operandBelow(calc, 1), true);
+    deliverHms(calc, 2, checked(y + x), "h:mm ss.d+");
 }
 
 }  // namespace tallyforge

@@ -16,7 +16,9 @@ namespace MathFunctions {
 
 }  // namespace MathFunctions
 
-/// Plain: to decimal hours. Shift: to h.mmss. Ctrl: Y and X, both h.mmss, added.
-void hoursMinutes(Engine& calc);
+void toDecimalHours(Engine& calc);
+void toHoursMinutes(Engine& calc);
+/// Y and X, both h.mmss, added.
+void addHoursMinutes(Engine& calc);
 
 }  // namespace tallyforge

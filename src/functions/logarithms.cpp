@@ -22,84 +22,63 @@ double expLessOne(double x) {
 
 }  // namespace
 
-void powers(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            replaceOperands(calc, 2, {power(operandBelow(calc, 1), calc.xNumber()), "y^x"});
-            break;
-        case kShift:
-            replaceOperands(calc, 2, {quotient(lnOf(calc.xNumber()), lnOf(operandBelow(calc, 1))), "n(y^)"});
-            break;
-        case kCtrl:
-            replaceX(calc, {power(2.0, calc.xNumber()), "2^"});
-            break;
-        case kAlt:
-            replaceX(calc, {lnOf(calc.xNumber()) / std::log(2.0), "n(2^)"});
-            break;
-        default:
-            refuseModifiers(calc);
-    }
+void yToTheX(Engine& calc) {
+    replaceOperands(calc, 2, {power(operandBelow(calc, 1), calc.xNumber()), "y^x"});
+}
+
+void exponentOfY(Engine& calc) {
+    replaceOperands(calc, 2, {quotient(lnOf(calc.xNumber()), lnOf(operandBelow(calc, 1))), "n(y^)"});
+}
+
+void twoToTheX(Engine& calc) {
+    replaceX(calc, {power(2.0, calc.xNumber()), "2^"});
+}
+
+void exponentOfTwo(Engine& calc) {
+    replaceX(calc, {lnOf(calc.xNumber()) / std::log(2.0), "n(2^)"});
 }
 
 void naturalLogarithm(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0: {
-            const double x = calc.xNumber();
-            if (x < 0.0) {
-                calc.message(BoxKind::Stop, kTitle, "Positive numbers only!");
-                leaveNothing(calc);
-                return;
-            }
-            replaceX(calc, {lnOf(x), "ln(x)"});
-            break;
-        }
-        case kShift:
-            replaceX(calc, {expOf(calc.xNumber()), "e^x"});
-            break;
-        default:
-            refuseModifiers(calc);
+    const double x = calc.xNumber();
+    if (x < 0.0) {
+        calc.message(BoxKind::Stop, kTitle, "Positive numbers only!");
+        leaveNothing(calc);
+        return;
     }
+    replaceX(calc, {lnOf(x), "ln(x)"});
+}
+
+void eToTheX(Engine& calc) {
+    replaceX(calc, {expOf(calc.xNumber()), "e^x"});
 }
 
 void logarithmOfOnePlus(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0: {
-            const double x = calc.xNumber();
-            if (x + 1.0 <= 0.0) {
-                calc.message(BoxKind::Stop, kTitle, "Enter a number > -1!");
-                leaveNothing(calc);
-                return;
-            }
-            replaceX(calc, {std::log1p(x), "ln+"});
-            break;
-        }
-        case kShift:
-            replaceX(calc, {expLessOne(calc.xNumber()), "e-"});
-            break;
-        default:
-            refuseModifiers(calc);
+    const double x = calc.xNumber();
+    if (x + 1.0 <= 0.0) {
+        calc.message(BoxKind::Stop, kTitle, "Enter a number > -1!");
+        leaveNothing(calc);
+        return;
     }
+    replaceX(calc, {std::log1p(x), "ln+"});
+}
+
+void eToTheXLessOne(Engine& calc) {
+    replaceX(calc, {expLessOne(calc.xNumber()), "e-"});
 }
 
 void commonLogarithm(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0: {
-            const double x = calc.xNumber();
-            if (x < 0.0) {
-                calc.message(BoxKind::Stop, kTitle, "Positive numbers only!");
-                // Unlike the natural logarithm this key commits its refusal.
-                replaceX(calc, {"0", "No Data!"});
-                return;
-            }
-            replaceX(calc, {MathFunctions::Log10(x), "log(x)"});
-            break;
-        }
-        case kShift:
-            replaceX(calc, {power(10.0, calc.xNumber()), "10^x"});
-            break;
-        default:
-            refuseModifiers(calc);
+    const double x = calc.xNumber();
+    if (x < 0.0) {
+        calc.message(BoxKind::Stop, kTitle, "Positive numbers only!");
+        // Unlike the natural logarithm this key commits its refusal.
+        replaceX(calc, {"0", "No Data!"});
+        return;
     }
+    replaceX(calc, {MathFunctions::Log10(x), "log(x)"});
+}
+
+void tenToTheX(Engine& calc) {
+    replaceX(calc, {power(10.0, calc.xNumber()), "10^x"});
 }
 
 }  // namespace tallyforge

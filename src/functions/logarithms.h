@@ -7,16 +7,24 @@ namespace tallyforge {
 
 class Engine;
 
-/// Plain: Y^X. Shift: n with Y^n = X. Ctrl: 2^X. Alt: n with 2^n = X. Raises 5, 6, 11.
-void powers(Engine& calc);
+/// Y^X. Raises 5, 6.
+void yToTheX(Engine& calc);
+/// n with Y^n = X. Raises 5, 6, 11.
+void exponentOfY(Engine& calc);
+void twoToTheX(Engine& calc);
+/// n with 2^n = X. Raises 5.
+void exponentOfTwo(Engine& calc);
 
-/// Plain: ln X; a negative X shows a box and commits nothing, 0 raises 5. Shift: e^X.
+/// A negative X shows a box and commits nothing, 0 raises 5.
 void naturalLogarithm(Engine& calc);
+void eToTheX(Engine& calc);
 
-/// Plain: ln(X + 1); -1 and below show a box and commit nothing. Shift: e^X - 1.
+/// ln(X + 1); -1 and below show a box and commit nothing.
 void logarithmOfOnePlus(Engine& calc);
+void eToTheXLessOne(Engine& calc);
 
-/// Plain: the common logarithm; a negative X shows a box and commits 0, "No Data!". Shift: 10^X.
+/// A negative X shows a box and commits 0, "No Data!".
 void commonLogarithm(Engine& calc);
+void tenToTheX(Engine& calc);
 
 }  // namespace tallyforge

@@ -25,7 +25,22 @@ double rate(const Engine& calc) {
     return roundHalfEven(static_cast<double>(calc.s.functions.TaxRate), kDigitsOfSingle);
 }
 
-void plusAndMinus(Engine& calc) {
+}  // namespace
+
+void percentOf(Engine& calc) {
+    const double part = checked(operandBelow(calc, 1) * calc.xNumber()) / 100.0;
+    calc.display.SaveDisplay(kPercentDigits);
+    replaceX(calc, {part, "x% of y"});
+}
+
+void percentDifference(Engine& calc) {
+    const double base = operandBelow(calc, 1);
+    const double difference = quotient(checked((calc.xNumber() - base) * 100.0), base);
+    calc.display.SaveDisplay(kPercentDigits);
+    replaceOperands(calc, 2, {difference, "d%"});
+}
+
+void plusAndMinusPercent(Engine& calc) {
     const double base = operandBelow(calc, 1);
     const double share = checked(base * calc.xNumber()) / 100.0;
     replaceWithPair(calc, 2, {checked(base + share), "+%"}, {checked(base - share), "-%"});
@@ -42,7 +57,7 @@ void taxAndTotal(Engine& calc) {
     calc.s.stack.LastX = tax;
 }
 
-void changeRate(Engine& calc) {
+void changeTaxRate(Engine& calc) {
     constexpr double kTooMuch = 100.0;
     const double wanted = roundHalfEven(calc.xNumber(), kMoneyDigits);
     if (calc.xNumber() >= kTooMuch) {
@@ -64,45 +79,8 @@ void changeRate(Engine& calc) {
     calc.s.delivery.FnLabel = kRateLabel;
 }
 
-}  // namespace
-
-void percent(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0: {
-            const double part = checked(operandBelow(calc, 1) * calc.xNumber()) / 100.0;
-            calc.display.SaveDisplay(kPercentDigits);
-            replaceX(calc, {part, "x% of y"});
-            break;
-        }
-        case kShift: {
-            const double base = operandBelow(calc, 1);
-            const double difference = quotient(checked((calc.xNumber() - base) * 100.0), base);
-            calc.display.SaveDisplay(kPercentDigits);
-            replaceOperands(calc, 2, {difference, "d%"});
-            break;
-        }
-        case kCtrl:
-            plusAndMinus(calc);
-            break;
-        default:
-            refuseModifiers(calc);
-    }
-}
-
-void salesTax(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            taxAndTotal(calc);
-            break;
-        case kShift:
-            replaceX(calc, {rate(calc), kRateLabel});
-            break;
-        case kCtrl:
-            changeRate(calc);
-            break;
-        default:
-            refuseModifiers(calc);
-    }
+void showTaxRate(Engine& calc) {
+    replaceX(calc, {rate(calc), kRateLabel});
 }
 
 }  // namespace tallyforge

@@ -7,13 +7,18 @@ namespace tallyforge {
 
 class Engine;
 
-/// Plain: X percent of Y, which stays below the result. Shift: by how many percent X differs from
-/// Y. Ctrl: Y plus and Y less X percent, in the place of both. Raises 6, 11.
-void percent(Engine& calc);
+/// X percent of Y, which stays below the result. Raises 6.
+void percentOf(Engine& calc);
+/// By how many percent X differs from Y. Raises 6, 11.
+void percentDifference(Engine& calc);
+/// Y plus and Y less X percent, in the place of both. Raises 6.
+void plusAndMinusPercent(Engine& calc);
 
-/// Plain: the tax on X and the total. Shift: the rate. Ctrl: X becomes the rate, below 100, and is
-/// written to the settings. Raises 5 for a rate that needs more than the five columns it has there,
-/// and what the settings file raises.
-void salesTax(Engine& calc);
+/// The tax on X and the total.
+void taxAndTotal(Engine& calc);
+void showTaxRate(Engine& calc);
+/// X becomes the rate, below 100, and is written to the settings. Raises 5 for a rate that needs
+/// more than the five columns it has there, and what the settings file raises.
+void changeTaxRate(Engine& calc);
 
 }  // namespace tallyforge

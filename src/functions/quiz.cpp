@@ -14,7 +14,6 @@ namespace tallyforge {
 
 namespace {
 
-constexpr std::uint32_t kResetBit = 4096;
 constexpr int kAwaitsMaximum = 10;
 constexpr int kQuestions = 10;
 constexpr double kLargestMaximum = 99.0;
@@ -44,9 +43,10 @@ double bothNumbers(int left, int right) {
 
 std::vector<Control*> disturbing(MainForm& form) {
     std::vector<Control*> controls{
-        &form.cmdF11,     &form.cmdF12,    &form.cmdDown,   &form.cmdXchgY,      &form.cmdLastx, &form.cmdChs,
-        &form.cmdSTO,     &form.cmdDigits, &form.cmdEex,    &form.cmdNumPad[10], &form.mnuSave,  &form.mnuSaveTape,
-        &form.mnuSaveMem, &form.mnuTape,   &form.mnuRetMem, &form.mnuProgram,    &form.mnuPaste, &form.mnuSkins};
+        &form.cmdF11,     &form.cmdF12,      &form.cmdDown,    &form.cmdXchgY, &form.cmdLastx,
+        &form.cmdChs,     &form.cmdSTO,      &form.cmdDigits,  &form.cmdEex,   &form.cmdNumPad[key::kPadDecimal],
+        &form.mnuSave,    &form.mnuSaveTape, &form.mnuSaveMem, &form.mnuTape,  &form.mnuRetMem,
+        &form.mnuProgram, &form.mnuPaste,    &form.mnuSkins};
     for (const KeypadEntry& entry : form.keypadMenu()) {
         controls.push_back(&entry.control);
     }
@@ -75,15 +75,12 @@ void Quiz::quizKey() {
     }
 }
 
-void Quiz::productKey() {
-    const std::uint8_t mask = calc.s.modifiers.ModifierMask;
-    if (running_) {
-        ignore();
-    } else if (mask <= kShift) {
-        start(mask == 0 ? kMultiply : kDivide);
-    } else {
-        refuseModifiers(calc);
-    }
+void Quiz::multiply() {
+    start(kMultiply);
+}
+
+void Quiz::divide() {
+    start(kDivide);
 }
 
 // X stays what it is.
@@ -93,7 +90,7 @@ void Quiz::ignore() {
 }
 
 void Quiz::start(int operation) {
-    calc.s.functions.FunctionResetMask &= ~kResetBit;
+    static_cast<void>(calc.s.functions.takeReset(ResetBit::Quiz));
     QuizAsked = 0;
     QuizRight = 0;
     QuizWrong = 0;

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "engine/engine_state.h"
+#include "engine/key_names.h"
 #include "platform/form.h"
 
 #include <string>
@@ -21,13 +22,14 @@ public:
     explicit Quiz(Engine& calculator) : calc(calculator) {}
 
     /// The key of the bank that runs the quiz.
-    static constexpr int kKey = 7;
+    static constexpr int kKey = key::QuizSum;
 
     /// Plain: addition, Shift: subtraction. While the quiz runs plain takes the number that was
     /// put on the stack, and Ctrl+Alt ends.
     void quizKey();
-    /// Plain: multiplication, Shift: division.
-    void productKey();
+    /// Starts multiplication or division.
+    void multiply();
+    void divide();
 
     [[nodiscard]] bool running() const { return running_; }
     /// Gives back what the quiz has taken; nothing where none runs. Commits nothing.

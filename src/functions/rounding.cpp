@@ -32,28 +32,25 @@ double MathFunctions::Ceiling(double x) {
     return x < 0.0 ? std::trunc(x) : roundHalfEven(x + 0.5, 0);
 }
 
-void rounding(Engine& calc) {
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            replaceOperands(calc, 2, {roundAt(operandBelow(calc, 1), calc.xNumber()), "Rnd"});
-            break;
-        case kShift:
-            replaceX(calc, {std::trunc(calc.xNumber()), "Int"});
-            break;
-        case kCtrl: {
-            const double x = calc.xNumber();
-            replaceX(calc, {x - std::trunc(x), "Frac"});
-            break;
-        }
-        case kAlt:
-            replaceX(calc, {MathFunctions::Floor(calc.xNumber()), "Floor"});
-            break;
-        case kShift | kAlt:
-            replaceX(calc, {MathFunctions::Ceiling(calc.xNumber()), "Ceil"});
-            break;
-        default:
-            refuseModifiers(calc);
-    }
+void roundToPlaces(Engine& calc) {
+    replaceOperands(calc, 2, {roundAt(operandBelow(calc, 1), calc.xNumber()), "Rnd"});
+}
+
+void wholePart(Engine& calc) {
+    replaceX(calc, {std::trunc(calc.xNumber()), "Int"});
+}
+
+void fractionalPart(Engine& calc) {
+    const double x = calc.xNumber();
+    replaceX(calc, {x - std::trunc(x), "Frac"});
+}
+
+void floorOfX(Engine& calc) {
+    replaceX(calc, {MathFunctions::Floor(calc.xNumber()), "Floor"});
+}
+
+void ceilingOfX(Engine& calc) {
+    replaceX(calc, {MathFunctions::Ceiling(calc.xNumber()), "Ceil"});
 }
 
 }  // namespace tallyforge

@@ -17,8 +17,11 @@ namespace MathFunctions {
 
 }  // namespace MathFunctions
 
-/// Plain: Y rounded half to even at X places (5 below 0). Shift: whole part. Ctrl: the
-/// fraction. Alt: floor. Shift+Alt: ceiling.
-void rounding(Engine& calc);
+/// Y rounded half to even at X places. Raises 5 below 0.
+void roundToPlaces(Engine& calc);
+void wholePart(Engine& calc);
+void fractionalPart(Engine& calc);
+void floorOfX(Engine& calc);
+void ceilingOfX(Engine& calc);
 
 }  // namespace tallyforge

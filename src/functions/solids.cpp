@@ -44,6 +44,7 @@ double sphere(const Sizes& s) {
     return kFourPi * radius * radius * radius / 3.0;
 }
 
+// By Solid.
 constexpr std::array<Quantity, 8> kQuantities{
     {{"V_Cyl", 2, cylinder},
      {"V_Fr", 3, frustum},
@@ -56,8 +57,8 @@ constexpr std::array<Quantity, 8> kQuantities{
 
 }  // namespace
 
-void solid(Engine& calc) {
-    const Quantity& chosen = kQuantities.at(calc.s.modifiers.ModifierMask);
+void solid(Engine& calc, Solid which) {
+    const Quantity& chosen = kQuantities.at(static_cast<std::size_t>(which));
     Sizes sizes{.x = calc.xNumber()};
     if (chosen.operands > 1) {
         sizes.radius = operandBelow(calc, 1) / 2.0;

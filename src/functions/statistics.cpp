@@ -14,50 +14,62 @@
 
 namespace tallyforge {
 
-namespace {
+void Statistics::addEntry() {
+    begin();
+    enter(1.0);
+}
 
-constexpr std::uint32_t kResetBit = 0x2000000;
+void Statistics::takeEntryOut() {
+    begin();
+    enter(-1.0);
+}
 
-}  // namespace
+void Statistics::showSums() {
+    begin();
+    show(Stats.StatSumY.value(), "äy"_t, Stats.StatSumX.value(), "äx"_t);
+}
 
-void Statistics::key() {
-    EngineState& s = calc.s;
-    if ((s.functions.FunctionResetMask & kResetBit) != 0) {
-        s.functions.FunctionResetMask &= ~kResetBit;
+void Statistics::showSumsOfSquares() {
+    begin();
+    show(Stats.StatSumYY.value(), "äyý"_t, Stats.StatSumXX.value(), "äxý"_t);
+}
+
+void Statistics::showSumOfProducts() {
+    begin();
+    pushOnX(calc, {Stats.StatSumXY.value(), "äxy"_t});
+    finish();
+}
+
+void Statistics::showMeans() {
+    begin();
+    show(mean(Stats.StatSumY), "my", mean(Stats.StatSumX), "mx");
+}
+
+void Statistics::showDeviations() {
+    begin();
+    show(deviation(Stats.StatSumYY, Stats.StatSumY), "Sy", deviation(Stats.StatSumXX, Stats.StatSumX), "Sx");
+}
+
+void Statistics::startAnew() {
+    begin();
+    clear();
+    pushOnX(calc, {ValueCell::zero(), "Reset ä"_t});
+    // The next entry takes the place of this 0.
+    left(calc.s.stack.Xreg);
+    finish();
+}
+
+void Statistics::begin() {
+    if (calc.s.functions.takeReset(ResetBit::Statistics)) {
         clear();
         pressed_ = false;
     }
     forgetLostEntry();
-    const Sums& sums = Stats;
-    switch (s.modifiers.ModifierMask) {
-        case kShift:
-            show(sums.StatSumY.value(), "äy"_t, sums.StatSumX.value(), "äx"_t);
-            break;
-        case kCtrl:
-            return enter(-1.0);
-        case kShift | kCtrl:
-            show(sums.StatSumYY.value(), "äyý"_t, sums.StatSumXX.value(), "äxý"_t);
-            break;
-        case kAlt:
-            show(mean(sums.StatSumY), "my", mean(sums.StatSumX), "mx");
-            break;
-        case kShift | kAlt:
-            pushOnX(calc, {sums.StatSumXY.value(), "äxy"_t});
-            break;
-        case kCtrl | kAlt:
-            show(deviation(sums.StatSumYY, sums.StatSumY), "Sy", deviation(sums.StatSumXX, sums.StatSumX), "Sx");
-            break;
-        case kShift | kCtrl | kAlt:
-            clear();
-            pushOnX(calc, {ValueCell::zero(), "Reset ä"_t});
-            // The next entry takes the place of this 0.
-            left(s.stack.Xreg);
-            break;
-        default:
-            return enter(1.0);
-    }
+}
+
+void Statistics::finish() {
     pressed_ = true;
-    s.stack.LowestStackPtr = s.stack.StackPtr + 1;
+    calc.s.stack.LowestStackPtr = calc.s.stack.StackPtr + 1;
 }
 
 // Before the first press nobody knows what stood on the stack already: a typed number under X is
@@ -96,8 +108,7 @@ void Statistics::enter(double sign) {
         s.stack.StackPtr = entrySlot_;
     }
     left(s.stack.Xreg);
-    pressed_ = true;
-    s.stack.LowestStackPtr = s.stack.StackPtr + 1;
+    finish();
     std::string label{sign > 0.0 ? "ä+("_t : "ä-("_t};
     label += NumberDisplay::shownNumber(Stats.StatCount,
                                         {.mode = DisplayMode::Fixed, .digits = 0, .decimal = s.format.DecimalChar}, 0) +
@@ -108,6 +119,7 @@ void Statistics::enter(double sign) {
 void Statistics::show(double ofY, std::string_view labelY, double ofX, std::string_view labelX) {
     pushAtOnce(calc, {ofY, labelY}, false);
     pushOnX(calc, {ofX, labelX});
+    finish();
 }
 
 void Statistics::clear() {

@@ -18,12 +18,20 @@ class Statistics {
 public:
     explicit Statistics(Engine& calculator) : calc(calculator) {}
 
-    /// Plain and Ctrl: an entry in, or out again. X alone is an entry with a Y of 0; with two
-    /// numbers put on the stack since the last press, Y counts too. The entry's X stays on the
-    /// stack in the place of the one before. Alt: means. Ctrl+Alt: sample deviations. Shift,
-    /// Shift+Ctrl, Shift+Alt: the sums. All three: clears. Raises 5 where a deviation has no value,
-    /// 6, 11 for too few entries.
-    void key();
+    /// An entry in, or out again. X alone is an entry with a Y of 0; with two numbers put on the
+    /// stack since the last press, Y counts too. The entry's X stays on the stack in the place of
+    /// the one before. Raise 6.
+    void addEntry();
+    void takeEntryOut();
+    void showSums();
+    void showSumsOfSquares();
+    void showSumOfProducts();
+    /// Raises 11 for no entries.
+    void showMeans();
+    /// Sample deviations. Raises 5 where one has no value, 11 for too few entries.
+    void showDeviations();
+    /// Forgets all entries.
+    void startAnew();
 
 private:
     struct Sums {
@@ -35,6 +43,8 @@ private:
         ExactDecimal StatSumXY;
     };
 
+    void begin();
+    void finish();
     void enter(double sign);
     [[nodiscard]] bool yIsPartOfEntry() const;
     void show(double ofY, std::string_view labelY, double ofX, std::string_view labelX);

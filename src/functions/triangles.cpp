@@ -2,6 +2,7 @@
 #include "functions/triangles.h"
 
 #include "engine/engine.h"
+#include "engine/key_names.h"
 #include "engine/results.h"
 #include "functions/math_functions.h"
 #include "functions/triangle_solver.h"
@@ -15,8 +16,6 @@
 namespace tallyforge {
 
 namespace {
-
-constexpr int kFirstRightKey = 13;
 
 // The name of an input is its key, counted from the first one, twice, and one more with Shift.
 constexpr KeyInput kRightInputs[] = {
@@ -35,10 +34,16 @@ constexpr std::uint8_t kRightAngles = kAngleOppositeX | kAngleOppositeY;
 constexpr std::size_t kFirstAngle = 3;
 constexpr int kInputsOfATriangle = 3;
 
-constexpr MultiInput::Shape kRightShape{
-    .resetLabel = "Reset", .resetBit = 512, .inputs = kRightInputs, .shiftRecalculates = false, .zeroResets = true};
-constexpr MultiInput::Shape kGeneralShape{
-    .resetLabel = "Reset", .resetBit = 2048, .inputs = kGeneralInputs, .shiftRecalculates = false, .zeroResets = true};
+constexpr MultiInput::Shape kRightShape{.resetLabel = "Reset",
+                                        .resetBit = ResetBit::RightTriangle,
+                                        .inputs = kRightInputs,
+                                        .shiftRecalculates = false,
+                                        .zeroResets = true};
+constexpr MultiInput::Shape kGeneralShape{.resetLabel = "Reset",
+                                          .resetBit = ResetBit::Triangle,
+                                          .inputs = kGeneralInputs,
+                                          .shiftRecalculates = false,
+                                          .zeroResets = true};
 
 constexpr std::uint8_t kNoInput = 0xFF;
 
@@ -53,9 +58,7 @@ std::size_t placeOf(std::span<const KeyInput> inputs, std::uint8_t name) {
 }
 
 int sideNumber(int key) {
-    constexpr int kKeyOfS1 = 11;
-    constexpr int kKeyOfS2 = 23;
-    return key == kKeyOfS1 ? 0 : key == kKeyOfS2 ? 1 : 2;
+    return key == key::SideS1 ? 0 : key == key::SideS2 ? 1 : 2;
 }
 
 }  // namespace
@@ -77,7 +80,7 @@ double Triangles::asGiven(const Inputs& set, std::size_t input) const {
 }
 
 void Triangles::RightTriangle(int key) {
-    const std::uint8_t name = inputName(key - kFirstRightKey, calc.s.modifiers.ModifierMask);
+    const std::uint8_t name = inputName(key - key::RightAngle, calc.s.modifiers.ModifierMask);
     switch (right.taken.press(name)) {
         case MultiInput::Outcome::Reset:
             calc.s.functions.RightTriangleHasAngle = false;

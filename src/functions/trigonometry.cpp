@@ -58,24 +58,18 @@ void refuse(Engine& calc, std::string_view title) {
     pushOnX(calc, {ValueCell::zero(), "Error"});
 }
 
-void circular(Engine& calc, const CircularKey& key) {
+void direct(Engine& calc, const CircularKey& key) {
+    replaceX(calc, {key.function(toRadians(calc.xNumber(), calc.s.format.Angle)), key.label});
+}
+
+void inverse(Engine& calc, const CircularKey& key) {
     const AngleMode mode = calc.s.format.Angle;
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0:
-            replaceX(calc, {key.function(toRadians(calc.xNumber(), mode)), key.label});
-            break;
-        case kShift: {
-            const double x = calc.xNumber();
-            calc.s.stack.Xnum = 0.0;
-            if (const auto angle = key.inverse(x)) {
-                replaceX(calc, {fromRadians(*angle, mode), ofUnit(key.inverseLabels, mode)});
-            } else {
-                refuse(calc, key.refusalTitle);
-            }
-            break;
-        }
-        default:
-            refuseModifiers(calc);
+    const double x = calc.xNumber();
+    calc.s.stack.Xnum = 0.0;
+    if (const auto angle = key.inverse(x)) {
+        replaceX(calc, {fromRadians(*angle, mode), ofUnit(key.inverseLabels, mode)});
+    } else {
+        refuse(calc, key.refusalTitle);
     }
 }
 
@@ -93,120 +87,156 @@ constexpr ReciprocalKey kCotangent{
 constexpr ReciprocalKey kCosecant{
     .head = "Csc(", .units = {"ø"_t, "rad", "Grad"}, .function = MathFunctions::Csc, .inverse = MathFunctions::ArcCsc};
 
-void reciprocalCircular(Engine& calc, const ReciprocalKey& key) {
+void direct(Engine& calc, const ReciprocalKey& key) {
     const AngleMode mode = calc.s.format.Angle;
-    const std::string unit{ofUnit(key.units, mode)};
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0: {
-            const std::string label = std::string(key.head) + unit + ")";
-            replaceX(calc, {key.function(toRadians(calc.xNumber(), mode)), label});
-            break;
-        }
-        case kShift:
-            replaceX(calc, {fromRadians(key.inverse(calc.xNumber()), mode), unit});
-            break;
-        default:
-            refuseModifiers(calc);
-    }
+    const std::string label = std::string(key.head) + std::string(ofUnit(key.units, mode)) + ")";
+    replaceX(calc, {key.function(toRadians(calc.xNumber(), mode)), label});
 }
 
-/// A function under each mask from 0.
-struct MaskedFunction {
-    std::string_view label;
-    Function function = nullptr;
-};
-
-template <std::size_t Count>
-void byMask(Engine& calc, const std::array<MaskedFunction, Count>& functions) {
-    if (calc.s.modifiers.ModifierMask >= Count) {
-        refuseModifiers(calc);
-        return;
-    }
-    const MaskedFunction& chosen = functions.at(calc.s.modifiers.ModifierMask);
-    replaceX(calc, {chosen.function(calc.xNumber()), chosen.label});
+void inverse(Engine& calc, const ReciprocalKey& key) {
+    const AngleMode mode = calc.s.format.Angle;
+    replaceX(calc, {fromRadians(key.inverse(calc.xNumber()), mode), ofUnit(key.units, mode)});
 }
 
-constexpr std::array<MaskedFunction, 4> kHyperbolicSine{{{"Sinh", MathFunctions::Sinh},
-                                                         {"arcSinh", MathFunctions::ArcSinh},
-                                                         {"Sech", MathFunctions::Sech},
-                                                         {"arcSech", MathFunctions::ArcSech}}};
-constexpr std::array<MaskedFunction, 4> kHyperbolicTangent{{{"Tanh", MathFunctions::Tanh},
-                                                            {"arcTanh", MathFunctions::ArcTanh},
-                                                            {"Coth", MathFunctions::Coth},
-                                                            {"ArcCoth", MathFunctions::ArcCoth}}};
-constexpr std::array<MaskedFunction, 4> kHyperbolicCosine{{{"Cosh", MathFunctions::Cosh},
-                                                           {"ArcCosh", MathFunctions::ArcCosh},
-                                                           {"Csch", MathFunctions::Csch},
-                                                           {"ArcCsch", MathFunctions::ArcCsch}}};
-
-constexpr std::array<MaskedFunction, 6> kAngleConversions{
-    {{"Deg", MathFunctions::RadToDeg},
-     {"Rad", MathFunctions::DegToRad},
-     {"Grad", degreesToGrads},
-     {"Deg", gradsToDegrees},
-     {"Grad", [](double radians) { return fromRadians(radians, AngleMode::Grads); }},
-     {"Rad", [](double grads) { return toRadians(grads, AngleMode::Grads); }}}};
+void ofX(Engine& calc, Function function, std::string_view label) {
+    replaceX(calc, {function(calc.xNumber()), label});
+}
 
 constexpr UnitLabels kPolarAngle{"R>P(é)"_t, "R>P(Rad)", "R>P(Grad)"};
 
 }  // namespace
 
 void sine(Engine& calc) {
-    circular(calc, kSine);
+    direct(calc, kSine);
+}
+
+void arcSine(Engine& calc) {
+    inverse(calc, kSine);
 }
 
 void cosine(Engine& calc) {
-    circular(calc, kCosine);
+    direct(calc, kCosine);
+}
+
+void arcCosine(Engine& calc) {
+    inverse(calc, kCosine);
 }
 
 void tangent(Engine& calc) {
-    circular(calc, kTangent);
+    direct(calc, kTangent);
+}
+
+void arcTangent(Engine& calc) {
+    inverse(calc, kTangent);
 }
 
 void secant(Engine& calc) {
-    reciprocalCircular(calc, kSecant);
+    direct(calc, kSecant);
+}
+
+void arcSecant(Engine& calc) {
+    inverse(calc, kSecant);
 }
 
 void cotangent(Engine& calc) {
-    reciprocalCircular(calc, kCotangent);
+    direct(calc, kCotangent);
+}
+
+void arcCotangent(Engine& calc) {
+    inverse(calc, kCotangent);
 }
 
 void cosecant(Engine& calc) {
-    reciprocalCircular(calc, kCosecant);
+    direct(calc, kCosecant);
+}
+
+void arcCosecant(Engine& calc) {
+    inverse(calc, kCosecant);
 }
 
 void hyperbolicSine(Engine& calc) {
-    byMask(calc, kHyperbolicSine);
+    ofX(calc, MathFunctions::Sinh, "Sinh");
 }
 
-void hyperbolicCosine(Engine& calc) {
-    byMask(calc, kHyperbolicCosine);
+void arcHyperbolicSine(Engine& calc) {
+    ofX(calc, MathFunctions::ArcSinh, "arcSinh");
+}
+
+void hyperbolicSecant(Engine& calc) {
+    ofX(calc, MathFunctions::Sech, "Sech");
+}
+
+void arcHyperbolicSecant(Engine& calc) {
+    ofX(calc, MathFunctions::ArcSech, "arcSech");
 }
 
 void hyperbolicTangent(Engine& calc) {
-    byMask(calc, kHyperbolicTangent);
+    ofX(calc, MathFunctions::Tanh, "Tanh");
 }
 
-void convertAngle(Engine& calc) {
-    byMask(calc, kAngleConversions);
+void arcHyperbolicTangent(Engine& calc) {
+    ofX(calc, MathFunctions::ArcTanh, "arcTanh");
 }
 
-void polarRectangular(Engine& calc) {
+void hyperbolicCotangent(Engine& calc) {
+    ofX(calc, MathFunctions::Coth, "Coth");
+}
+
+void arcHyperbolicCotangent(Engine& calc) {
+    ofX(calc, MathFunctions::ArcCoth, "ArcCoth");
+}
+
+void hyperbolicCosine(Engine& calc) {
+    ofX(calc, MathFunctions::Cosh, "Cosh");
+}
+
+void arcHyperbolicCosine(Engine& calc) {
+    ofX(calc, MathFunctions::ArcCosh, "ArcCosh");
+}
+
+void hyperbolicCosecant(Engine& calc) {
+    ofX(calc, MathFunctions::Csch, "Csch");
+}
+
+void arcHyperbolicCosecant(Engine& calc) {
+    ofX(calc, MathFunctions::ArcCsch, "ArcCsch");
+}
+
+void showRadiansToDegrees(Engine& calc) {
+    ofX(calc, MathFunctions::RadToDeg, "Deg");
+}
+
+void showDegreesToRadians(Engine& calc) {
+    ofX(calc, MathFunctions::DegToRad, "Rad");
+}
+
+void showDegreesToGrads(Engine& calc) {
+    ofX(calc, degreesToGrads, "Grad");
+}
+
+void showGradsToDegrees(Engine& calc) {
+    ofX(calc, gradsToDegrees, "Deg");
+}
+
+void showRadiansToGrads(Engine& calc) {
+    ofX(
+        calc, [](double radians) { return fromRadians(radians, AngleMode::Grads); }, "Grad");
+}
+
+void showGradsToRadians(Engine& calc) {
+    ofX(
+        calc, [](double grads) { return toRadians(grads, AngleMode::Grads); }, "Rad");
+}
+
+void polarToRectangular(Engine& calc) {
+    const auto point = MathFunctions::PolarToRect(calc.xNumber(), operandBelow(calc, 1), calc.s.format.Angle);
+    replaceWithPair(calc, 2, {point.jy, "P>R(jy)"}, {point.x, "P>R(x)"}, true);
+}
+
+void rectangularToPolar(Engine& calc) {
     const AngleMode mode = calc.s.format.Angle;
-    switch (calc.s.modifiers.ModifierMask) {
-        case 0: {
-            const auto point = MathFunctions::PolarToRect(calc.xNumber(), operandBelow(calc, 1), mode);
-            replaceWithPair(calc, 2, {point.jy, "P>R(jy)"}, {point.x, "P>R(x)"}, true);
-            break;
-        }
-        case kShift: {
-            const auto point = MathFunctions::RectToPolar(calc.xNumber(), operandBelow(calc, 1), mode);
-            replaceWithPair(calc, 2, {point.theta, ofUnit(kPolarAngle, mode)}, {point.r, "R>P(r)"}, true);
-            break;
-        }
-        default:
-            refuseModifiers(calc);
-    }
+    const auto point = MathFunctions::RectToPolar(calc.xNumber(), operandBelow(calc, 1), mode);
+    replaceWithPair(calc, 2, {point.theta, ofUnit(kPolarAngle, mode)}, {point.r, "R>P(r)"}, true);
 }
 
 }  // namespace tallyforge

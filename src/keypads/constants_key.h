@@ -9,14 +9,16 @@ namespace tallyforge {
 struct Keys;
 
 /// On the Convert keypad: picks a constant and keeps it, so that the next plain click multiplies X
-/// by it; Shift picks another, Alt also puts it into Register 2, Ctrl picks an SI prefix.
+/// by it; Shift picks another, Alt also puts it into Register 2.
 void constantsKey(Keys& keys);
 
-/// On the Tables keypad: picks one at each click, with the same modifiers, and keeps none.
-void constantsTableKey(Keys& keys);
+/// On the Tables keypad: picks one at each click.
+void pickConstant(Keys& keys);
+/// The same, and puts it into Register 2.
+void pickAndKeepConstant(Keys& keys);
 
-/// Densities; with Ctrl picks a specific gravity.
-void densityKey(Keys& keys);
+void pickPrefix(Keys& keys);
+void pickSpecificGravity(Keys& keys);
 
 /// A resistivity picked from the list of materials goes on the stack under its unit.
 void pickResistivity(Keys& keys);

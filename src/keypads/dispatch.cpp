@@ -2,6 +2,7 @@
 #include "keypads/dispatch.h"
 
 #include "engine/engine.h"
+#include "engine/results.h"
 #include "keypads/failure_messages.h"
 #include "keypads/keys.h"
 
@@ -10,12 +11,6 @@
 #include <utility>
 
 namespace tallyforge {
-
-namespace {
-
-constexpr int kPercentKey = 4;
-
-}  // namespace
 
 const KeyRow& Dispatch::row(int index) const {
     return keypadTable(calc.s.modes.ActiveKeypad).rows.at(static_cast<std::size_t>(index));
@@ -46,11 +41,11 @@ void Dispatch::cmdFunctions_Click(int index) {
     if (takenByMode(index)) {
         return;
     }
-    const bool foreign = s.modes.ActiveKeypad == Keypad::Percent && index != kPercentKey;
+    const bool foreign = s.modes.ActiveKeypad == Keypad::Percent && index != key::Percent;
     const KeyRow& key = row(index);
     if (key.types.plain != '\0' && !foreign) {
         typeWith(key);
-    } else if (key.does == nullptr || foreign) {
+    } else if (!key.built() || foreign) {
         passOver();
     } else {
         press(key);
@@ -63,7 +58,7 @@ void Dispatch::press(const KeyRow& key) {
     const auto whenFailed = [&](const Failure& failure) { onFailure(failure, key.key); };
     goOn(whenFailed, [&] {
         if (bringXUpToDate(key)) {
-            key.does(subjects);
+            run(key);
         } else {
             keepOperand();
         }
@@ -80,6 +75,14 @@ void Dispatch::press(const KeyRow& key) {
         leaveNothing(key.key);
     } else {
         commitResult();
+    }
+}
+
+void Dispatch::run(const KeyRow& key) {
+    if (const KeyFunction function = key.functionUnder(calc.s.modifiers.ModifierMask); function != nullptr) {
+        function(subjects);
+    } else {
+        refuseModifiers(calc);
     }
 }
 
@@ -220,8 +223,7 @@ void Dispatch::cmdFunctions_MouseDown(int index, MouseButton button, std::uint8_
         return;
     }
     // The letters of the drills are all one key's.
-    constexpr int kDrillKey = 21;
-    const KeyRow& key = row(calc.s.modes.ActiveKeypad == Keypad::LetterDrill ? kDrillKey : index);
+    const KeyRow& key = row(calc.s.modes.ActiveKeypad == Keypad::LetterDrill ? key::DrillBits : index);
     if (calc.s.modes.ProgramMode || calc.s.modes.MemoryArrayMode) {
         constexpr int kModesTopic = 650;
         calc.platform.helpTopic(kModesTopic);

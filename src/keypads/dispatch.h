@@ -42,6 +42,7 @@ public:
 private:
     [[nodiscard]] const KeyRow& row(int index) const;
     [[nodiscard]] bool takenByMode(int index);
+    void run(const KeyRow& key);
     void passOver();
     void typeWith(const KeyRow& key);
     void nameProcedure();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypads/failure_messages.h"
+#include "engine/key_names.h"
 #include "numbers/out_of_range.h"
 
 #include "platform/text.h"
@@ -8,8 +9,6 @@ namespace tallyforge {
 
 namespace {
 
-constexpr int kPowerKey = 5;
-constexpr int kBaseConversionKey = 6;
 constexpr int kOctalKey = 21;
 
 }  // namespace
@@ -20,13 +19,13 @@ std::string failureMessage(FailureNumber number, int index, const EngineState& s
             if (state.delivery.FnLabel == "ûx"_t) {
                 return "Illegal operation (square root of negitive number)!";
             }
-            return index == kPowerKey ? "Illegal operation - check for negitive numbers!" : "Error number 5";
+            return index == key::Power ? "Illegal operation - check for negitive numbers!" : "Error number 5";
         case FailureNumber::Overflow:
             // Kept from a numbering in which key 21 of the Convert keypad was the octal key.
             if (index == kOctalKey && state.modes.ActiveKeypad == Keypad::Convert) {
                 return "Octal number outside of range: 17777777777 octal maximum";
             }
-            if (index == kBaseConversionKey && state.modes.ActiveKeypad == Keypad::Binary && state.modes.BaseMode) {
+            if (index == key::ToBase && state.modes.ActiveKeypad == Keypad::Binary && state.modes.BaseMode) {
                 return state.stack.Xreg.isTagged() ? "Real number required!" : "Exceeded maximum number (1.845e19)!";
             }
             return std::string(kOutOfRange);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "engine/engine_state.h"
+#include "engine/key_names.h"
 #include "platform/form.h"
 
 #include <array>
@@ -18,20 +19,27 @@ namespace tallyforge {
 
 struct Keys;  // everything that a key's function may use (keys.h)
 
-/// A caption and the font that it is stored for. An empty text hides the key.
+using KeyFunction = void (*)(Keys&);
+
+/// A caption and the font that it is stored for; an empty text hides the key. Under modifiers it has
+/// the function beside it that the key has there.
 struct KeyCaption {
     std::string_view text{};
     Face face = Face::Arial;
     float points = 10.0F;
+    KeyFunction does = nullptr;
     // NOLINTBEGIN(google-explicit-constructor): rows read as plain captions
     constexpr KeyCaption() = default;
     constexpr KeyCaption(const char* caption) : text(caption) {}
     constexpr KeyCaption(std::string_view caption, Face font = Face::Arial, float size = 10.0F)
         : text(caption), face(font), points(size) {}
+    constexpr KeyCaption(std::string_view caption, KeyFunction function) : text(caption), does(function) {}
+    constexpr KeyCaption(std::string_view caption, Face font, KeyFunction function)
+        : text(caption), face(font), does(function) {}
     // NOLINTEND(google-explicit-constructor)
 };
 
-/// Captions under the seven masks; what is left out is invisible under that mask.
+/// Captions and functions under the seven masks; what is left out is invisible under that mask.
 struct CaptionsUnder {
     KeyCaption shift{};
     KeyCaption ctrl{};
@@ -84,13 +92,24 @@ struct KeyRow {
     int helpTopic = 0;
     /// A key that types, whatever keypad key it is, has no function of its own.
     TypedBy types{};
-    /// What the key does; nothing while it is not built yet.
-    void (*does)(Keys&) = nullptr;
+    /// What the key does where no function of its own stands under the modifiers: a key of several
+    /// inputs or a dialog, which takes the modifiers for the name of the input.
+    KeyFunction does = nullptr;
     /// Ctrl with the right button on a light blue key: chooses its units or material.
-    void (*choose)(Keys&) = nullptr;
+    KeyFunction choose = nullptr;
     /// The caption under a mask (0: plain) that a choice of the user's gives the key; none where the
     /// row's own stands.
     std::optional<KeyCaption> (*captionNow)(const Keys&, std::uint8_t mask) = nullptr;
+    /// What it does without modifiers; under modifiers the function stands beside its caption.
+    KeyFunction plain = nullptr;
+
+    /// Whether there is anything behind the key.
+    [[nodiscard]] constexpr bool built() const { return does != nullptr || plain != nullptr; }
+    /// nullptr where the modifiers have no meaning for the key.
+    [[nodiscard]] constexpr KeyFunction functionUnder(std::uint8_t mask) const {
+        const KeyFunction own = mask == 0 ? plain : under.at(mask).does;
+        return own != nullptr ? own : does;
+    }
 };
 
 struct KeypadTable {

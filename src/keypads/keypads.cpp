@@ -177,7 +177,7 @@ void Keypads::cmdEnter_Click() {
 }
 
 void Keypads::ClearPartialStates() {
-    calc.s.functions.FunctionResetMask = 0x7FFFFFFF;
+    calc.s.functions.FunctionResetMask = static_cast<std::uint32_t>(ResetBit::All);
     keys.conversions.reset();
     keys.electrical.clearPartialStates();
 }

@@ -41,4 +41,10 @@ struct Keys {
     ReferenceLists lists{calc};
 };
 
+/// A function of the engine alone, as a row takes it; `which` says what it is asked for.
+template <auto Function, auto... which>
+void on(Keys& keys) {
+    Function(keys.calc, which...);
+}
+
 }  // namespace tallyforge

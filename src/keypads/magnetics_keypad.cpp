@@ -7,7 +7,6 @@
 #include "electrical/bundle.h"
 #include "electrical/parameter_tables.h"
 #include "electrical/wire_keys.h"
-#include "functions/constants.h"
 #include "keypads/calculator_keys.h"
 #include "keypads/common_rows.h"
 #include "keypads/keypad_table.h"
@@ -39,6 +38,12 @@ std::optional<KeyCaption> wireCaption(const Keys& keys, std::uint8_t mask) {
     return mask == 0 ? std::optional<KeyCaption>(wireBuildCaption(keys.electrical.choices.build)) : std::nullopt;
 }
 
+/// A function of the wire that is chosen.
+template <auto Function, auto... which>
+void ofWire(Keys& keys) {
+    Function(keys.calc, keys.electrical.choices.build, which...);
+}
+
 }  // namespace
 
 const KeypadTable kMagneticsKeypad{
@@ -48,34 +53,22 @@ const KeypadTable kMagneticsKeypad{
         reciprocalRow(1830),
         squareRow(1801),
         squareRootRow(1802),
-        {.key = 3,
-         .caption = {"p", Face::Symbol},
-         .tip =
-             " Click: pi (P key) | Ctrl+: pi² (Ctrl+P key) | Alt+: pi^(1/3) | Ctrl+Alt+: 2pi (Sh+Ctrl+P key) | Shift+key+ = reciprocal "_t,
-         .under = {.shift = {"1/p", Face::Symbol},
-                   .ctrl = "sqrd",
-                   .shiftCtrl = "sqrd",
-                   .alt = "cube root",
-                   .shiftAlt = "1/ C.R.",
-                   .ctrlAlt = {"2p", Face::Symbol},
-                   .all = {" 1/ 2p", Face::Symbol}},
-         .helpTopic = 1803,
-         .does = [](Keys& keys) { piConstant(keys.calc); }},
-        {.key = 4,
+        piRow(1803, "sqrd", kPiTip),
+        {.key = key::PowderLoss,
          .caption = "Pc",
          .tip = " MPP Core Loss: perm [Alt+Click] | Freq(KHz) [Ctrl+] | B(g) [Click] | Recalc. [Shift+key+] ",
          .under = {.shift = "B(g)", .ctrl = "F", .shiftCtrl = "F", .alt = {"µ"_t}, .shiftAlt = {"µ"_t}},
          .silentOperand = true,
          .helpTopic = 1804,
          .does = [](Keys& keys) { keys.electrical.cores.powderLoss(); }},
-        {.key = 5,
+        {.key = key::InductanceByTurns,
          .caption = {"Ln²"_t},
          .tip = " L vs n² ({CoreLo}) - Click: Calculator | Shift+click: L{CoreL} | Ctrl+Click: n | Alt+Click: Lo "_t,
          .colour = KeyColour::Yellow,
          .under = {.shift = "L", .ctrl = "n", .alt = "Lo"},
          .helpTopic = 1805,
          .does = [](Keys& keys) { openCalculator(keys, kInductanceByTurns); }},
-        {.key = 6,
+        {.key = key::InductanceByPermeability,
          .caption = {"Lµ"_t},
          .tip =
              " L vs µ - Click: Calculator | : Shift+Click: L({LmuL}) | Ctrl+click: n | Alt+Click: Ae({LmuAe}) | Ctrl+Alt+: le({LmuLe}) | Shift+Ctrl+Alt: µ "_t,
@@ -83,7 +76,7 @@ const KeypadTable kMagneticsKeypad{
          .under = {.shift = "L", .ctrl = "n", .alt = "Ae", .ctrlAlt = "le", .all = {"µ"_t}},
          .helpTopic = 1806,
          .does = [](Keys& keys) { openCalculator(keys, kInductanceByPermeability); }},
-        {.key = 7,
+        {.key = key::FluxDensity,
          .caption = "Bm",
          .tip =
              " Flux Density ({MagB}) - Click: Calculator | Shift+Click: Bm |  Ctrl+Click: n | Alt+: Ae({MagAe}) | Ctrl+Alt+: F({MagWave}{MagF}) | Shift+Ctrl+Alt+: E "_t,
@@ -91,14 +84,14 @@ const KeypadTable kMagneticsKeypad{
          .under = {.shift = "Bm", .ctrl = "n", .alt = "Ae", .ctrlAlt = "F", .all = "E"},
          .helpTopic = 1807,
          .does = [](Keys& keys) { openCalculator(keys, kFluxDensity); }},
-        {.key = 8,
+        {.key = key::VoltSecondTurns,
          .caption = {"Nø"_t},
          .tip = " Volt-Secs turns: Øt [Click] | n [Ctrl+] | V-S [Alt+] | Recalc [Shift+key+] "_t,
          .under = {.shift = {"Øt"_t}, .ctrl = "n", .shiftCtrl = "n", .alt = "V-S", .shiftAlt = "V-S"},
          .silentOperand = true,
          .helpTopic = 1808,
          .does = [](Keys& keys) { keys.electrical.flux.voltSecondTurns(); }},
-        {.key = 9,
+        {.key = key::FluxCapacity,
          .caption = {"Øt"_t},
          .tip =
              " flux capacity: Øt [Click] | n [Ctrl+] | F(Hz) [Alt+] | E(v) [Ctrl+Alt+] | Recalc [Shift+key+Click] "_t,
@@ -112,13 +105,13 @@ const KeypadTable kMagneticsKeypad{
          .silentOperand = true,
          .helpTopic = 1809,
          .does = [](Keys& keys) { keys.electrical.flux.fluxCapacity(); }},
-        {.key = 10,
+        {.key = key::FluxAndDensity,
          .caption = {"Ø-B"_t},
          .tip = " Øt<>Bm: Ae [^] | Øt [Click] | Bm [Shift+Click] "_t,
-         .under = {.shift = "Bm"},
+         .under = {.shift = {"Bm", on<fluxOfDensity>}},
          .helpTopic = 1810,
-         .does = [](Keys& keys) { fluxAndDensity(keys.calc); }},
-        {.key = 11,
+         .plain = on<densityOfFlux>},
+        {.key = key::Quality,
          .caption = "Q",
          .tip =
              " Calc Q (Rt Click for µ & cd): Freq({CoreQF}) [Click] | Rdc [Ctrl+] | Ind ({CoreQL}) [Alt+] | Flux Density (Bm) [Alt+Ctrl+] | Recalc. [Shift+key+] "_t,
@@ -142,7 +135,7 @@ const KeypadTable kMagneticsKeypad{
                                   .saveUnits = keys.saveUnits})
                      .ask();
              }},
-        {.key = 12,
+        {.key = key::MeanTurn,
          .caption = "mtl",
          .tip = "{LmuCoreTip}",
          .colour = KeyColour::Blue,
@@ -152,7 +145,7 @@ const KeypadTable kMagneticsKeypad{
          .does = [](Keys& keys) { keys.electrical.coils.meanTurn(); },
          .choose = [](Keys& keys) { ParameterDialog(keys.calc, kMTLTable, {.saveUnits = keys.saveUnits}).ask(); },
          .captionNow = meanTurnCaption},
-        {.key = 13,
+        {.key = key::Solenoid,
          .caption = "Ls",
          .tip =
              " Inductance of a single-layer air-core solenoid, in {MagLen}: length [Ctrl+Alt+Click] | radius [Alt+Click] | n [Ctrl+Click] | Ls(µH) [Click] | recalc. [Shift+key+Click] "_t,
@@ -168,36 +161,36 @@ const KeypadTable kMagneticsKeypad{
          .helpTopic = 1813,
          .does = [](Keys& keys) { keys.electrical.coils.solenoid(); },
          .choose = [](Keys& keys) { ParameterDialog(keys.calc, kLsTable, {.saveUnits = keys.saveUnits}).ask(); }},
-        {.key = 14,
+        {.key = key::WireResistance,
          .caption = {"W", Face::Symbol},
          .tip = "AWG[^]: Ohms/ft, Click | Ohms/in, Shift+ | Ohms/m, Ctrl+ | Ohms/cm, Alt+ | Ohms/mm, Sh+Ctrl | "
                 "Ohms/1000 ft, Sh+Alt | Ohms/lb, Alt+Ctrl | g/Ohm, Sh+Alt+Ctrl",
-         .under = {.shift = "ohm /in",
-                   .ctrl = "ohm /m",
-                   .shiftCtrl = "ohm /mm",
-                   .alt = "ohm /cm",
-                   .shiftAlt = "om/ 1000'",
-                   .ctrlAlt = "ohm /lb",
-                   .all = " g/ ohm"},
+         .under = {.shift = {"ohm /in", on<wireResistance, WireLength::Inch>},
+                   .ctrl = {"ohm /m", on<wireResistance, WireLength::Metre>},
+                   .shiftCtrl = {"ohm /mm", on<wireResistance, WireLength::Millimetre>},
+                   .alt = {"ohm /cm", on<wireResistance, WireLength::Centimetre>},
+                   .shiftAlt = {"om/ 1000'", on<wireResistance, WireLength::ThousandFeet>},
+                   .ctrlAlt = {"ohm /lb", on<resistancePerPound>},
+                   .all = {" g/ ohm", on<gramsPerOhm>}},
          .helpTopic = 1814,
-         .does = [](Keys& keys) { wireResistance(keys.calc); }},
-        {.key = 15,
+         .plain = on<wireResistance, WireLength::Foot>},
+        {.key = key::WireSize,
          .caption = " S \nAWG",
          .tip = "CMAi to AWG: Click | AWG to: CMAi, Shift+ | to CMAb, Ctrl+ | to lbs/ft, Sh+Ctrl | to Dia(in), Alt | "
                 "to Dia(mm), Alt+Ctrl | Dia(in) to AWG: Sh+Alt | Dia(mm) to AWG: Sh+Alt+Ctrl",
          .colour = KeyColour::Blue,
-         .under = {.shift = "awg: cmi",
-                   .ctrl = "bare",
-                   .shiftCtrl = "lbs /ft",
-                   .alt = "awg: dia\"",
-                   .shiftAlt = "dia\": awg",
-                   .ctrlAlt = "awg: mm",
-                   .all = "mm: awg"},
+         .under = {.shift = {"awg: cmi", ofWire<gaugeToArea>},
+                   .ctrl = {"bare", on<gaugeToBareArea>},
+                   .shiftCtrl = {"lbs /ft", on<gaugeToWeight>},
+                   .alt = {"awg: dia\"", ofWire<gaugeToInches>},
+                   .shiftAlt = {"dia\": awg", ofWire<inchesToGauge>},
+                   .ctrlAlt = {"awg: mm", ofWire<gaugeToMillimetres>},
+                   .all = {"mm: awg", ofWire<millimetresToGauge>}},
          .helpTopic = 1815,
-         .does = [](Keys& keys) { wireSize(keys.calc, keys.electrical.choices.build); },
          .choose = [](Keys& keys) { askWireBuild(keys.calc, keys.electrical.choices.build); },
-         .captionNow = wireCaption},
-        {.key = 16,
+         .captionNow = wireCaption,
+         .plain = ofWire<areaToGauge>},
+        {.key = key::CCore,
          .caption = "'C'",
          .tip = " C Core Calculator ({CoreDimension}): D [Shift+Click] | E [Ctrl+Click] | F [Alt+Click] | G "
                 "[Ctrl+Alt+Click] ",
@@ -205,7 +198,7 @@ const KeypadTable kMagneticsKeypad{
          .under = {.shift = "D", .ctrl = "E", .alt = "F", .ctrlAlt = "G"},
          .helpTopic = 1816,
          .does = [](Keys& keys) { openCalculator(keys, kCCore); }},
-        {.key = 17,
+        {.key = key::PermeabilityAtFlux,
          .caption = {"Bµ"_t},
          .tip =
              " MPP Effective permeability vs AC flux: µ [Alt+Click], B(g) [Click] | Recalc [Shift+] // Lf: Ae [^], le [/]  n [Ctrl+Click] | Recalc, n [Shift+Ctrl] "_t,
@@ -213,7 +206,7 @@ const KeypadTable kMagneticsKeypad{
          .silentOperand = true,
          .helpTopic = 1817,
          .does = [](Keys& keys) { keys.electrical.cores.permeabilityAtFlux(); }},
-        {.key = 18,
+        {.key = key::PermeabilityByLo,
          .caption = {"µe"_t},
          .tip =
              " Permeability vs Lo: lo [Click], | le [ctrl+Click] | Ae [Alt+] | µe [Ctrl+Alt+] | Recalc. [Shift+key+] "_t,
@@ -227,28 +220,33 @@ const KeypadTable kMagneticsKeypad{
          .silentOperand = true,
          .helpTopic = 1818,
          .does = [](Keys& keys) { keys.electrical.cores.permeabilityByLo(); }},
-        {.key = 19,
+        {.key = key::Bundle,
          .caption = "dia",
          .tip = " # of wires [^], Wire dia [Click] | magnet wire AWG [Shift+] | Insulated (PTFE) AWG [Ctrl+ ] ",
-         .under = {.shift = "awg mag", .ctrl = " awg Ins", .alt = "scr #"},
+         .under = {.shift = {"awg mag", ofWire<bundleDiameter, Strand::MagnetGauge>},
+                   .ctrl = {" awg Ins", ofWire<bundleDiameter, Strand::InsulatedGauge>},
+                   .alt = {"scr #", ofWire<bundleDiameter, Strand::ScrewSize>}},
          .helpTopic = 1819,
-         .does = [](Keys& keys) { bundleDiameter(keys.calc, keys.electrical.choices.build); }},
-        {.key = 20,
+         .plain = ofWire<bundleDiameter, Strand::Diameter>},
+        {.key = key::HalfWaves,
          .caption = "v-s",
          .tip = "SINE: F(Hz) [^], E to V-S [Click] |  F [^], V-S to E [Shift+] | V-S [^], E to F [Alt+] // SQR: F [^], "
                 "E to V-S [Ctrl+] | F [^], V-S to E [Shift+Ctrl+] | V-S [^], E to F [Alt+Ctrl+] ",
-         .under =
-             {.shift = "vs: Esat", .ctrl = "Esat :vs", .shiftCtrl = "vs: Esat", .alt = "Esat :F", .ctrlAlt = "Esat :F"},
+         .under = {.shift = {"vs: Esat", on<halfWave, HalfWave::SineVolts>},
+                   .ctrl = {"Esat :vs", on<halfWave, HalfWave::SquareVoltSeconds>},
+                   .shiftCtrl = {"vs: Esat", on<halfWave, HalfWave::SquareVolts>},
+                   .alt = {"Esat :F", on<halfWave, HalfWave::SineHertz>},
+                   .ctrlAlt = {"Esat :F", on<halfWave, HalfWave::SquareHertz>}},
          .helpTopic = 1820,
-         .does = [](Keys& keys) { voltSecondsOfWave(keys.calc); }},
-        {.key = 21,
+         .plain = on<halfWave, HalfWave::SineVoltSeconds>},
+        {.key = key::PermeabilityUnderField,
          .caption = {"Hµ"_t},
          .tip = " MPP Effective permeability vs DC bias: perm [Ctrl+Click] | H [Click] | Recalc [Shift+key+] ",
          .under = {.shift = "H", .ctrl = {"µ"_t}, .shiftCtrl = "prm"},
          .silentOperand = true,
          .helpTopic = 1821,
          .does = [](Keys& keys) { keys.electrical.cores.permeabilityUnderField(); }},
-        {.key = 22,
+        {.key = key::MagnetizingForce,
          .caption = "H",
          .tip = " Magnetizing Force ({MagH}) - Click: Calculator  | Shift+Click: H | Ctrl+Click: n | Alt+Click: "
                 "I({MagI}) | Ctrl+Alt+Click: le({MagLe})",
@@ -256,7 +254,7 @@ const KeypadTable kMagneticsKeypad{
          .under = {.shift = "H", .ctrl = "n", .alt = "I", .ctrlAlt = "le"},
          .helpTopic = 1822,
          .does = [](Keys& keys) { openCalculator(keys, kMagnetizingForce); }},
-        {.key = 23,
+        {.key = key::FerriteLoss,
          .caption = "PL",
          .tip = " Ferrite Core Loss (Ctrl+Rt-Click to Input Matl): Freq (KHz) [Ctrl+Click] | Flux Density, B(g) "
                 "[Click] | Recalc [Shift+key+Click] ",

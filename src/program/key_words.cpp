@@ -5,6 +5,7 @@
 #include "desk/reset_key.h"
 #include "engine/engine.h"
 #include "numbers/number_format.h"
+#include "platform/borrowed.h"
 #include "platform/form_input.h"
 
 #include <utility>
@@ -27,13 +28,10 @@ void KeyWords::DoProgramWord(const FunctionWord& word, int registerNumber) {
 
 void KeyWords::PressProgramKey(Keypad keypad, int index) {
     EngineState& s = calc.s;
-    const bool programMode = std::exchange(s.modes.ProgramMode, false);
-    const bool quiz = std::exchange(s.modes.QuizMode, true);
-    const Keypad active = std::exchange(s.modes.ActiveKeypad, keypad);
+    const Borrowed programMode{s.modes.ProgramMode, false};
+    const Borrowed quiz{s.modes.QuizMode, true};
+    const Borrowed active{s.modes.ActiveKeypad, keypad};
     parts.keypads.cmdFunctions_Click(index);
-    s.modes.ActiveKeypad = active;
-    s.modes.ProgramMode = programMode;
-    s.modes.QuizMode = quiz;
 }
 
 void KeyWords::pressDirect(DirectKey key, int registerNumber) {

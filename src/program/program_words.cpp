@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/program_words.h"
 
+#include "engine/key_names.h"
+
 #include <algorithm>
 #include <array>
 
@@ -23,11 +25,11 @@ constexpr std::array<StatementRow, 27> kStatements{{
 constexpr FunctionWord direct(std::string_view word, DirectKey key) {
     return {.word = word, .direct = key};
 }
-constexpr FunctionWord standard(std::string_view word, int key, int mask = kMaskAsItStands) {
-    return {.word = word, .keypad = Keypad::Standard, .key = key, .mask = mask};
+constexpr FunctionWord standard(std::string_view word, int index, int mask = kMaskAsItStands) {
+    return {.word = word, .keypad = Keypad::Standard, .key = index, .mask = mask};
 }
-constexpr FunctionWord trig(std::string_view word, int key, int mask = kMaskAsItStands) {
-    return {.word = word, .keypad = Keypad::Trigonometry, .key = key, .mask = mask};
+constexpr FunctionWord trig(std::string_view word, int index, int mask = kMaskAsItStands) {
+    return {.word = word, .keypad = Keypad::Trigonometry, .key = index, .mask = mask};
 }
 
 constexpr std::array kFunctions{
@@ -53,57 +55,57 @@ constexpr std::array kFunctions{
     direct("-", DirectKey::Subtract),
     direct("+", DirectKey::Add),
 
-    standard("1/x", 0),
-    standard("sqr", 1),
-    standard("sqrt", 2),
-    standard("pi", 3),
-    standard("^", 5),
-    standard("rnd", 11),
-    standard("int", 11, 1),
-    standard("frc", 11, 2),
-    standard("p>r", 12),
-    standard("r>p", 12, 1),
-    standard("ln", 14),
-    standard("aln", 14, 1),
-    standard("log", 15),
-    standard("alog", 15, 1),
-    standard("n!", 23, 0),
-    standard("n.!", 23, 1),
-    standard("gamma", 23, 2),
+    standard("1/x", key::Reciprocal),
+    standard("sqr", key::Square),
+    standard("sqrt", key::SquareRoot),
+    standard("pi", key::Pi),
+    standard("^", key::Power),
+    standard("rnd", key::Round),
+    standard("int", key::Round, 1),
+    standard("frc", key::Round, 2),
+    standard("p>r", key::Polar),
+    standard("r>p", key::Polar, 1),
+    standard("ln", key::NaturalLog),
+    standard("aln", key::NaturalLog, 1),
+    standard("log", key::CommonLog),
+    standard("alog", key::CommonLog, 1),
+    standard("n!", key::Factorial, 0),
+    standard("n.!", key::Factorial, 1),
+    standard("gamma", key::Factorial, 2),
 
-    trig("m>d", 4),
-    trig("d>m", 4, 1),
-    trig("h+m", 4, 2),
-    trig("sinh", 6),
-    trig("asinh", 6, 1),
-    trig("sech", 6, 2),
-    trig("asech", 6, 3),
-    trig("sec", 7),
-    trig("asec", 7, 1),
-    trig("cot", 9),
-    trig("acot", 9, 1),
-    trig("csc", 10),
-    trig("acsc", 10, 1),
-    trig("r>d", 16),
-    trig("d>r", 16, 1),
-    trig("d>g", 16, 2),
-    trig("g>d", 16, 3),
-    trig("r>g", 16, 4),
-    trig("g>r", 16, 5),
-    trig("tanh", 17),
-    trig("atanh", 17, 1),
-    trig("coth", 17, 2),
-    trig("acoth", 17, 3),
-    trig("cosh", 18),
-    trig("acosh", 18, 1),
-    trig("csch", 18, 2),
-    trig("acsch", 18, 3),
-    trig("tan", 20),
-    trig("atan", 20, 1),
-    trig("cos", 21),
-    trig("acos", 21, 1),
-    trig("sin", 22),
-    trig("asin", 22, 1),
+    trig("m>d", key::Hours),
+    trig("d>m", key::Hours, 1),
+    trig("h+m", key::Hours, 2),
+    trig("sinh", key::HyperbolicSine),
+    trig("asinh", key::HyperbolicSine, 1),
+    trig("sech", key::HyperbolicSine, 2),
+    trig("asech", key::HyperbolicSine, 3),
+    trig("sec", key::Secant),
+    trig("asec", key::Secant, 1),
+    trig("cot", key::Cotangent),
+    trig("acot", key::Cotangent, 1),
+    trig("csc", key::Cosecant),
+    trig("acsc", key::Cosecant, 1),
+    trig("r>d", key::AngleUnits),
+    trig("d>r", key::AngleUnits, 1),
+    trig("d>g", key::AngleUnits, 2),
+    trig("g>d", key::AngleUnits, 3),
+    trig("r>g", key::AngleUnits, 4),
+    trig("g>r", key::AngleUnits, 5),
+    trig("tanh", key::HyperbolicTangent),
+    trig("atanh", key::HyperbolicTangent, 1),
+    trig("coth", key::HyperbolicTangent, 2),
+    trig("acoth", key::HyperbolicTangent, 3),
+    trig("cosh", key::HyperbolicCosine),
+    trig("acosh", key::HyperbolicCosine, 1),
+    trig("csch", key::HyperbolicCosine, 2),
+    trig("acsch", key::HyperbolicCosine, 3),
+    trig("tan", key::Tangent),
+    trig("atan", key::Tangent, 1),
+    trig("cos", key::Cosine),
+    trig("acos", key::Cosine, 1),
+    trig("sin", key::Sine),
+    trig("asin", key::Sine, 1),
 };
 
 }  // namespace

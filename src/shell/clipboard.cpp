@@ -69,7 +69,7 @@ void Clipboard::take(const std::string& clipped) {
     const ValueCell before = std::exchange(s.stack.Xreg, withoutMargins(clipped));
     const auto report = [&](const Failure& failure) {
         if (failure.number() != FailureNumber::TypeMismatch) {
-            calc.errorBox(BoxKind::Notice, "Error number " + std::to_string(failure.code()) + "!");
+            calc.reportNumber(failure);
         }
     };
     const bool isNumber = goOn(report, [&] { s.stack.Xnum = calc.xNumber(); });

@@ -9,7 +9,7 @@
 namespace tallyforge {
 namespace {
 
-constexpr std::uint32_t kResetBit = 1024;
+constexpr std::uint32_t kResetBit = static_cast<std::uint32_t>(ResetBit::ParallelResistors);
 
 constexpr KeyInput kInputs[] = {{.mask = 0, .bit = 1, .label = "RT"},
                                 {.mask = kCtrl, .bit = 2, .label = "R1"},
@@ -59,7 +59,11 @@ protected:
     MultiInput::Outcome press(std::uint8_t mask, std::string_view typed = {}) { return pressKeyOf(key, mask, typed); }
     std::string line(std::size_t backwards) const { return calc.tape.row(calc.tape.count() - backwards); }
 
-    MultiInput key{calc, {.resetLabel = "Reset RT", .resetBit = kResetBit, .inputs = kInputs, .solutions = kSolutions}};
+    MultiInput key{calc,
+                   {.resetLabel = "Reset RT",
+                    .resetBit = ResetBit::ParallelResistors,
+                    .inputs = kInputs,
+                    .solutions = kSolutions}};
     using Outcome = MultiInput::Outcome;
 };
 

@@ -105,5 +105,24 @@ TEST_F(KeypadTables, KeysThatWriteTheTapeThemselvesTakeTheirOperandSilently) {
     }
 }
 
+TEST_F(KeypadTables, EveryCaptionOfAKeyWithAFunctionAMaskHasItsFunction) {
+    constexpr std::uint8_t kLastMask = 7;
+    int rows = 0;
+    for (const KeypadTable* table : keypadTables()) {
+        for (const KeyRow& row : table->rows) {
+            for (std::uint8_t mask = 1; mask <= kLastMask; ++mask) {
+                const KeyCaption& under = row.under.at(mask);
+                EXPECT_TRUE(row.does == nullptr || row.plain == nullptr)
+                    << table->name << " " << row.key << ": one way or the other";
+                EXPECT_EQ(row.functionUnder(mask), under.does != nullptr ? under.does : row.does);
+                EXPECT_TRUE(under.text.empty() || row.functionUnder(mask) != nullptr || row.types.shift != '\0')
+                    << table->name << " " << row.key << " under " << static_cast<int>(mask);
+            }
+            rows += row.plain != nullptr ? 1 : 0;
+        }
+    }
+    EXPECT_GT(rows, 70);
+}
+
 }  // namespace
 }  // namespace tallyforge

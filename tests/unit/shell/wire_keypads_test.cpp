@@ -12,6 +12,18 @@
 namespace tallyforge {
 namespace {
 
+/// What the key of wire sizes does, by the modifiers.
+constexpr std::array<void (*)(Engine&, WireBuild), 8> kSizes{
+    areaToGauge,
+    gaugeToArea,
+    [](Engine& calc, WireBuild) { gaugeToBareArea(calc); },
+    [](Engine& calc, WireBuild) { gaugeToWeight(calc); },
+    gaugeToInches,
+    inchesToGauge,
+    gaugeToMillimetres,
+    millimetresToGauge,
+};
+
 constexpr std::array kBuilds{WireBuild::Single, WireBuild::Heavy, WireBuild::Triple, WireBuild::Quad};
 
 class WireKeypads : public BankAtHand {
@@ -21,9 +33,7 @@ protected:
     void size(WireBuild build, const char* number, std::uint8_t mask) {
         platform.boxes.clear();
         put({number});
-        s().modifiers.ModifierMask = mask;
-        wireSize(calc(), build);
-        s().modifiers.ModifierMask = 0;
+        kSizes.at(mask)(calc(), build);
         label_ = s().delivery.FnLabel;
         calc().commit.cmdEnter_Click();
         calc().display.RestoreDisplay();
