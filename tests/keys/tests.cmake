@@ -13,3 +13,6 @@ add_test(NAME readme_session COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_rea
 # The program around the scripts: its options and exit statuses.
 add_test(NAME keys_program
          COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/keys_program_test $<TARGET_FILE:tallyforge-keys>)
+
+# What a tip says to press is pressed by a script.
+add_test(NAME tips_tried COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_tips)
