@@ -5,6 +5,7 @@
 #include "dialogs/conversion.h"
 #include "dialogs/dialog_support.h"
 #include "engine/engine.h"
+#include "platform/borrowed.h"
 #include "platform/key_codes.h"
 
 #include <algorithm>
@@ -157,9 +158,10 @@ std::optional<FoundUnits> FindUnitDialog::ask() {
     txtFind.caret = 0;
     rows_.search({});
     setFocus(txtFind);
-    calc.dialogOpen = true;
-    calc.platform.showDialog(*this);
-    calc.dialogOpen = false;
+    {
+        const Borrowed opened{calc.dialogOpen, true};
+        calc.platform.showDialog(*this);
+    }
     const FoundUnits* const chosen = agreed_ ? rows_.chosen() : nullptr;
     return chosen == nullptr ? std::nullopt : std::optional{*chosen};
 }

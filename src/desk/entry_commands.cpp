@@ -192,10 +192,9 @@ void EntryCommands::doubleOrHalve(int key) {
         return;
     }
     s.CurrentProc = "txtXreg";
-    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
     constexpr double kLargestToDouble = 1.7976931348623157e308 / 2.0;
     double value = 0.0;
-    const bool read = goOn(report, [&] {
+    const bool read = goOn(calc, [&] {
         value = calc.xNumber();
         if (doubles && (value > kLargestToDouble || value < -kLargestToDouble)) {
             throw Failure{FailureNumber::Overflow};

@@ -22,7 +22,10 @@ constexpr int kOldestVersion = 8;
 constexpr int kCompactRows = 5;
 constexpr int kNoticeLimit = 7;
 constexpr std::string_view kTipsOption = "Show Tips at Startup";
-constexpr std::string_view kPlaceNotSaved = "Philosopher ";
+constexpr std::size_t kTopDigits = 5;
+constexpr std::size_t kLeftDigits = 6;
+/// A longer name is kept, and not read.
+constexpr std::size_t kProgramNameRead = 31;
 
 /// Keypads in the order of their option bits.
 constexpr std::array<Keypad, 6> kKeypadBits{Keypad::Standard, Keypad::Engineering, Keypad::Trigonometry,
@@ -116,11 +119,7 @@ bool LifeCycle::findSettings() {
                 "There is a missing or corrupt file! Remove and reinstall the software, or see the help on support.");
         startAfresh();
     };
-    return goOn(missing, [&] {
-        for (int number = 1; number <= SettingsFile::kRecords; ++number) {
-            static_cast<void>(settings.read(number));
-        }
-    });
+    return goOn(missing, [&] { static_cast<void>(settings.read()); });
 }
 
 void LifeCycle::firstStart() {
@@ -151,8 +150,8 @@ void LifeCycle::startAfresh() {
 }
 
 void LifeCycle::readFirstRecord() {
-    const SettingsRecord record = settings.read(1);
-    const std::string version = record.textA(29, 2);
+    const SettingsRecords records = settings.read();
+    const std::string version = records.text(Setting::DataVersion);
     if (numberIn(version, 0) < kOldestVersion) {
         endWith("Version Conflict!",
                 "You must uninstall the previous version \ncompletely, then reinstall the new version.");
@@ -162,73 +161,66 @@ void LifeCycle::readFirstRecord() {
         }
         return;
     }
-    calc.s.files.TapeFileName = withoutTrailingBlanks(record.textB(3, 25));
-    calc.s.files.MemoryFileName = withoutTrailingBlanks(record.textB(28, 25));
+    calc.s.files.TapeFileName = withoutTrailingBlanks(records.text(Setting::TapeFile));
+    calc.s.files.MemoryFileName = withoutTrailingBlanks(records.text(Setting::RegisterFile));
 }
 
 void LifeCycle::readOptions() {
     EngineState& s = calc.s;
-    const SettingsRecord record = settings.read(2);
-    std::string tax = record.textB(48, 5);
+    const SettingsRecords records = settings.read();
+    std::string tax = records.text(Setting::TaxRate);
     std::replace(tax.begin(), tax.end(), '.', s.format.DecimalChar);
     constexpr double kUsualTax = 7.75;
     s.functions.TaxRate = static_cast<float>(tryReadNumber(tax, s.format.DecimalChar).value_or(kUsualTax));
-    onTopAtStart_ = record.textA(1, 1) == "E";
-    calc.form.mnuPosition.checked = record.textA(41, 1) == "S";
-    calc.form.mnuLoad.checked = record.textA(11, 1) == "S";
+    onTopAtStart_ = records.text(Setting::OnTop) == "E";
+    calc.form.mnuPosition.checked = records.text(Setting::KeepsPosition).front() == 'S';
+    calc.form.mnuLoad.checked = records.text(Setting::LoadsProgram) == "S";
     s.files.AutoLoadProgram = calc.form.mnuLoad.checked;
 }
 
 void LifeCycle::readProgramAndPlace() {
     EngineState& s = calc.s;
-    const SettingsRecord record = settings.read(3);
+    const SettingsRecords records = settings.read();
     // By its name only: a record that names another folder was not written by this program.
-    s.files.DefaultProgram = bareName(withoutTrailingBlanks(record.textA(1, 31)));
+    s.files.DefaultProgram =
+        bareName(withoutTrailingBlanks(records.text(Setting::DefaultProgram).substr(0, kProgramNameRead)));
     s.window.SavedTop = 0;
     s.window.SavedLeft = 0;
     if (calc.form.mnuPosition.checked) {
-        s.window.SavedTop = numberIn(record.textB(1, 5), 0);
-        s.window.SavedLeft = numberIn(record.textB(7, 6), 0);
+        const std::string place = records.text(Setting::WindowPlace);
+        s.window.SavedTop = numberIn(place.substr(0, kTopDigits), 0);
+        s.window.SavedLeft = numberIn(place.substr(kTopDigits + 1), 0);
     }
     s.window.LastTop = s.window.SavedTop;
     s.window.LastLeft = s.window.SavedLeft;
     calc.form.place.top = s.window.SavedTop;
     calc.form.place.left = s.window.SavedLeft;
-    const int word = numberIn(record.textA(42, 2), 64);
+    const int word = numberIn(records.text(Setting::WordSize), 64);
     s.format.WordSize = word >= 4 && word <= 64 ? word : 64;
 }
 
 void LifeCycle::readView() {
     EngineState& s = calc.s;
-    const SettingsRecord record = settings.read(2);
-    s.window.TallForm = record.option(option_bit::kTall);
-    int digits = 0;
+    const SettingsRecords records = settings.read();
+    s.window.TallForm = records.on(Setting::Tall);
     // A word without a digits bit, which this program never writes, gives one digit more than the key takes.
-    while (digits <= kMaxDisplayDigits && !record.option(option_bit::kDigits + digits)) {
-        ++digits;
-    }
+    const int digits = records.chosen(Setting::Digits).value_or(kMaxDisplayDigits + 1);
     s.format.DisplayDigits = digits;
     s.format.SavedDigits = digits;
-    s.window.ShowLastxField = record.option(option_bit::kLastxField);
-    s.window.ShowYField = record.option(option_bit::kYField);
-    s.modifiers.NoKeyPaint = record.option(option_bit::kNoKeyPaint);
+    s.window.ShowLastxField = records.on(Setting::LastxField);
+    s.window.ShowYField = records.on(Setting::YField);
+    s.modifiers.NoKeyPaint = records.on(Setting::NoKeyPaint);
     calc.form.mnuSkins.checked = !s.modifiers.NoKeyPaint;
-    setAngle(record.option(option_bit::kDegrees) ? AngleMode::Degrees
-             : record.option(option_bit::kGrads) ? AngleMode::Grads
-                                                 : AngleMode::Radians);
-    DisplayMode mode = DisplayMode::Fixed;
-    for (const DisplayMode candidate : {DisplayMode::Engineering, DisplayMode::Scientific, DisplayMode::Fixed}) {
-        mode = record.option(option_bit::kMode + static_cast<int>(candidate)) ? candidate : mode;
-    }
+    setAngle(records.on(Setting::Degrees) ? AngleMode::Degrees
+             : records.on(Setting::Grads) ? AngleMode::Grads
+                                          : AngleMode::Radians);
+    const auto mode = static_cast<DisplayMode>(records.chosen(Setting::Mode).value_or(0));
     calc.display.optFix_Click(mode);
     s.format.RememberedMode = mode;
-    Keypad keypad = Keypad::Standard;
-    for (std::size_t i = kKeypadBits.size(); i-- > 0;) {
-        keypad = record.option(option_bit::kKeypad + static_cast<int>(i)) ? kKeypadBits.at(i) : keypad;
-    }
-    calc.keypads().ShowKeypad(keypad);
+    calc.keypads().ShowKeypad(
+        kKeypadBits.at(static_cast<std::size_t>(records.chosen(Setting::ShownKeypad).value_or(0))));
     calc.display.writeDigitsCaption();
-    s.window.ViewExtended = record.option(option_bit::kViewPlain);
+    s.window.ViewExtended = records.on(Setting::ViewPlain);
     viewKeys.cmdView_Click();
 }
 
@@ -258,9 +250,8 @@ void LifeCycle::Form_Deactivate() {
 }
 
 template <typename Change>
-void LifeCycle::changeRecord(int number, Change change) {
-    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
-    goOn(report, [&] { settings.change(number, change); });
+void LifeCycle::changeSettings(Change change) {
+    goOn(calc, [&] { settings.change(change); });
 }
 
 void LifeCycle::Form_Unload() {
@@ -268,38 +259,32 @@ void LifeCycle::Form_Unload() {
     s.CurrentProc = "Form_Unload";
     s.window.SavedTop = calc.form.minimised ? s.window.LastTop : calc.form.place.top;
     s.window.SavedLeft = calc.form.minimised ? s.window.LastLeft : calc.form.place.left;
-    changeRecord(3, [&](SettingsRecord& record) {
+    changeSettings([&](SettingsRecords& records) {
         const bool kept = calc.form.mnuPosition.checked;
-        record.setTextB(1, 12,
-                        kept ? zeroPadded(s.window.SavedTop, 5) + " " + zeroPadded(s.window.SavedLeft, 6)
-                             : std::string(kPlaceNotSaved));
+        records.setText(Setting::WindowPlace, kept ? zeroPadded(s.window.SavedTop, kTopDigits) + " " +
+                                                         zeroPadded(s.window.SavedLeft, kLeftDigits)
+                                                   : std::string(rowOf(Setting::WindowPlace).preset));
     });
     calc.form.open = false;
 }
 
 // What is saved of the format are the user's choices, also while the Binary keypad lays them aside.
 // Bits that have no meaning here, and the one that a menu tick writes, stay as they are.
-void LifeCycle::writeOptions(SettingsRecord& record) const {
+void LifeCycle::writeOptions(SettingsRecords& records) const {
     const EngineState& s = calc.s;
-    const auto chooseOne = [&](int first, int count, int chosen) {
-        for (int i = 0; i < count; ++i) {
-            record.setOption(first + i, i == chosen);
-        }
-    };
-    constexpr int kModes = 3;
     const DisplayMode mode = s.format.DisplaySaved ? s.format.SavedMode : s.format.Mode;
-    chooseOne(option_bit::kMode, kModes, static_cast<int>(mode));
-    chooseOne(option_bit::kDigits, kMaxDisplayDigits + 1, std::clamp(s.format.SavedDigits, 0, kMaxDisplayDigits));
-    record.setOption(option_bit::kDegrees, s.format.Angle == AngleMode::Degrees);
-    record.setOption(option_bit::kGrads, s.format.Angle == AngleMode::Grads);
-    record.setOption(option_bit::kViewPlain, !s.window.ViewExtended);
+    records.choose(Setting::Mode, static_cast<int>(mode));
+    records.choose(Setting::Digits, std::clamp(s.format.SavedDigits, 0, kMaxDisplayDigits));
+    records.set(Setting::Degrees, s.format.Angle == AngleMode::Degrees);
+    records.set(Setting::Grads, s.format.Angle == AngleMode::Grads);
+    records.set(Setting::ViewPlain, !s.window.ViewExtended);
     const auto* const bit = std::find(kKeypadBits.begin(), kKeypadBits.end(), s.modes.ActiveKeypad);
     // A keypad without a bit of its own starts as the Standard keypad.
     const auto place = bit == kKeypadBits.end() ? 0 : static_cast<int>(bit - kKeypadBits.begin());
-    chooseOne(option_bit::kKeypad, static_cast<int>(kKeypadBits.size()), place);
-    record.setOption(option_bit::kTall, s.window.TallForm);
-    record.setOption(option_bit::kYField, s.window.ShowYField);
-    record.setOption(option_bit::kLastxField, s.window.ShowLastxField);
+    records.choose(Setting::ShownKeypad, place);
+    records.set(Setting::Tall, s.window.TallForm);
+    records.set(Setting::YField, s.window.ShowYField);
+    records.set(Setting::LastxField, s.window.ShowLastxField);
 }
 
 void LifeCycle::mnuSave_Click() {
@@ -311,8 +296,10 @@ void LifeCycle::mnuSave_Click() {
         if (!s.modes.BaseMode) {
             s.format.DisplayDigits = s.format.SavedDigits;
         }
-        changeRecord(2, [&](SettingsRecord& record) { writeOptions(record); });
-        changeRecord(3, [&](SettingsRecord& record) { record.setTextA(42, 2, zeroPadded(s.format.WordSize, 2)); });
+        changeSettings([&](SettingsRecords& records) { writeOptions(records); });
+        changeSettings([&](SettingsRecords& records) {
+            records.setText(Setting::WordSize, zeroPadded(s.format.WordSize, rowOf(Setting::WordSize).width));
+        });
         if (saveMore) {
             saveMore();
         }
@@ -325,21 +312,23 @@ void LifeCycle::mnuAOT_Click() {
     const bool onTop = !calc.form.mnuAOT.checked;
     calc.form.mnuAOT.checked = onTop;
     calc.form.alwaysOnTop = onTop;
-    changeRecord(2, [&](SettingsRecord& record) { record.setTextA(1, 1, onTop ? "E" : "e"); });
+    changeSettings([&](SettingsRecords& records) { records.setText(Setting::OnTop, onTop ? "E" : "e"); });
 }
 
 void LifeCycle::mnuPosition_Click() {
     calc.s.CurrentProc = "mnuPosition";
     const bool kept = !calc.form.mnuPosition.checked;
     calc.form.mnuPosition.checked = kept;
-    changeRecord(2, [&](SettingsRecord& record) { record.setTextA(41, 12, kept ? "Snail mail: " : "snail mail: "); });
+    changeSettings([&](SettingsRecords& records) {
+        records.setText(Setting::KeepsPosition, kept ? "Snail mail: " : "snail mail: ");
+    });
 }
 
 void LifeCycle::mnuLoad_Click() {
     calc.s.CurrentProc = "mnuLoad";
     const bool loads = !calc.form.mnuLoad.checked;
     calc.form.mnuLoad.checked = loads;
-    changeRecord(2, [&](SettingsRecord& record) { record.setTextA(11, 1, loads ? "S" : "s"); });
+    changeSettings([&](SettingsRecords& records) { records.setText(Setting::LoadsProgram, loads ? "S" : "s"); });
 }
 
 void LifeCycle::mnuSkins_Click() {
@@ -347,17 +336,17 @@ void LifeCycle::mnuSkins_Click() {
     s.CurrentProc = "mnuSkins";
     s.modifiers.NoKeyPaint = !s.modifiers.NoKeyPaint;
     calc.form.mnuSkins.checked = !s.modifiers.NoKeyPaint;
-    changeRecord(2, [&](SettingsRecord& record) { record.setOption(option_bit::kNoKeyPaint, s.modifiers.NoKeyPaint); });
+    changeSettings([&](SettingsRecords& records) { records.set(Setting::NoKeyPaint, s.modifiers.NoKeyPaint); });
 }
 
 bool LifeCycle::countNotice(Keypad keypad) {
-    const std::size_t at = keypad == Keypad::Engineering ? 1 : 2;
+    const Setting counter = keypad == Keypad::Engineering ? Setting::EngineeringNotices : Setting::MagneticsNotices;
     bool due = false;
-    changeRecord(1, [&](SettingsRecord& record) {
-        const int count = numberIn(record.textB(at, 1), 0);
+    changeSettings([&](SettingsRecords& records) {
+        const int count = numberIn(records.text(counter), 0);
         due = count < kNoticeLimit;
         if (due) {
-            record.setTextB(at, 1, std::to_string(count + 1));
+            records.setText(counter, std::to_string(count + 1));
         }
     });
     return due;

@@ -53,9 +53,9 @@ private:
     void readView();
     void setAngle(AngleMode mode);
     void endWith(std::string_view title, std::string_view text);
-    void writeOptions(SettingsRecord& record) const;
+    void writeOptions(SettingsRecords& records) const;
     template <typename Change>
-    void changeRecord(int number, Change change);
+    void changeSettings(Change change);
 
     Engine& calc;
     SettingsFile& settings;

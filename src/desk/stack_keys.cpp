@@ -169,9 +169,8 @@ void StackKeys::changeSignOfX() {
     s.entry.EntryOpen = false;
     takeTop();
     s.CurrentProc = "cmdChs";
-    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
     double value = 0.0;
-    if (!goOn(report, [&] { value = calc.xNumber(); })) {
+    if (!goOn(calc, [&] { value = calc.xNumber(); })) {
         return;
     }
     s.stack.LastX = s.stack.Xreg;

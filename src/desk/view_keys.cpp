@@ -40,9 +40,9 @@ void ViewKeys::cmdView_Click() {
     EngineState& s = calc.s;
     if (s.modifiers.ModifierMask != 0) {
         if (!s.window.ViewExtended && s.modifiers.ModifierMask == kAlt) {
-            toggleField(s.window.ShowYField, option_bit::kYField);
+            toggleField(s.window.ShowYField, Setting::YField);
         } else if (!s.window.ViewExtended && s.modifiers.ModifierMask == kCtrl) {
-            toggleField(s.window.ShowLastxField, option_bit::kLastxField);
+            toggleField(s.window.ShowLastxField, Setting::LastxField);
         }
         calc.ClearOptKeys();
         return;
@@ -70,10 +70,10 @@ void ViewKeys::apply() {
     form.arrange(s.window.ViewExtended, form.place.height - s.window.BasicHeight);
 }
 
-void ViewKeys::toggleField(bool& shown, int optionBit) {
+void ViewKeys::toggleField(bool& shown, Setting option) {
     shown = !shown;
     apply();
-    writeOption(optionBit, shown);
+    writeOption(option, shown);
 }
 
 void ViewKeys::toggleTall() {
@@ -84,13 +84,12 @@ void ViewKeys::toggleTall() {
     s.window.TallForm = !s.window.TallForm;
     calc.form.place.height = s.window.BasicHeight + (s.window.TallForm ? MainForm::kTallGrowth : 0);
     apply();
-    writeOption(option_bit::kTall, s.window.TallForm);
+    writeOption(Setting::Tall, s.window.TallForm);
 }
 
-void ViewKeys::writeOption(int bit, bool on) {
-    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
+void ViewKeys::writeOption(Setting option, bool on) {
     calc.s.CurrentProc = "cmdView";
-    goOn(report, [&] { settings.change(2, [&](SettingsRecord& record) { record.setOption(bit, on); }); });
+    goOn(calc, [&] { settings.change([&](SettingsRecords& records) { records.set(option, on); }); });
 }
 
 }  // namespace tallyforge

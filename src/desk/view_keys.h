@@ -3,7 +3,11 @@
 // How much of the machine is on show: plain, extended and tall form, and the small registers.
 #pragma once
 
+#include <cstdint>
+
 namespace tallyforge {
+
+enum class Setting : std::uint8_t;
 
 class Engine;
 class SettingsFile;
@@ -26,8 +30,8 @@ public:
     void apply();
 
 private:
-    void toggleField(bool& shown, int optionBit);
-    void writeOption(int bit, bool on);
+    void toggleField(bool& shown, Setting option);
+    void writeOption(Setting option, bool on);
 
     Engine& calc;
     SettingsFile& settings;

@@ -5,6 +5,7 @@
 #include "dialogs/unit_tips.h"
 #include "engine/engine.h"
 #include "numbers/failure.h"
+#include "platform/borrowed.h"
 #include "platform/key_codes.h"
 
 #include <algorithm>
@@ -24,9 +25,10 @@ ConversionDialog::ConversionDialog(const ConversionTable& table, Engine& engine,
 
 std::optional<ConversionChoice> ConversionDialog::ask(const ConversionRequest& request) {
     present(request);
-    calc.dialogOpen = true;
-    calc.platform.showDialog(*this);
-    calc.dialogOpen = false;
+    {
+        const Borrowed opened{calc.dialogOpen, true};
+        calc.platform.showDialog(*this);
+    }
     return std::exchange(chosen_, std::nullopt);
 }
 

@@ -3,6 +3,7 @@
 
 #include "dialogs/dialog_support.h"
 #include "engine/engine.h"
+#include "platform/borrowed.h"
 #include "platform/key_codes.h"
 
 #include <utility>
@@ -62,9 +63,8 @@ ListDialog::ListDialog(Engine& calculator, const ListTable& shown, ListMemory& m
 std::optional<ListChoice> ListDialog::pick() {
     taken_.reset();
     // A list may be opened from another dialog.
-    const bool before = std::exchange(calc.dialogOpen, true);
+    const Borrowed opened{calc.dialogOpen, true};
     calc.platform.showDialog(*this);
-    calc.dialogOpen = before;
     return taken_;
 }
 

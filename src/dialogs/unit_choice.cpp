@@ -105,8 +105,7 @@ bool askToSaveUnits(Engine& calc, SettingsFile& settings, std::span<const UnitRa
     if (calc.platform.messageBox(question) != Answer::Yes) {
         return false;
     }
-    const auto report = [&](const Failure& failure) { calc.reportNumber(failure); };
-    goOn(report, [&] {
+    goOn(calc, [&] {
         for (const UnitRange* range : ranges) {
             settings.replaceUnits(range->word, bitsOf(*range), calc.units.*range->word);
         }

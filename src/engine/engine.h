@@ -21,6 +21,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyforge {
 
@@ -104,5 +105,11 @@ private:
     IdleKeypads idle_;
     KeypadPort* keypads_ = &idle_;
 };
+
+/// goOn() of a handler that tells a failure by its number.
+template <typename Statement>
+bool goOn(Engine& calc, Statement&& statement) {
+    return goOn([&](const Failure& failure) { calc.reportNumber(failure); }, std::forward<Statement>(statement));
+}
 
 }  // namespace tallyforge

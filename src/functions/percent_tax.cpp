@@ -7,7 +7,6 @@
 #include "numbers/number_format.h"
 #include "records/settings_file.h"
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -65,16 +64,13 @@ void changeTaxRate(Engine& calc) {
         calc.s.delivery.FnLabel = "Error!";
         return;
     }
-    constexpr int kOptionsRecord = 2;
-    constexpr std::size_t kRateColumn = 48;
-    constexpr std::size_t kRateWidth = 5;
     const std::string text = plainText(wanted, '.');
-    if (text.size() > kRateWidth) {
+    if (text.size() > rowOf(Setting::TaxRate).width) {
         throw Failure{FailureNumber::InvalidArgument};
     }
     SettingsFile settings;
     settings.setPath(calc.AppDataDir / SettingsFile::kName);
-    settings.change(kOptionsRecord, [&](SettingsRecord& record) { record.setTextB(kRateColumn, kRateWidth, text); });
+    settings.change([&](SettingsRecords& records) { records.setText(Setting::TaxRate, text); });
     calc.s.functions.TaxRate = static_cast<float>(wanted);
     calc.s.delivery.FnLabel = kRateLabel;
 }

@@ -98,10 +98,9 @@ bool Programs::agreed(const std::string& name) {
 }
 
 void Programs::rememberDefault(const std::string& name) {
-    constexpr std::size_t kNameWidth = 40;
     const auto onFailure = [&](const Failure& failure) { fail(loadFaultText(failure.code())); };
     goOn(onFailure,
-         [&] { parts.settings.change(3, [&](SettingsRecord& record) { record.setTextA(1, kNameWidth, name); }); });
+         [&] { parts.settings.change([&](SettingsRecords& all) { all.setText(Setting::DefaultProgram, name); }); });
 }
 
 void Programs::loadBuiltIn(const std::string& name) {

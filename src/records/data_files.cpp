@@ -12,9 +12,8 @@ namespace tallyforge {
 
 namespace {
 
-constexpr std::size_t kNameLength = 25;
-constexpr std::size_t kTapeNameAt = 3;
-constexpr std::size_t kRegisterNameAt = 28;
+constexpr std::size_t kNameLength = rowOf(Setting::TapeFile).width;
+static_assert(rowOf(Setting::RegisterFile).width == kNameLength);
 
 /// The first `most` characters of a UTF-8 text.
 std::string firstCharacters(const std::string& text, std::size_t most) {
@@ -115,9 +114,8 @@ void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, c
         calc.reportIn(procedure, failure.code(), description(failure.number()));
     };
     goOn(report, [&] {
-        settings.change(1, [&](SettingsRecord& record) {
-            record.setTextB(tape ? kTapeNameAt : kRegisterNameAt, kNameLength, name);
-        });
+        settings.change(
+            [&](SettingsRecords& records) { records.setText(tape ? Setting::TapeFile : Setting::RegisterFile, name); });
     });
 }
 

@@ -4,7 +4,7 @@
 #include "records/file_failure.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <bit>
 
 namespace tallyforge {
 
@@ -13,198 +13,161 @@ namespace {
 constexpr std::int64_t kFixedScale = 10000;
 constexpr const char* kLock = ".lock";
 
-constexpr std::uint32_t bits(std::initializer_list<int> set) {
-    std::uint32_t word = 0;
-    for (const int bit : set) {
-        word |= 1U << bit;
-    }
-    return word;
+constexpr std::size_t offsetOf(int record, RecordField field) {
+    return kRecordSize * static_cast<std::size_t>(record - 1) + rowOf(field).offset;
 }
 
-/// Where a word of unit choices lies, and its bits in a fresh file: the most usual unit of each
-/// range, not always its first. No bit of the surface's range (18, 19) would mean inches.
-struct UnitsField {
-    UnitsWord word;
-    int record;
-    RecordField field;
-    std::uint32_t fresh;
-};
-constexpr std::array<UnitsField, 5> kUnitsFields{{
-    {&UnitWords::UnitsWordMag, 1, RecordField::LongA, bits({0, 5, 9, 11, 15, 19, 21, 23, 27})},
-    {&UnitWords::UnitsWordLmu, 1, RecordField::LongB, bits({0, 4, 8, 19, 20, 22, 24, 27})},
-    {&UnitWords::UnitsWordLc, 1, RecordField::Fixed, bits({1, 4, 9, 12})},
-    {&UnitWords::UnitsWordOhm, 3, RecordField::LongA, bits({0, 6, 11, 17, 22, 25, 28})},
-    {&UnitWords::UnitsWordCore, 3, RecordField::LongB, bits({0, 4, 7, 11, 16, 18, 22, 25, 28})},
-}};
+constexpr std::size_t textOffset(const SettingRow& row) {
+    return offsetOf(row.record, row.field) + row.place - 1;
+}
 
-constexpr std::uint32_t kFreshOptions = bits(
-    {option_bit::kMode, option_bit::kDigits + 2, option_bit::kDegrees, option_bit::kViewPlain, option_bit::kKeypad});
+/// The bits of the setting, from bit 0.
+constexpr std::uint32_t maskOf(const SettingRow& row) {
+    constexpr std::size_t kWord = 32;
+    return row.width >= kWord ? ~0U : (1U << row.width) - 1U;
+}
+
+/// In the order of Setting, each within its field, none on top of another.
+constexpr bool rowsHold() {
+    std::array<std::array<std::uint64_t, kRecordFields.size()>, kRecords> taken{};
+    for (std::size_t i = 0; i < kSettings.size(); ++i) {
+        const SettingRow& row = kSettings.at(i);
+        const std::size_t first = isText(row.field) ? row.place - 1 : row.place;
+        const std::size_t room = isText(row.field) ? rowOf(row.field).size : 32U;
+        const std::uint64_t own = ((std::uint64_t{1} << row.width) - 1) << first;
+        std::uint64_t& field =
+            taken.at(static_cast<std::size_t>(row.record - 1)).at(static_cast<std::size_t>(row.field));
+        if (static_cast<std::size_t>(row.setting) != i || first + row.width > room || (field & own) != 0 ||
+            row.preset.size() > row.width || (row.presetBits & ~maskOf(row)) != 0) {
+            return false;
+        }
+        field |= own;
+    }
+    return true;
+}
+static_assert(rowsHold());
 
 }  // namespace
 
-SettingsRecord::SettingsRecord() {
-    writeText(kTextA, 1, kRecordText, "");
-    writeText(kTextB, 1, kRecordText, "");
-}
-
-std::uint64_t SettingsRecord::readBytes(std::size_t offset, std::size_t count) const {
-    std::uint64_t value = 0;
-    for (std::size_t i = count; i-- > 0;) {
-        value = value << 8U | static_cast<unsigned char>(bytes.at(offset + i));
-    }
-    return value;
-}
-
-void SettingsRecord::writeBytes(std::size_t offset, std::size_t count, std::uint64_t value) {
-    for (std::size_t i = 0; i < count; ++i) {
-        bytes.at(offset + i) = static_cast<char>(value >> (8U * i) & 0xFFU);
-    }
-}
-
-std::int32_t SettingsRecord::readLong(std::size_t offset) const {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(readBytes(offset, 4)));
-}
-
-void SettingsRecord::writeLong(std::size_t offset, std::int32_t value) {
-    writeBytes(offset, 4, static_cast<std::uint32_t>(value));
-}
-
-std::int64_t SettingsRecord::RecFixed() const {
-    return static_cast<std::int64_t>(readBytes(kFixed, 8)) / kFixedScale;
-}
-
-void SettingsRecord::setRecFixed(std::int64_t whole) {
-    writeBytes(kFixed, 8, static_cast<std::uint64_t>(whole) * static_cast<std::uint64_t>(kFixedScale));
-}
-
-std::int64_t SettingsRecord::number(RecordField field) const {
-    return field == RecordField::LongA ? RecLongA() : field == RecordField::LongB ? RecLongB() : RecFixed();
-}
-
-void SettingsRecord::setNumber(RecordField field, std::int64_t value) {
-    switch (field) {
-        case RecordField::LongA:
-            setRecLongA(static_cast<std::int32_t>(value));
-            break;
-        case RecordField::Fixed:
-            setRecFixed(value);
-            break;
-        case RecordField::LongB:
-            setRecLongB(static_cast<std::int32_t>(value));
-            break;
-    }
-}
-
-std::string SettingsRecord::readText(std::size_t field, std::size_t first, std::size_t count) const {
-    return {bytes.data() + field + first - 1, count};
-}
-
-void SettingsRecord::writeText(std::size_t field, std::size_t first, std::size_t count, std::string_view text) {
-    for (std::size_t i = 0; i < count; ++i) {
-        bytes.at(field + first - 1 + i) = i < text.size() ? text[i] : ' ';
-    }
-}
-
-void SettingsRecord::setOption(int bit, bool on) {
-    auto word = static_cast<std::uint32_t>(RecLongB());
-    word = on ? word | 1U << bit : word & ~(1U << bit);
-    setRecLongB(static_cast<std::int32_t>(word));
-}
-
-SettingsRecord SettingsFile::defaults(int number) {
-    SettingsRecord record;
-    if (number == 1) {
-        record.setTextA(29, 2, "08");
-        record.setTextB(1, 2, "00");
-        record.setTextB(3, 25, "tape.txt");
-        record.setTextB(28, 25, "registers.txt");
-    } else if (number == 2) {
-        record.setTextA(1, 1, "e");
-        record.setTextA(11, 1, "s");
-        record.setTextA(41, 12, "snail mail: ");
-        record.setTextB(48, 5, "7.75");
-        record.setRecLongB(static_cast<std::int32_t>(kFreshOptions));
-    } else {
-        record.setTextA(42, 2, "64");
-        record.setTextB(1, 12, "Philosopher ");
-    }
-    for (const UnitsField& units : kUnitsFields) {
-        if (units.record == number) {
-            record.setNumber(units.field, units.fresh);
+SettingsRecords::SettingsRecords() {
+    for (int record = 1; record <= kRecords; ++record) {
+        for (const RecordField field : {RecordField::TextA, RecordField::TextB}) {
+            std::fill_n(bytes_.begin() + static_cast<std::ptrdiff_t>(offsetOf(record, field)), rowOf(field).size, ' ');
         }
     }
-    return record;
+    for (const SettingRow& row : kSettings) {
+        if (isText(row.field)) {
+            setText(row.setting, row.preset);
+        } else {
+            setBits(row.setting, row.presetBits);
+        }
+    }
 }
 
-std::string SettingsFile::fresh() {
-    std::string file;
-    for (int number = 1; number <= kRecords; ++number) {
-        const SettingsRecord record = defaults(number);
-        file.append(record.bytes.data(), record.bytes.size());
+SettingsRecords::SettingsRecords(std::string_view bytes) {
+    std::copy_n(bytes.begin(), std::min(bytes.size(), kSize), bytes_.begin());
+}
+
+std::string SettingsRecords::text(Setting setting) const {
+    const SettingRow& row = rowOf(setting);
+    return std::string(bytes().substr(textOffset(row), row.width));
+}
+
+void SettingsRecords::setText(Setting setting, std::string_view text) {
+    const SettingRow& row = rowOf(setting);
+    for (std::size_t i = 0; i < row.width; ++i) {
+        bytes_.at(textOffset(row) + i) = i < text.size() ? text[i] : ' ';
     }
-    return file;
+}
+
+std::uint32_t SettingsRecords::bits(Setting setting) const {
+    const SettingRow& row = rowOf(setting);
+    return static_cast<std::uint32_t>(number(row.record, row.field)) >> row.place & maskOf(row);
+}
+
+void SettingsRecords::setBits(Setting setting, std::uint32_t bits) {
+    const SettingRow& row = rowOf(setting);
+    const auto word = static_cast<std::uint32_t>(number(row.record, row.field));
+    const std::uint32_t mask = maskOf(row) << row.place;
+    setNumber(row.record, row.field, (word & ~mask) | (bits << row.place & mask));
+}
+
+std::optional<int> SettingsRecords::chosen(Setting setting) const {
+    const std::uint32_t set = bits(setting);
+    return set == 0 ? std::nullopt : std::optional(std::countr_zero(set));
+}
+
+std::int64_t SettingsRecords::number(int record, RecordField field) const {
+    const std::size_t offset = offsetOf(record, field);
+    std::uint64_t value = 0;
+    for (std::size_t i = rowOf(field).size; i-- > 0;) {
+        value = value << 8U | static_cast<unsigned char>(bytes_.at(offset + i));
+    }
+    return field == RecordField::Fixed ? static_cast<std::int64_t>(value) / kFixedScale
+                                       : static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
+}
+
+void SettingsRecords::setNumber(int record, RecordField field, std::int64_t value) {
+    const std::size_t offset = offsetOf(record, field);
+    auto stored = static_cast<std::uint64_t>(value);
+    if (field == RecordField::Fixed) {
+        stored *= static_cast<std::uint64_t>(kFixedScale);
+    }
+    for (std::size_t i = 0; i < rowOf(field).size; ++i) {
+        bytes_.at(offset + i) = static_cast<char>(stored >> (8U * i) & 0xFFU);
+    }
 }
 
 void SettingsFile::create() const {
-    onFile([&] { writeWhole(path_, fresh()); });
+    onFile([&] { writeWhole(path_, SettingsRecords().bytes()); });
 }
 
 void SettingsFile::keepInMemory() {
-    memory_ = fresh();
+    memory_ = SettingsRecords();
 }
 
-std::string SettingsFile::readFile() const {
+SettingsRecords SettingsFile::read() const {
     if (memory_) {
         return *memory_;
     }
-    std::string file = onFile([&] { return readWhole(path_, kRecordSize * kRecords); });
-    if (file.size() != kRecordSize * kRecords) {
+    const std::string file = onFile([&] { return readWhole(path_, SettingsRecords::kSize); });
+    if (file.size() != SettingsRecords::kSize) {
         throw Failure{FailureNumber::DamagedFile};
     }
-    return file;
+    return SettingsRecords(file);
 }
 
-SettingsRecord SettingsFile::read(int number) const {
-    const std::string file = readFile();
-    SettingsRecord record;
-    const auto first = file.begin() + static_cast<std::ptrdiff_t>(kRecordSize) * (number - 1);
-    std::copy_n(first, kRecordSize, record.bytes.begin());
-    return record;
-}
-
-void SettingsFile::change(int number, const std::function<void(SettingsRecord&)>& change) {
+void SettingsFile::change(const std::function<void(SettingsRecords&)>& change) {
     const FileLock alone(path_.parent_path() / kLock);
-    std::string file = readFile();
-    const auto first = file.begin() + static_cast<std::ptrdiff_t>(kRecordSize) * (number - 1);
-    SettingsRecord record;
-    std::copy_n(first, kRecordSize, record.bytes.begin());
-    change(record);
-    std::copy(record.bytes.begin(), record.bytes.end(), first);
+    SettingsRecords records = read();
+    change(records);
     if (memory_) {
-        memory_ = std::move(file);
+        memory_ = records;
     } else {
-        onFile([&] { writeWhole(path_, file); });
+        onFile([&] { writeWhole(path_, records.bytes()); });
     }
 }
 
 void SettingsFile::AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field) {
-    change(number, [&](SettingsRecord& record) { record.setNumber(field, record.number(field) + added - taken); });
+    change([&](SettingsRecords& all) { all.setNumber(number, field, all.number(number, field) + added - taken); });
 }
 
 UnitWords SettingsFile::readUnits() const {
+    const SettingsRecords records = read();
     UnitWords words;
-    for (const UnitsField& units : kUnitsFields) {
-        words.*units.word = static_cast<std::uint32_t>(read(units.record).number(units.field));
+    for (const SettingRow& row : kSettings) {
+        if (row.units != nullptr) {
+            words.*row.units = records.bits(row.setting);
+        }
     }
     return words;
 }
 
 void SettingsFile::replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen) {
-    for (const UnitsField& units : kUnitsFields) {
-        if (units.word == word) {
-            change(units.record, [&](SettingsRecord& record) {
-                const auto held = static_cast<std::uint32_t>(record.number(units.field));
-                record.setNumber(units.field, (held & ~mask) | (chosen & mask));
+    for (const SettingRow& row : kSettings) {
+        if (row.units == word) {
+            change([&](SettingsRecords& records) {
+                records.setBits(row.setting, (records.bits(row.setting) & ~mask) | (chosen & mask));
             });
         }
     }
@@ -212,8 +175,10 @@ void SettingsFile::replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_
 
 UnitWords SettingsFile::freshUnits() {
     UnitWords words;
-    for (const UnitsField& units : kUnitsFields) {
-        words.*units.word = units.fresh;
+    for (const SettingRow& row : kSettings) {
+        if (row.units != nullptr) {
+            words.*row.units = row.presetBits;
+        }
     }
     return words;
 }

@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The settings record file: three records of 1250 bytes, little endian. What a field does not name
-// is reserved and kept as it stands when the record is written.
-//
-//   offset 0    4  RecLongA  32-bit integer
-//   offset 4   52  RecTextA  text, blank filled
-//   offset 56  52  RecTextB  text, blank filled
-//   offset 108  8  RecFixed  64-bit fixed point, value times 10000
-//   offset 116  4  RecLongB  32-bit integer
-//   offset 120     reserved
+// What the settings record file holds, and the file in the data folder. What stands where:
+// settings_layout.h.
 #pragma once
 
 #include "engine/unit_words.h"
+#include "records/settings_layout.h"
 
 #include <array>
 #include <cstdint>
@@ -23,76 +17,40 @@
 
 namespace tallyforge {
 
-inline constexpr std::size_t kRecordSize = 1250;
-inline constexpr std::size_t kRecordText = 52;
-
-/// Option bits of record 2, by bit number.
-namespace option_bit {
-inline constexpr int kMode = 0;    ///< + display mode
-inline constexpr int kDigits = 3;  ///< + digits, 0 to 12
-inline constexpr int kNoKeyPaint = 16;
-inline constexpr int kDegrees = 17;
-inline constexpr int kGrads = 18;
-inline constexpr int kViewPlain = 19;
-inline constexpr int kKeypad = 21;  ///< + place of the keypad in the list of keypads
-inline constexpr int kTall = 28;
-inline constexpr int kYField = 29;
-inline constexpr int kLastxField = 30;
-}  // namespace option_bit
-
-/// Numeric fields of a record.
-enum class RecordField { LongA, Fixed, LongB };
-
-class SettingsRecord {
+/// The three records. A setting is a text or some bits, as its row says.
+class SettingsRecords {
 public:
-    SettingsRecord();
-    [[nodiscard]] std::int32_t RecLongA() const { return readLong(0); }
-    [[nodiscard]] std::int32_t RecLongB() const { return readLong(kLongB); }
-    void setRecLongA(std::int32_t value) { writeLong(0, value); }
-    void setRecLongB(std::int32_t value) { writeLong(kLongB, value); }
-    /// RecFixed as a whole number (the stored value divided by 10000).
-    [[nodiscard]] std::int64_t RecFixed() const;
-    void setRecFixed(std::int64_t whole);
-    [[nodiscard]] std::int64_t number(RecordField field) const;
-    void setNumber(RecordField field, std::int64_t value);
+    /// Those of a fresh file.
+    SettingsRecords();
+    /// Those of a file of kSize bytes.
+    explicit SettingsRecords(std::string_view bytes);
 
-    /// `count` characters of a text field from position `first`, counted from 1.
-    [[nodiscard]] std::string textA(std::size_t first, std::size_t count) const {
-        return readText(kTextA, first, count);
-    }
-    [[nodiscard]] std::string textB(std::size_t first, std::size_t count) const {
-        return readText(kTextB, first, count);
-    }
-    /// Writes `text` from position `first`; blank filled or cut to `count` characters.
-    void setTextA(std::size_t first, std::size_t count, std::string_view text) {
-        writeText(kTextA, first, count, text);
-    }
-    void setTextB(std::size_t first, std::size_t count, std::string_view text) {
-        writeText(kTextB, first, count, text);
-    }
+    static constexpr std::size_t kSize = kRecordSize * kRecords;
 
-    [[nodiscard]] bool option(int bit) const { return (static_cast<std::uint32_t>(RecLongB()) >> bit & 1U) != 0; }
-    void setOption(int bit, bool on);
+    /// As wide as the setting is, with its blanks.
+    [[nodiscard]] std::string text(Setting setting) const;
+    /// Filled up with blanks, or cut.
+    void setText(Setting setting, std::string_view text);
+    [[nodiscard]] std::uint32_t bits(Setting setting) const;
+    void setBits(Setting setting, std::uint32_t bits);
+    /// The lowest bit that is set; none where no bit is.
+    [[nodiscard]] std::optional<int> chosen(Setting setting) const;
+    void choose(Setting setting, int bit) { setBits(setting, 1U << bit); }
+    [[nodiscard]] bool on(Setting setting) const { return bits(setting) != 0; }
+    void set(Setting setting, bool on) { setBits(setting, on ? 1U : 0U); }
 
-    std::array<char, kRecordSize> bytes{};
+    /// A numeric field of record 1 to 3; of the fixed point field the whole number.
+    [[nodiscard]] std::int64_t number(int record, RecordField field) const;
+    void setNumber(int record, RecordField field, std::int64_t value);
+
+    [[nodiscard]] std::string_view bytes() const { return {bytes_.data(), bytes_.size()}; }
 
 private:
-    static constexpr std::size_t kTextA = 4;
-    static constexpr std::size_t kTextB = 56;
-    static constexpr std::size_t kFixed = 108;
-    static constexpr std::size_t kLongB = 116;
-    [[nodiscard]] std::uint64_t readBytes(std::size_t offset, std::size_t count) const;
-    void writeBytes(std::size_t offset, std::size_t count, std::uint64_t value);
-    [[nodiscard]] std::int32_t readLong(std::size_t offset) const;
-    void writeLong(std::size_t offset, std::int32_t value);
-    [[nodiscard]] std::string readText(std::size_t field, std::size_t first, std::size_t count) const;
-    void writeText(std::size_t field, std::size_t first, std::size_t count, std::string_view text);
+    std::array<char, kSize> bytes_{};
 };
 
 class SettingsFile {
 public:
-    static constexpr int kRecords = 3;
-
     /// Name of the file in the data folder; the leading dot hides it.
     static constexpr const char* kName = ".settings.rec";
 
@@ -101,15 +59,15 @@ public:
 
     /// Writes a fresh file with the defaults. Raises 53 where its folder is missing, 61, 75.
     void create() const;
-    /// Record 1 to 3. Raises 53 for a missing file, 54 for one that is not three records, 75.
-    [[nodiscard]] SettingsRecord read(int number) const;
-    /// Reads a record, lets `change` alter it, and writes it back; the others stay, and what another
-    /// calculator writes at the same time stays, too. Raises as read() and 61, and what `change` raises.
-    void change(int number, const std::function<void(SettingsRecord&)>& change);
+    /// Raises 53 for a missing file, 54 for one that is not three records, 75.
+    [[nodiscard]] SettingsRecords read() const;
+    /// Reads the records, lets `change` alter them, and writes them back; what another calculator
+    /// writes at the same time stays. Raises as read() and 61, and what `change` raises.
+    void change(const std::function<void(SettingsRecords&)>& change);
     /// For a folder that cannot be written: the defaults hold, and what changes them lasts as long
     /// as this object.
     void keepInMemory();
-    /// Reads a record, changes one numeric field by `added` - `taken`, writes it.
+    /// Changes one numeric field of record 1 to 3 by `added` - `taken`.
     void AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field);
 
     /// The five words of unit choices. Raises as read().
@@ -119,15 +77,9 @@ public:
     /// The words of a fresh file.
     [[nodiscard]] static UnitWords freshUnits();
 
-    /// A fresh record with the defaults.
-    [[nodiscard]] static SettingsRecord defaults(int number);
-
 private:
-    [[nodiscard]] std::string readFile() const;
-    [[nodiscard]] static std::string fresh();
-
     std::filesystem::path path_;
-    std::optional<std::string> memory_;  ///< the file's bytes where there can be no file
+    std::optional<SettingsRecords> memory_;  ///< where there can be no file
 };
 
 }  // namespace tallyforge

@@ -12,7 +12,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static tallyforge::CalculatorAtHand hand;
     std::string bytes(reinterpret_cast<const char*>(data), size);
-    bytes.resize(tallyforge::kRecordSize * tallyforge::SettingsFile::kRecords, ' ');
+    bytes.resize(tallyforge::SettingsRecords::kSize, ' ');
     hand.writeFile(tallyforge::SettingsFile::kName, bytes);
     hand.start();
     const tallyforge::EngineState& s = hand.s();

@@ -86,16 +86,16 @@ TEST_F(AdjustRecord, CalculatorsThatChangeSettingsAtTheSameTimeLoseNone) {
     std::thread other([&] { changeBits(1); });
     changeBits(2);
     other.join();
-    EXPECT_EQ(file.read(1).RecLongA(), kChanges);
-    EXPECT_EQ(file.read(2).RecLongA(), kChanges);
+    EXPECT_EQ(file.read().number(1, RecordField::LongA), kChanges);
+    EXPECT_EQ(file.read().number(2, RecordField::LongA), kChanges);
 }
 
 TEST_F(AdjustRecord, InMemoryTheDefaultsHoldAndChangesLast) {
     const auto before = bytes();
     file.keepInMemory();
-    EXPECT_EQ(file.read(2).textB(48, 5), "7.75 ");
-    file.change(2, [](SettingsRecord& record) { record.setTextB(48, 5, "8.25"); });
-    EXPECT_EQ(file.read(2).textB(48, 5), "8.25 ");
+    EXPECT_EQ(file.read().text(Setting::TaxRate), "7.75 ");
+    file.change([](SettingsRecords& records) { records.setText(Setting::TaxRate, "8.25"); });
+    EXPECT_EQ(file.read().text(Setting::TaxRate), "8.25 ");
     EXPECT_TRUE(bytes() == before);
 }
 

@@ -14,36 +14,32 @@ namespace {
 class Settings : public ::testing::Test, protected CalculatorAtHand {
 protected:
     [[nodiscard]] std::string bytes() const { return file(SettingsFile::kName); }
-    [[nodiscard]] std::uint32_t longAt(std::size_t offset) const {
-        const std::string all = bytes();
-        std::uint32_t value = 0;
-        for (std::size_t i = 4; i-- > 0;) {
-            value = value << 8U | static_cast<unsigned char>(all.at(offset + i));
-        }
-        return value;
+    [[nodiscard]] SettingsRecords records() const { return SettingsRecords(bytes()); }
+    [[nodiscard]] std::string text(Setting setting) const { return records().text(setting); }
+    [[nodiscard]] std::uint32_t options() const {
+        return static_cast<std::uint32_t>(records().number(2, RecordField::LongB));
     }
-    [[nodiscard]] std::string text(std::size_t offset, std::size_t count) const {
-        return bytes().substr(offset, count);
+    /// Lays down what is in the file with a change.
+    template <typename Change>
+    void rewrite(Change change) {
+        SettingsRecords all = records();
+        change(all);
+        writeFile(SettingsFile::kName, std::string(all.bytes()));
     }
     void saveSettings() {
         platform.answers = {Answer::Yes};
         choose(form().mnuSave);
     }
-    static constexpr std::size_t kRecord2 = 1250;
-    static constexpr std::size_t kRecord3 = 2500;
-    static constexpr std::size_t kLongB = 116;
-    static constexpr std::size_t kTextA = 4;
-    static constexpr std::size_t kTextB = 56;
 };
 
 TEST_F(Settings, TheFirstStartLaysTheFileDownWithItsDefaults) {
     ASSERT_EQ(bytes().size(), 3750U);
-    EXPECT_EQ(text(kTextA + 28, 2), "08");
-    EXPECT_EQ(text(kTextB, 2), "00");
-    EXPECT_EQ(text(kRecord2 + kTextB + 47, 5), "7.75 ");
-    EXPECT_EQ(text(kRecord3 + kTextB, 12), "Philosopher ");
-    EXPECT_EQ(text(kRecord3 + kTextA + 41, 2), "64");
-    EXPECT_EQ(longAt(kRecord2 + kLongB), 1U | 1U << 5 | 1U << 17 | 1U << 19 | 1U << 21);
+    EXPECT_EQ(text(Setting::DataVersion), "08");
+    EXPECT_EQ(text(Setting::EngineeringNotices) + text(Setting::MagneticsNotices), "00");
+    EXPECT_EQ(text(Setting::TaxRate), "7.75 ");
+    EXPECT_EQ(text(Setting::WindowPlace), "Philosopher ");
+    EXPECT_EQ(text(Setting::WordSize), "64");
+    EXPECT_EQ(options(), 1U | 1U << 5 | 1U << 17 | 1U << 19 | 1U << 21);
     EXPECT_EQ(s().format.DisplayDigits, 2);
     EXPECT_EQ(s().format.Mode, DisplayMode::Fixed);
     EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Standard);
@@ -63,12 +59,12 @@ TEST_F(Settings, EachRangeOfUnitsHasOneRow) {
         }
         return set;
     };
-    const std::uint32_t magnetics = longAt(0);
+    const std::uint32_t magnetics = records().bits(Setting::UnitsMag);
     for (const auto& [first, last] :
          {std::pair{0, 4}, {5, 8}, {9, 10}, {11, 14}, {15, 18}, {19, 20}, {21, 22}, {23, 26}, {27, 30}}) {
         EXPECT_EQ(rows(magnetics, first, last), 1) << first;
     }
-    const std::uint32_t ohm = longAt(kRecord3);
+    const std::uint32_t ohm = records().bits(Setting::UnitsOhm);
     for (const auto& [first, last] : {std::pair{0, 3}, {6, 10}, {11, 14}, {16, 19}, {20, 22}, {23, 26}, {27, 30}}) {
         EXPECT_EQ(rows(ohm, first, last), 1) << first;
     }
@@ -84,7 +80,7 @@ TEST_F(Settings, SaveSettingsKeepsFormatKeypadViewAndAngle) {
     saveSettings();
     EXPECT_EQ(platform.boxes.back().text, "Would you like to save your settings?");
     EXPECT_EQ(platform.boxes.back().title, "SAVE!");
-    EXPECT_EQ(longAt(kRecord2 + kLongB), 1U << 2 | 1U << 10 | 1U << 18 | 1U << 23);
+    EXPECT_EQ(options(), 1U << 2 | 1U << 10 | 1U << 18 | 1U << 23);
     start();
     EXPECT_EQ(s().format.Mode, DisplayMode::Engineering);
     EXPECT_EQ(s().format.DisplayDigits, 7);
@@ -110,8 +106,8 @@ TEST_F(Settings, OnTheBinaryKeypadTheUsersDigitsAreSaved) {
     choose(form().mnuEngBinary);
     EXPECT_EQ(s().format.DisplayDigits, 0);
     saveSettings();
-    EXPECT_EQ(longAt(kRecord2 + kLongB) & 0xFFF8U, 1U << 9);
-    EXPECT_NE(longAt(kRecord2 + kLongB) & 1U << 24, 0U);
+    EXPECT_EQ(options() & 0xFFF8U, 1U << 9);
+    EXPECT_NE(options() & 1U << 24, 0U);
 }
 
 TEST_F(Settings, TheWordSizeIsKeptInTwoDigits) {
@@ -119,7 +115,7 @@ TEST_F(Settings, TheWordSizeIsKeptInTwoDigits) {
     type("8");
     choose(form().cmdDigits);
     saveSettings();
-    EXPECT_EQ(text(kRecord3 + kTextA + 41, 2), "08");
+    EXPECT_EQ(text(Setting::WordSize), "08");
     start();
     EXPECT_EQ(s().format.WordSize, 8);
 }
@@ -129,10 +125,10 @@ TEST_F(Settings, TheTicksWriteThemselvesAtOnce) {
     choose(form().mnuAOT);
     choose(form().mnuLoad);
     choose(form().mnuSkins);
-    EXPECT_EQ(text(kRecord2 + kTextA + 40, 12), "Snail mail: ");
-    EXPECT_EQ(text(kRecord2 + kTextA, 1), "E");
-    EXPECT_EQ(text(kRecord2 + kTextA + 10, 1), "S");
-    EXPECT_NE(longAt(kRecord2 + kLongB) & 1U << 16, 0U);
+    EXPECT_EQ(text(Setting::KeepsPosition), "Snail mail: ");
+    EXPECT_EQ(text(Setting::OnTop), "E");
+    EXPECT_EQ(text(Setting::LoadsProgram), "S");
+    EXPECT_NE(options() & 1U << 16, 0U);
     start();
     EXPECT_TRUE(form().mnuAOT.checked);
     EXPECT_TRUE(form().alwaysOnTop);
@@ -140,14 +136,14 @@ TEST_F(Settings, TheTicksWriteThemselvesAtOnce) {
     EXPECT_TRUE(s().modifiers.NoKeyPaint);
     EXPECT_FALSE(form().mnuSkins.checked);
     choose(form().mnuAOT);
-    EXPECT_EQ(text(kRecord2 + kTextA, 1), "e");
+    EXPECT_EQ(text(Setting::OnTop), "e");
 }
 
 TEST_F(Settings, ThePositionIsKeptOnlyWhereTheUserWantsIt) {
     form().place.top = 1500;
     form().place.left = 2400;
     closeForm(form());
-    EXPECT_EQ(text(kRecord3 + kTextB, 12), "Philosopher ");
+    EXPECT_EQ(text(Setting::WindowPlace), "Philosopher ");
     EXPECT_FALSE(form().open);
     start();
     EXPECT_EQ(form().place.left, 0);
@@ -155,14 +151,14 @@ TEST_F(Settings, ThePositionIsKeptOnlyWhereTheUserWantsIt) {
     form().place.top = 1500;
     form().place.left = 2400;
     closeForm(form());
-    EXPECT_EQ(text(kRecord3 + kTextB, 12), "01500 002400");
+    EXPECT_EQ(text(Setting::WindowPlace), "01500 002400");
     start();
     EXPECT_EQ(form().place.top, 1500);
     EXPECT_EQ(form().place.left, 2400);
     form().place.top = 9;
     form().minimised = true;
     closeForm(form());
-    EXPECT_EQ(text(kRecord3 + kTextB, 12), "01500 002400") << "a minimised window keeps the place it had at start";
+    EXPECT_EQ(text(Setting::WindowPlace), "01500 002400") << "a minimised window keeps the place it had at start";
 }
 
 TEST_F(Settings, ReservedBytesStayAsTheyStand) {
@@ -252,12 +248,7 @@ TEST_F(Settings, AFolderThatWasEmptiedIsAFirstStart) {
 }
 
 TEST_F(Settings, AnOptionWordWithoutDigitsGivesThirteen) {
-    std::string word = bytes();
-    for (std::size_t bit = 3; bit < 16; ++bit) {
-        char& byte = word.at(kRecord2 + kLongB + bit / 8);
-        byte = static_cast<char>(static_cast<unsigned char>(byte) & ~(1U << bit % 8));
-    }
-    writeFile(SettingsFile::kName, word);
+    rewrite([](SettingsRecords& all) { all.setBits(Setting::Digits, 0); });
     start();
     EXPECT_EQ(s().format.DisplayDigits, 13);
     EXPECT_EQ(form().cmdDigits.text, "Display(13)");
@@ -266,9 +257,7 @@ TEST_F(Settings, AnOptionWordWithoutDigitsGivesThirteen) {
 }
 
 TEST_F(Settings, AnOldDataVersionIsRefused) {
-    std::string old = bytes();
-    old.replace(kTextA + 28, 2, "07");
-    writeFile(SettingsFile::kName, old);
+    rewrite([](SettingsRecords& all) { all.setText(Setting::DataVersion, "07"); });
     start();
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].title, "Version Conflict!");
@@ -325,13 +314,13 @@ TEST_F(Settings, TheFirstNoticesOfTheKeypadsAreCounted) {
     choose(form().mnuEngNormal);
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].title, "Engineering Keypad");
-    EXPECT_EQ(text(kTextB, 1), "1");
+    EXPECT_EQ(text(Setting::EngineeringNotices), "1");
     for (int run = 0; run < 10; ++run) {
         start();
         choose(form().mnuEngNormal);
     }
     EXPECT_EQ(platform.boxes.size(), 7U);
-    EXPECT_EQ(text(kTextB, 1), "7");
+    EXPECT_EQ(text(Setting::EngineeringNotices), "7");
 }
 
 TEST_F(Settings, APasteTakesNumbersAndNumbersOfABase) {
