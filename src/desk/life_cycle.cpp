@@ -50,7 +50,9 @@ std::string zeroPadded(int value, std::size_t width) {
 
 void LifeCycle::Form_Load() {
     prepareForm();
-    if (!findSettings()) {
+    // The whole start is one look at the file.
+    const std::optional<SettingsRecords> records = findSettings();
+    if (!records) {
         return;
     }
     const auto report = [&](const Failure& failure) {
@@ -59,12 +61,12 @@ void LifeCycle::Form_Load() {
     };
     calc.s.CurrentProc = "Form_Load";
     const bool read = goOn(report, [&] {
-        readFirstRecord();
+        readNames(*records);
         if (calc.form.open) {
-            calc.units = settings.readUnits();
-            readOptions();
-            readProgramAndPlace();
-            readView();
+            calc.units = SettingsFile::units(*records);
+            readOptions(*records);
+            readProgramAndPlace(*records);
+            readView(*records);
         }
     });
     if (!read || !calc.form.open) {
@@ -101,7 +103,7 @@ void LifeCycle::endWith(std::string_view title, std::string_view text) {
     calc.form.open = false;
 }
 
-bool LifeCycle::findSettings() {
+std::optional<SettingsRecords> LifeCycle::findSettings() {
     calc.AppDataDir = calc.platform.dataFolder();
     settings.setPath(calc.AppDataDir / SettingsFile::kName);
     std::error_code error;
@@ -111,26 +113,37 @@ bool LifeCycle::findSettings() {
                                !std::filesystem::is_empty(calc.AppDataDir, error);
     if (!startedBefore && !std::filesystem::exists(settings.path(), error)) {
         firstStart();
-        return true;
+    } else {
+        sweepTemporaries(calc.AppDataDir);
     }
-    sweepTemporaries(calc.AppDataDir);
-    const auto missing = [&](const Failure& /*failure*/) {
+    std::optional<SettingsRecords> records;
+    const auto unreadable = [&](const Failure& failure) {
+        // What is there and whole, but does not open, is the user's and stays.
+        if (failure.number() != FailureNumber::DamagedFile &&
+            std::filesystem::is_regular_file(settings.path(), error)) {
+            keepInMemory("read from");
+            records = settings.read();
+            return;
+        }
         endWith("Error loading program!",
                 "There is a missing or corrupt file! Remove and reinstall the software, or see the help on support.");
         startAfresh();
     };
-    return goOn(missing, [&] { static_cast<void>(settings.read()); });
+    goOn(unreadable, [&] { records = settings.read(); });
+    return records;
+}
+
+void LifeCycle::keepInMemory(std::string_view what) {
+    settings.keepInMemory();
+    calc.message(BoxKind::Notice, "Settings",
+                 "The settings cannot be " + std::string(what) + " " + fromUnicode(calc.AppDataDir.string()) +
+                     ".\nThe calculator runs with its defaults, and nothing is kept when it ends.");
 }
 
 void LifeCycle::firstStart() {
     std::error_code ignored;
     std::filesystem::create_directories(calc.AppDataDir, ignored);
-    const auto cannotWrite = [&](const Failure& /*failure*/) {
-        settings.keepInMemory();
-        calc.message(BoxKind::Notice, "Settings",
-                     "The settings cannot be written to " + fromUnicode(calc.AppDataDir.string()) +
-                         ".\nThe calculator runs with its defaults, and nothing is kept when it ends.");
-    };
+    const auto cannotWrite = [&](const Failure& /*failure*/) { keepInMemory("written to"); };
     if (goOn(cannotWrite, [&] { settings.create(); })) {
         calc.platform.writeOption(kTipsOption, true);
     }
@@ -149,8 +162,7 @@ void LifeCycle::startAfresh() {
     goOn(stays, [&] { settings.create(); });
 }
 
-void LifeCycle::readFirstRecord() {
-    const SettingsRecords records = settings.read();
+void LifeCycle::readNames(const SettingsRecords& records) {
     const std::string version = records.text(Setting::DataVersion);
     if (numberIn(version, 0) < kOldestVersion) {
         endWith("Version Conflict!",
@@ -165,9 +177,8 @@ void LifeCycle::readFirstRecord() {
     calc.s.files.MemoryFileName = withoutTrailingBlanks(records.text(Setting::RegisterFile));
 }
 
-void LifeCycle::readOptions() {
+void LifeCycle::readOptions(const SettingsRecords& records) {
     EngineState& s = calc.s;
-    const SettingsRecords records = settings.read();
     std::string tax = records.text(Setting::TaxRate);
     std::replace(tax.begin(), tax.end(), '.', s.format.DecimalChar);
     constexpr double kUsualTax = 7.75;
@@ -178,9 +189,8 @@ void LifeCycle::readOptions() {
     s.files.AutoLoadProgram = calc.form.mnuLoad.checked;
 }
 
-void LifeCycle::readProgramAndPlace() {
+void LifeCycle::readProgramAndPlace(const SettingsRecords& records) {
     EngineState& s = calc.s;
-    const SettingsRecords records = settings.read();
     // By its name only: a record that names another folder was not written by this program.
     s.files.DefaultProgram =
         bareName(withoutTrailingBlanks(records.text(Setting::DefaultProgram).substr(0, kProgramNameRead)));
@@ -199,9 +209,8 @@ void LifeCycle::readProgramAndPlace() {
     s.format.WordSize = word >= 4 && word <= 64 ? word : 64;
 }
 
-void LifeCycle::readView() {
+void LifeCycle::readView(const SettingsRecords& records) {
     EngineState& s = calc.s;
-    const SettingsRecords records = settings.read();
     s.window.TallForm = records.on(Setting::Tall);
     // A word without a digits bit, which this program never writes, gives one digit more than the key takes.
     const int digits = records.chosen(Setting::Digits).value_or(kMaxDisplayDigits + 1);

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 namespace tallyforge {
@@ -44,13 +45,16 @@ public:
 
 private:
     void prepareForm();
-    bool findSettings();
+    /// The settings that the start goes by; none where it ends here.
+    [[nodiscard]] std::optional<SettingsRecords> findSettings();
+    /// The settings cannot be `what` the data folder: says so, and runs with the defaults.
+    void keepInMemory(std::string_view what);
     void firstStart();
     void startAfresh();
-    void readFirstRecord();
-    void readOptions();
-    void readProgramAndPlace();
-    void readView();
+    void readNames(const SettingsRecords& records);
+    void readOptions(const SettingsRecords& records);
+    void readProgramAndPlace(const SettingsRecords& records);
+    void readView(const SettingsRecords& records);
     void setAngle(AngleMode mode);
     void endWith(std::string_view title, std::string_view text);
     void writeOptions(SettingsRecords& records) const;

@@ -152,8 +152,7 @@ void SettingsFile::AdjustRecord(std::int64_t added, std::int64_t taken, int numb
     change([&](SettingsRecords& all) { all.setNumber(number, field, all.number(number, field) + added - taken); });
 }
 
-UnitWords SettingsFile::readUnits() const {
-    const SettingsRecords records = read();
+UnitWords SettingsFile::units(const SettingsRecords& records) {
     UnitWords words;
     for (const SettingRow& row : kSettings) {
         if (row.units != nullptr) {

@@ -70,8 +70,8 @@ public:
     /// Changes one numeric field of record 1 to 3 by `added` - `taken`.
     void AdjustRecord(std::int64_t added, std::int64_t taken, int number, RecordField field);
 
-    /// The five words of unit choices. Raises as read().
-    [[nodiscard]] UnitWords readUnits() const;
+    /// The five words of unit choices in `records`.
+    [[nodiscard]] static UnitWords units(const SettingsRecords& records);
     /// The bits of `mask` in one word become those of `chosen`; all others stay. Raises as write().
     void replaceUnits(UnitsWord word, std::uint32_t mask, std::uint32_t chosen);
     /// The words of a fresh file.

@@ -206,7 +206,7 @@ protected:
     SaveUnits() {
         file.setPath(platform.folder / SettingsFile::kName);
         file.create();
-        calc.units = file.readUnits();
+        calc.units = SettingsFile::units(file.read());
     }
     TestPlatform platform;
     Engine calc{platform};
@@ -215,7 +215,7 @@ protected:
 };
 
 TEST_F(SaveUnits, AFreshFileReadsAsTheFreshWords) {
-    EXPECT_EQ(file.readUnits(), SettingsFile::freshUnits());
+    EXPECT_EQ(SettingsFile::units(file.read()), SettingsFile::freshUnits());
 }
 
 TEST_F(SaveUnits, YesReplacesTheRangesInTheFileAndNoOtherBits) {
@@ -231,13 +231,13 @@ TEST_F(SaveUnits, YesReplacesTheRangesInTheFileAndNoOtherBits) {
     EXPECT_EQ(platform.boxes[0].kind, BoxKind::Plain);
     UnitWords wanted = SettingsFile::freshUnits();
     wanted.UnitsWordOhm = (wanted.UnitsWordOhm & ~(1U << 17 | 1U << 22)) | 1U << 18 | 1U << 20 | 1U << 4;
-    EXPECT_EQ(file.readUnits(), wanted);
+    EXPECT_EQ(SettingsFile::units(file.read()), wanted);
 }
 
 TEST_F(SaveUnits, NoLeavesTheFile) {
     chooseRow(kOhmP, 2, calc.units);
     askToSaveUnits(calc, file, ranges);
-    EXPECT_EQ(file.readUnits(), SettingsFile::freshUnits());
+    EXPECT_EQ(SettingsFile::units(file.read()), SettingsFile::freshUnits());
 }
 
 TEST_F(SaveUnits, AFileThatIsGoneIsReported) {
