@@ -168,6 +168,8 @@ public:
     Control* tabbedTo = nullptr;    ///< where Tab has led on a form with such a field
     Control* defaultKey = nullptr;  ///< clicked by Enter
     Control* cancelKey = nullptr;   ///< clicked by Esc
+    /// Stands under the pointer, where a platform has one.
+    const Control* pointed = nullptr;
 
     std::function<void()> load;  ///< before the form is shown
     /// Gives a dialog its left and top, after `load`; without one `place` stands. A dialog is then
@@ -178,6 +180,8 @@ public:
     std::function<void(const std::exception&)> failed;
     /// F1; a dialog with a `helpTopic` gets one when it opens.
     std::function<void()> help;
+    /// A mouse button went down where no control stands.
+    std::function<void(MouseButton, std::uint8_t shift)> mouseDown;
     /// Takes a text over to the clipboard.
     std::function<void(std::string_view)> copyText;
     /// Sees each key before the control that has the keyboard; returns whether it keeps it.

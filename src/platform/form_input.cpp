@@ -289,6 +289,10 @@ bool rightClick(Form& form, Control& control, std::uint8_t shift) {
     return true;
 }
 
+void rightClickForm(Form& form, std::uint8_t shift) {
+    guarded(form, [&] { runHandler(form.mouseDown, MouseButton::Right, shift); });
+}
+
 bool clickRow(Form& form, Control& list, std::size_t row) {
     if (!takesInput(list) || list.rows == nullptr || row >= list.rows->count()) {
         return false;

@@ -49,6 +49,9 @@ bool click(Form& form, Control& control, std::uint8_t shift = kNoModifier);
 /// Right mouse button, with the modifiers in force.
 bool rightClick(Form& form, Control& control, std::uint8_t shift);
 
+/// The same where no control stands.
+void rightClickForm(Form& form, std::uint8_t shift);
+
 /// Click or double click on row `row` of a list.
 bool clickRow(Form& form, Control& list, std::size_t row);
 bool doubleClickRow(Form& form, Control& list, std::size_t row);

@@ -7,6 +7,7 @@
 #include "platform/form_input.h"
 #include "platform/key_codes.h"
 #include "shell/clipboard.h"
+#include "shell/help_topics.h"
 #include "shell/loose_number.h"
 
 #include <algorithm>
@@ -106,8 +107,6 @@ void hangFunctionKeys(Engine& calc, Clipboard& clipboard) {
         click(form, *chosen.at(static_cast<std::size_t>(at)));
         return true;
     };
-    constexpr int kIntroduction = 500;
-    form.help = [&calc] { calc.platform.helpTopic(kIntroduction); };
 }
 
 }  // namespace
@@ -116,9 +115,8 @@ void hangWords(Engine& calc, Clipboard& clipboard) {
     MainForm& form = calc.form;
     form.txtXreg.resting = [&calc] { return restingX(calc); };
     form.lstDisplayReg.resting = [&calc] {
-        return static_cast<int>(calc.tape.count()) > calc.tape.fillers() || !calc.form.txtXreg.text.empty()
-                   ? std::string{}
-                   : std::string("3 Enter 4 + gives 7\nF1 shows help\nUp and Down change the keypad");
+        return showsFirstSteps(calc) ? std::string("3 Enter 4 + gives 7\nF1 shows help\nUp and Down change the keypad")
+                                     : std::string{};
     };
     for (Control& key : form.cmdFunctions) {
         key.words = [&calc, &key] { return bankWords(calc, key); };

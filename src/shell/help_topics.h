@@ -7,8 +7,12 @@ namespace tallyforge {
 
 class Engine;
 
+/// Nothing stands on the tape or is typed yet: the first steps show.
+[[nodiscard]] bool showsFirstSteps(const Engine& calc);
+
 /// Hangs the topics on the controls of the main form. A modifier held for the click opens none; a
-/// field opens its topic whatever is held.
+/// field opens its topic whatever is held. F1 opens that of what Tab has led to, of the key under
+/// the pointer, or of what has the keyboard.
 void hangHelpTopics(Engine& calc);
 
 }  // namespace tallyforge

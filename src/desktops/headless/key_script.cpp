@@ -313,7 +313,12 @@ void KeyScript::doubleClickRow(std::string_view rest) {
 }
 
 void KeyScript::rightClickControl(std::string_view rest) {
-    const Target at = target(takeWord(rest));
+    const std::string_view name = takeWord(rest);
+    std::string_view bare = name;
+    if (const std::uint8_t shift = takeModifiers(bare); bare == form().name) {
+        return withModifiers(shift, [&](std::uint8_t all) { rightClickForm(form(), all); });
+    }
+    const Target at = target(name);
     withModifiers(at.shift, [&](std::uint8_t shift) { rightClick(form(), *at.control, shift); });
 }
 

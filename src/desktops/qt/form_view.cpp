@@ -10,6 +10,7 @@
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -115,14 +116,14 @@ void FormView::changeEvent(QEvent* event) {
 }
 
 void FormView::pointAt(const Control* control) {
-    pointed_ = control;
+    form_.pointed = control;
     if (ControlWidget* line = form_.nameLine == nullptr ? nullptr : widgetOf(*form_.nameLine); line != nullptr) {
         line->sync(scale_, line->hasKeyboard());
     }
 }
 
 std::string FormView::nameLine() const {
-    return form_.lineFor(pointed_ != nullptr ? pointed_ : form_.tabbedTo);
+    return form_.lineFor(form_.pointed != nullptr ? form_.pointed : form_.tabbedTo);
 }
 
 void FormView::say(ControlWidget& widget, const QString& text) {
@@ -195,6 +196,13 @@ void FormView::clicked(Control& control, Qt::KeyboardModifiers modifiers) {
 
 void FormView::rightClicked(Control& control, Qt::KeyboardModifiers modifiers) {
     underModifiers(modifiers, [&] { rightClick(form_, control, modifierMask(modifiers)); });
+}
+
+void FormView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::RightButton) {
+        const Qt::KeyboardModifiers modifiers = event->modifiers();
+        underModifiers(modifiers, [&] { rightClickForm(form_, modifierMask(modifiers)); });
+    }
 }
 
 void FormView::rowClicked(Control& list, std::size_t row) {

@@ -67,6 +67,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override { keyPressed(*event); }
     void keyReleaseEvent(QKeyEvent* event) override { keyReleased(*event); }
@@ -96,7 +97,6 @@ private:
     std::vector<ControlWidget*> widgets_;
     QHash<const Control*, ControlWidget*> byControl_;
     ControlWidget* pressedKey_ = nullptr;
-    const Control* pointed_ = nullptr;
     QHash<const Control*, QString> told_;           ///< what was last announced of a label
     QHash<const Control*, std::uint64_t> counted_;  ///< and of a list
 };
