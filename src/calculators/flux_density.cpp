@@ -58,6 +58,7 @@ const CalculatorTable kFluxDensity{
     .title = "Flux Density Calculator",
     .name = "Flux Density",
     .procedure = "calcBm",
+    .helpTopic = 1807,
     .given = 4,
     .fields = kFields,
     .units = kUnits,

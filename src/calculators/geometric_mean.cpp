@@ -80,6 +80,7 @@ const CalculatorTable kGeometricMean{
     .title = "Calculate Geometic Mean",
     .name = "Geometric Mean",
     .procedure = "calcGeoMean",
+    .helpTopic = 1111,
     .fields = kFields,
     .units = kUnits,
     .solutions = kSolutions,

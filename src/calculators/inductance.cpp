@@ -103,6 +103,7 @@ const CalculatorTable kInductanceByPermeability{
     .title = "Inductance using Permeability (µ) Calculator"_t,
     .name = "Inductance",
     .procedure = "calcLmu",
+    .helpTopic = 1806,
     .given = 4,
     .fields = by_permeability::kFields,
     .units = by_permeability::kUnits,

@@ -44,6 +44,7 @@ constexpr CalculatorLook kLook{.form = "frmZn",
                                .title = "Calculate the Impedance of a Ladder Network",
                                .name = "Ladder Network",
                                .procedure = "CalcLNW",
+                               .helpTopic = 1116,
                                .hasUse = false,
                                .hasPicture = true};
 

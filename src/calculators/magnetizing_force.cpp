@@ -49,6 +49,7 @@ const CalculatorTable kMagnetizingForce{
     .title = "Magnetizing Force (H) Calculator",
     .name = "Magnetizing Force (H)",
     .procedure = "calcH",
+    .helpTopic = 1822,
     .given = 3,
     .fields = kFields,
     .units = kUnits,

@@ -24,6 +24,7 @@ constexpr CalculatorLook kLook{.form = "frmpoly",
                                .title = "Polynomial Calculator",
                                .name = "Polynomial",
                                .procedure = "SolvePoly",
+                               .helpTopic = 1110,
                                .hasUnits = false,
                                .hasUse = false,
                                .hasPicture = true};

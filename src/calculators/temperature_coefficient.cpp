@@ -110,6 +110,7 @@ const CalculatorTable kTemperatureCoefficient{
     .title = "Temperature Coefficient of Resistivity Calculator",
     .name = "Temperature Coefficient of Resistivity",
     .procedure = "TempCoRes",
+    .helpTopic = 1121,
     .given = 4,
     .fields = kFields,
     .solutions = kSolutions,

@@ -122,6 +122,7 @@ const ParameterTable kPwrSupCapTable{.form = "frmPwrSupCap",
                                      .formula = supplyFormula};
 const ParameterTable kResistivityTable{.form = "frmResistivity",
                                        .title = "Resistivity (rho)",
+                                       .helpTopic = 1120,
                                        .groups = kResistivityGroups,
                                        .formula = resistivityFormula,
                                        .hasValues = true};
@@ -158,7 +159,8 @@ const ParameterTable kPLTable{.form = "frmPL",
                                   "individual materials."_t,
                               .formula = ferriteFormula,
                               .wantsRow = true};
-const ParameterTable kAWGTable{.form = "frmAWG", .title = "AWG", .groups = kAWGGroups, .closesOnChoice = true};
+const ParameterTable kAWGTable{
+    .form = "frmAWG", .title = "AWG", .helpTopic = 1815, .groups = kAWGGroups, .closesOnChoice = true};
 
 void askWireBuild(Engine& calc, WireBuild& build) {
     std::optional<std::size_t> row = static_cast<std::size_t>(build);

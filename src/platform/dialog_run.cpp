@@ -26,8 +26,8 @@ void activateDialog(Form& dialog) {
 void runDialog(Platform& platform, Form& dialog, const std::function<void()>& untilClosed) {
     dialog.open = true;
     dialog.focusTold = nullptr;
-    if (dialog.helpTopic != 0 && !dialog.help) {
-        dialog.help = [&platform, topic = dialog.helpTopic] { platform.helpTopic(topic); };
+    if (!dialog.help) {
+        dialog.help = [&platform, &dialog] { platform.helpDialog(dialog.name, dialog.helpTopic); };
     }
     if (!dialog.failed) {
         dialog.failed = platform.handlerFailed;

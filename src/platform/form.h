@@ -169,7 +169,7 @@ public:
     Control* defaultKey = nullptr;  ///< clicked by Enter
     Control* cancelKey = nullptr;   ///< clicked by Esc
     /// Stands under the pointer, where a platform has one.
-    const Control* pointed = nullptr;
+    const Control* underPointer = nullptr;
 
     std::function<void()> load;  ///< before the form is shown
     /// Gives a dialog its left and top, after `load`; without one `place` stands. A dialog is then
@@ -178,7 +178,7 @@ public:
     /// A handler raised what it should have caught, or memory ran out in it; without one it goes on
     /// to whoever called form_input. A dialog gets the platform's when it opens.
     std::function<void(const std::exception&)> failed;
-    /// F1; a dialog with a `helpTopic` gets one when it opens.
+    /// F1; a dialog gets one when it opens.
     std::function<void()> help;
     /// A mouse button went down where no control stands.
     std::function<void(MouseButton, std::uint8_t shift)> mouseDown;

@@ -99,6 +99,13 @@ public:
     virtual void openUrl(std::string_view url) = 0;
     virtual void openFolder(const std::filesystem::path& folder) = 0;
     virtual void helpTopic(int topic) = 0;
+    /// F1 in the dialog of that form, which has this topic, or 0: the page about the dialog, where the
+    /// desktop knows one.
+    virtual void helpDialog(std::string_view /*form*/, int topic) {
+        if (topic != 0) {
+            helpTopic(topic);
+        }
+    }
     /// Lines about the desktop and its libraries, for a bug report; eight-bit.
     [[nodiscard]] virtual std::string systemInformation() const { return {}; }
 

@@ -29,6 +29,8 @@ std::string_view version() {
 }
 
 AboutDialog::AboutDialog(Engine& calculator) : Form("frmAbout", "About Tallyforge"), calc(calculator) {
+    constexpr int kSupport = 2100;
+    helpTopic = kSupport;
     place.width = kWidth;
     place.height = kHeight;
     const auto line = [](int number) { return Place{kMargin, kMargin + number * kLine, kWidth - 2 * kMargin, kLine}; };

@@ -40,7 +40,7 @@ bool isKey(const Control& control) {
 /// keyboard; nullptr where the keyboard is in the entry line.
 const Control* askedFor(const MainForm& form) {
     const Control* const candidates[] = {
-        form.tabbedTo, form.pointed != nullptr && isKey(*form.pointed) ? form.pointed : nullptr,
+        form.tabbedTo, form.underPointer != nullptr && isKey(*form.underPointer) ? form.underPointer : nullptr,
         form.focus != nullptr && form.focus->kind == ControlKind::Field ? form.focus : nullptr};
     for (const Control* control : candidates) {
         if (control != nullptr && control != form.typing && control->mouseDown && takesInput(*control)) {

@@ -52,6 +52,8 @@ std::vector<std::string> readTips(std::string_view file) {
 
 TipDialog::TipDialog(Engine& calculator, std::vector<std::string> tips)
     : Form("frmTip", "Tip of the Day"), calc(calculator), tips_(std::move(tips)) {
+    constexpr int kIntroduction = 500;
+    helpTopic = kIntroduction;
     place.width = kWidth;
     place.height = kHeight;
     const int keysTop = kHeight - kMargin - kKeyHeight;

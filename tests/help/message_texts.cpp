@@ -71,12 +71,21 @@ private:
     bool joins_ = false;
 };
 
-/// Sources whose sentences are no messages: what a picture shows, what a program's check tells.
+/// Sources whose sentences are no messages: notes beside a list, what a program's check tells.
 bool isOtherwise(const std::string& file) {
-    constexpr std::array<std::string_view, 8> kOthers{"program_check", "unit_document", "convert_lines", "headless",
-                                                      "desktops",      "/help/",        "pictures",      "sketch"};
+    constexpr std::array<std::string_view, 13> kOthers{
+        "program_check",   "unit_document", "convert_lines",   "headless",       "desktops",           "help/",
+        "pictures",        "sketch",        "hardware_charts", "material_lists", "physical_constants", "colour_code",
+        "parameter_tables"};
     return std::any_of(kOthers.begin(), kOthers.end(),
                        [&](std::string_view part) { return file.find(part) != std::string::npos; });
+}
+
+/// Labels and captions that end with a point.
+bool isLabel(std::string_view text) {
+    constexpr std::array<std::string_view, 5> kLabels{"Use Alt Click to save Cnv. Fctr.", "Reset Cheby.",
+                                                      "Reset Flux Cap.", "F9 or KP\nto Exit!", "&System Info..."};
+    return std::find(kLabels.begin(), kLabels.end(), text) != kLabels.end();
 }
 
 }  // namespace
@@ -87,7 +96,7 @@ const std::vector<MessageText>& messageTexts() {
         std::set<std::string> files;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
             const auto ending = entry.path().extension();
-            if ((ending == ".cpp" || ending == ".h") && !isOtherwise(entry.path().string())) {
+            if ((ending == ".cpp" || ending == ".h") && !isOtherwise(entry.path().lexically_relative(root).string())) {
                 files.insert(entry.path().string());
             }
         }
@@ -95,7 +104,7 @@ const std::vector<MessageText>& messageTexts() {
         for (const std::string& file : files) {
             const std::string source = readWhole(file);
             for (std::string& text : Literals(source).read()) {
-                if (isSentence(text)) {
+                if (isSentence(text) && !isLabel(text)) {
                     texts.push_back({.file = std::filesystem::path(file).filename().string(), .text = std::move(text)});
                 }
             }

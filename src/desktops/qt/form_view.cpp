@@ -116,14 +116,14 @@ void FormView::changeEvent(QEvent* event) {
 }
 
 void FormView::pointAt(const Control* control) {
-    form_.pointed = control;
+    form_.underPointer = control;
     if (ControlWidget* line = form_.nameLine == nullptr ? nullptr : widgetOf(*form_.nameLine); line != nullptr) {
         line->sync(scale_, line->hasKeyboard());
     }
 }
 
 std::string FormView::nameLine() const {
-    return form_.lineFor(form_.pointed != nullptr ? form_.pointed : form_.tabbedTo);
+    return form_.lineFor(form_.underPointer != nullptr ? form_.underPointer : form_.tabbedTo);
 }
 
 void FormView::say(ControlWidget& widget, const QString& text) {
