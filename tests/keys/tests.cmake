@@ -16,3 +16,7 @@ add_test(NAME keys_program
 
 # What a tip says to press is pressed by a script.
 add_test(NAME tips_tried COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_tips)
+
+# Sizes and materials in the help are the calculator's.
+add_test(NAME help_tables
+         COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_help_tables $<TARGET_FILE:tallyforge-keys>)
