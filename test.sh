@@ -29,6 +29,10 @@ run_tests() {
 step_layers() {
     tools/check_layers
     tests/tools/check_layers_test
+    tools/check_members
+    tests/tools/check_members_test
+    tools/check_subjects
+    tests/tools/check_subjects_test
 }
 
 step_format() {

@@ -119,9 +119,9 @@ public:
             times(9, a[3] * a[2] * a[1]) - times(27, a[3] * a[3] * a[0]) - times(2, a[2] * a[2] * a[2]);
         const ExactInteger d = times(4, p * p * p) + r * r;
         const long double lead = a[3].value();
-        Q_ = p.value() / (9.0L * lead * lead);
-        R_ = r.value() / (54.0L * lead * lead * lead);
-        D_ = d.value() / (2916.0L * lead * lead * lead * lead * lead * lead);
+        q_ = p.value() / (9.0L * lead * lead);
+        r_ = r.value() / (54.0L * lead * lead * lead);
+        d_ = d.value() / (2916.0L * lead * lead * lead * lead * lead * lead);
         kind_ = d.sign();
         shift_ = -a[2].value() / (3.0L * lead);
     }
@@ -130,13 +130,13 @@ public:
 
 private:
     [[nodiscard]] Roots oneReal() const {
-        const long double e = std::sqrt(D_);
+        const long double e = std::sqrt(d_);
         // The larger of the two cube roots; their product is -Q.
-        const long double t = std::cbrt(R_ < 0.0L ? R_ - e : R_ + e);
-        const long double u = -Q_ / t;
+        const long double t = std::cbrt(r_ < 0.0L ? r_ - e : r_ + e);
+        const long double u = -q_ / t;
         // t + u and |t - u| without a difference.
-        const long double y = 2.0L * R_ / (t * t + Q_ + u * u);
-        const long double apart = 2.0L * e / (t * t - Q_ + u * u);
+        const long double y = 2.0L * r_ / (t * t + q_ + u * u);
+        const long double apart = 2.0L * e / (t * t - q_ + u * u);
         const long double real = polished(coefficients_, y + shift_);
         Roots found;
         found.third = narrowed(real);
@@ -149,7 +149,7 @@ private:
 
     /// A double root, or a triple one.
     [[nodiscard]] Roots severalEqual() const {
-        const long double y = std::cbrt(R_);
+        const long double y = std::cbrt(r_);
         Roots found;
         found.third = narrowed(2.0L * y + shift_);
         found.first = found.second = narrowed(shift_ - y);
@@ -158,9 +158,9 @@ private:
 
     [[nodiscard]] Roots threeReal() const {
         constexpr long double kThirdOfACircle = 2.09439510239319549231L;
-        const long double angle = std::atan2(std::sqrt(-D_), R_) / 3.0L;
+        const long double angle = std::atan2(std::sqrt(-d_), r_) / 3.0L;
         const auto root = [&](long double turn) {
-            return narrowed(polished(coefficients_, 2.0L * std::sqrt(-Q_) * std::cos(angle + turn) + shift_));
+            return narrowed(polished(coefficients_, 2.0L * std::sqrt(-q_) * std::cos(angle + turn) + shift_));
         };
         Roots found;
         found.third = root(0.0L);
@@ -176,9 +176,9 @@ private:
     }
 
     std::array<long double, 4> coefficients_;
-    long double Q_;
-    long double R_;
-    long double D_;
+    long double q_;
+    long double r_;
+    long double d_;
     long double shift_;
     int kind_;
 };
