@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// tallyforge: the calculator in its window. With --render FILE.png [SCRIPT] it draws the window as
-// it stands after a key script into a picture, or the dialog that the script has left open, and ends.
+// tallyforge: the calculator in its window, with the program or tape that it is given. With --render FILE.png [SCRIPT]
+// it draws the window as it stands after a key script into a picture, or the dialog that the script has left open, and
+// ends; with
+// --print FILE.pdf [SCRIPT] it writes the page that is printed then.
 #include "desktops/headless/key_script.h"
 #include "desktops/qt/control_interface.h"
 #include "desktops/qt/dialog_view.h"
 #include "desktops/qt/form_view.h"
 #include "desktops/qt/main_window.h"
+#include "desktops/qt/printing_output.h"
 #include "desktops/qt/qt_platform.h"
+#include "platform/form_input.h"
 #include "shell/calculator.h"
 
 #include <QApplication>
@@ -18,9 +22,11 @@
 #include <QTimer>
 #include <csignal>
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <utility>
 
 namespace {
 
@@ -43,6 +49,19 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// Opens the script that is named; none is an empty one.
+bool openScript(const QString& name, std::ifstream& file) {
+    if (name.isEmpty()) {
+        return true;
+    }
+    file.open(name.toStdString());
+    if (!file || std::filesystem::is_directory(name.toStdString())) {
+        std::cerr << "tallyforge: cannot read " << name.toStdString() << '\n';
+        return false;
+    }
+    return true;
+}
+
 /// Runs the script without a desktop and draws the form that it leaves.
 int render(const QString& picture, const QString& script, double scale) {
     const QTemporaryDir folder;
@@ -51,9 +70,8 @@ int render(const QString& picture, const QString& script, double scale) {
     std::ostringstream complaints;
     KeyScript keys(
         options, [](std::string_view) {}, [&](std::string_view line) { complaints << line << '\n'; });
-    std::ifstream file(script.toStdString());
-    if (!script.isEmpty() && !file) {
-        std::cerr << "tallyforge: cannot read " << script.toStdString() << '\n';
+    std::ifstream file;
+    if (!openScript(script, file)) {
         return 2;
     }
     std::istringstream nothing;
@@ -87,7 +105,48 @@ int render(const QString& picture, const QString& script, double scale) {
     return 0;
 }
 
-int showWindow() {
+/// Runs the script without a desktop, and writes what its calculator would print then as PDF, or
+/// what the dialog prints that the script has left open.
+int printTo(const QString& pdf, const QString& script) {
+    const QTemporaryDir folder;
+    bool atEnd = false;
+    qt::PrintEnd end = qt::PrintEnd::Failed;
+    HeadlessOptions options;
+    options.data = folder.path().toStdString();
+    options.home = QApplication::applicationDirPath().toStdString();
+    options.shortDate = [](const LocalTime& day) { return qt::QtPlatform().shortDate(day); };
+    options.print = [&](const PrintJob& job) {
+        if (atEnd) {
+            end = qt::writePdf(pdf, job, qt::usualPage());
+        }
+    };
+    KeyScript keys(
+        options, [](std::string_view) {}, [](std::string_view line) { std::cerr << line << '\n'; });
+    keys.leftOpen = [&](Form& dialog) {
+        atEnd = true;
+        pressKey(dialog, {.keyCode = 'P', .shift = kCtrl, .character = 'P' - '@'});
+    };
+    std::ifstream file;
+    std::istringstream nothing;
+    if (!openScript(script, file)) {
+        return 2;
+    }
+    if (keys.run(script.isEmpty() ? static_cast<std::istream&>(nothing) : file) == ScriptEnd::WrongScript) {
+        return 2;
+    }
+    if (!std::exchange(atEnd, true)) {
+        MainForm& form = keys.calculator().engine().form;
+        click(form, form.mnuPrint);
+    }
+    if (end != qt::PrintEnd::Done) {
+        std::cerr << "tallyforge: cannot write " << pdf.toStdString() << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+/// Shows the calculator, and opens the file that it was started with.
+int showWindow(const QString& file) {
     qt::QtPlatform platform;
     Calculator calculator(platform);
     calculator.load();
@@ -107,6 +166,9 @@ int showWindow() {
     window.show();
     QTimer::singleShot(0, &window, [&] {
         calculator.activate();
+        if (!file.isEmpty()) {
+            calculator.openFile(file.toStdString());
+        }
         window.view().sync();
     });
     return QApplication::exec();
@@ -134,9 +196,14 @@ int main(int argc, char** argv) {
     if (renders && words.size() >= 2 && words.front() == "--render" && scale > 0.0) {
         return render(words.at(1), words.value(2), scale);
     }
-    if (!words.isEmpty()) {
-        std::cerr << "usage: tallyforge [--render FILE.png [SCRIPT] [--scale N]] [--dark]\n";
+    if (words.size() >= 2 && words.size() <= 3 && words.front() == "--print") {
+        return printTo(words.at(1), words.value(2));
+    }
+    if (words.size() > 1 || words.value(0).startsWith('-')) {
+        std::cerr << "usage: tallyforge [FILE.rec|FILE.tape] [--dark]\n"
+                     "       tallyforge --render FILE.png [SCRIPT] [--scale N] [--dark]\n"
+                     "       tallyforge --print FILE.pdf [SCRIPT]\n";
         return 2;
     }
-    return showWindow();
+    return showWindow(words.value(0));
 }

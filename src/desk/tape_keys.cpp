@@ -155,9 +155,24 @@ std::optional<std::filesystem::path> TapeKeys::askForTape() {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     const auto path = askWhatToRetrieve(calc, "Retrieve Running Tape", calc.s.files.TapeFileName);
-    const bool agreed =
-        path && calc.question("Overwrite?", "This will overwrite all your current information, continue?");
-    return agreed ? path : std::nullopt;
+    return path && mayReplaceAll() ? path : std::nullopt;
+}
+
+bool TapeKeys::mayReplaceAll() {
+    return calc.question("Overwrite?", "This will overwrite all your current information, continue?");
+}
+
+void TapeKeys::retrieveOrReport(const std::filesystem::path& path) {
+    const auto report = [&](const Failure& failure) { calc.errorBox(BoxKind::Notice, retrievalMessage(failure)); };
+    goOn(report, [&] { retrieve(path); });
+}
+
+void TapeKeys::openFile(const std::filesystem::path& path) {
+    calc.s.CurrentProc = "mnuTape";
+    if (mayReplaceAll()) {
+        retrieveOrReport(path);
+    }
+    calc.s.CurrentProc = "";
 }
 
 void TapeKeys::mnuTape_Click() {
@@ -170,7 +185,7 @@ void TapeKeys::mnuTape_Click() {
     if (undoes) {
         goOn(report, [&] { undo(); });
     } else if (path) {
-        goOn(report, [&] { retrieve(*path); });
+        retrieveOrReport(*path);
     }
     s.files.UndoKind = TapeFileKind::None;
     s.CurrentProc = "";

@@ -32,6 +32,9 @@ public:
     /// or not at all.
     void mnuTape_Click();
 
+    /// Retrieves the file at `path`, after the question of the menu entry.
+    void openFile(const std::filesystem::path& path);
+
     /// Takes the "undo.rec" that there is at the start for one of an earlier run; a later one that
     /// this calculator has not written is another's. Called once the data folder is known.
     void noteUndoFile();
@@ -39,6 +42,8 @@ public:
 private:
     void saveTo(const std::filesystem::path& path);
     void retrieve(const std::filesystem::path& path);
+    [[nodiscard]] bool mayReplaceAll();
+    void retrieveOrReport(const std::filesystem::path& path);
     void restore(const TapeFileContent& content);
     void keepForUndo(const TapeFileContent& content);
     void undo();

@@ -4,6 +4,7 @@
 #include "engine/engine.h"
 #include "numbers/number_format.h"
 #include "numbers/out_of_range.h"
+#include "platform/form_drawing.h"
 #include "platform/key_codes.h"
 
 #include <algorithm>
@@ -125,6 +126,15 @@ void CalculatorForm::typeInField(int index, int& key) {
 }
 
 // Tab belongs to the fields; with Ctrl it leaves them for the keys and comes back from there.
+bool CalculatorForm::printsPage(KeyEvent event) {
+    if (event.keyCode != 'P' || event.shift != kCtrl) {
+        return false;
+    }
+    constexpr Font kTitle{.points = 14.0F, .bold = true};
+    calc.platform.print({.title = {title, kTitle}, .blocks = {}, .pictures = {drawnForm(*this)}});
+    return true;
+}
+
 bool CalculatorForm::leavesFields(KeyEvent event) {
     if (event.keyCode != kKeyTab || (event.shift & kCtrl) == 0) {
         return false;
@@ -240,7 +250,7 @@ void CalculatorForm::keepOption(int index) {
 
 void CalculatorForm::showPicture(Drawing drawing) {
     picture_.spoken = drawing.described;
-    picture_.tip = drawing.described;
+    picture_.tip = " " + drawing.described + " [Ctrl+P prints it] ";
     picture_.drawing = std::move(drawing);
 }
 

@@ -127,6 +127,8 @@ private:
     void enterField(int index);
     void typeInField(int index, int& key);
     [[nodiscard]] bool leavesFields(KeyEvent event);
+    /// Ctrl+P: what the fields show, and the picture beside them.
+    [[nodiscard]] bool printsPage(KeyEvent event);
     void arrange();
     [[nodiscard]] int arrangeFrames(int left);
     void exitCaption(Control& key);

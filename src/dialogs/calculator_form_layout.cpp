@@ -50,7 +50,7 @@ CalculatorForm::CalculatorForm(Engine& calculator, const CalculatorLook& formLoo
         place.left = at.DialogLeft;
         place.top = at.DialogTop;
     };
-    preview = [this](KeyEvent event) { return leavesFields(event); };
+    preview = [this](KeyEvent event) { return printsPage(event) || leavesFields(event); };
 }
 
 void CalculatorForm::addField(std::string_view symbol, std::string_view fieldName, FieldRules rules, Face face) {

@@ -141,7 +141,7 @@ void ChartDialog::copy() {
 }
 
 void ChartDialog::print() {
-    calc.platform.print(chartLines(chart_));
+    calc.platform.print(chartPage(chart_, chosen()));
 }
 
 void ChartDialog::arrange() {

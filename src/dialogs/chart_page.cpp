@@ -2,6 +2,8 @@
 #include "dialogs/chart_page.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace tallyforge {
 
@@ -18,7 +20,7 @@ std::string filled(const std::string& cell, std::size_t width, bool right) {
 
 }  // namespace
 
-std::vector<PrintLine> chartLines(const Chart& chart) {
+PrintJob chartPage(const Chart& chart, std::optional<std::size_t> chosen) {
     std::vector<std::size_t> widths;
     for (std::size_t column = 0; column < chart.columns.size(); ++column) {
         widths.push_back(columnHead(chart.columns[column]).size());
@@ -35,20 +37,22 @@ std::vector<PrintLine> chartLines(const Chart& chart) {
         return text.erase(text.find_last_not_of(' ') + 1);
     };
     const std::string heads = line([&](std::size_t column) { return columnHead(chart.columns[column]); });
-    std::vector<PrintLine> lines{{chart.title, {.points = 14.0F, .bold = true}},
-                                 {{}, kTable},
-                                 {heads, kTable},
-                                 {std::string(heads.size(), '-'), kTable}};
+    std::vector<std::string> lines{{}, heads, std::string(heads.size(), '-')};
     for (const ChartRow& row : chart.rows) {
-        lines.push_back({line([&](std::size_t column) { return row.cells[column]; }), kTable});
+        lines.push_back(line([&](std::size_t column) { return row.cells[column]; }));
     }
+    PrintJob job{.title = {chart.title, {.points = 14.0F, .bold = true}},
+                 .blocks = {blockOf(std::move(lines), kTable)}};
     for (const std::string& text : {chart.note, chart.source}) {
         if (!text.empty()) {
-            lines.push_back({{}, kTable});
-            lines.push_back({text, {.points = 8.0F}});
+            job.blocks.push_back(blockOf({{}}, kTable));
+            job.blocks.push_back(blockOf({text}, {.points = 8.0F}));
         }
     }
-    return lines;
+    if (chart.figure) {
+        job.pictures.push_back(chart.figure(chosen));
+    }
+    return job;
 }
 
 }  // namespace tallyforge

@@ -380,9 +380,13 @@ void MainForm::dressMenus() {
         {mnuMag, "mnuMag", "mnuKeypad", "&Magnetics"},
         {mnuTrig, "mnuTrig", "mnuKeypad", "&Trig"},
         {mnuConvert, "mnuConvert", "mnuKeypad", "Co&nvert"},
+        {mnuExport, "mnuExport", "", "&Export"},
+        {mnuExportText, "mnuExportText", "mnuExport", "Tape as &Text"},
+        {mnuExportCsv, "mnuExportCsv", "mnuExport", "Tape as &CSV"},
+        {mnuExportHtml, "mnuExportHtml", "mnuExport", "Tape as &HTML"},
     };
     for (const Entry& entry : entries) {
-        const bool holds = &entry.control == &mnuFile || &entry.control == &mnuKeypad || &entry.control == &mnuHelp;
+        const bool holds = entry.menu.empty() || &entry.control == &mnuHelp;
         const ControlKind kind = holds                  ? ControlKind::Menu
                                  : entry.caption == "-" ? ControlKind::Separator
                                                         : ControlKind::MenuEntry;

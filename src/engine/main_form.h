@@ -53,12 +53,13 @@ public:
     std::array<Control, kRegisters> txtReg_m, lblErg_m;
 
     // Menus.
-    Control mnuFile, mnuKeypad, mnuHelp;
+    Control mnuFile, mnuKeypad, mnuHelp, mnuExport;
     Control mnuTip, mnuAOT, mnuLoad, mnuPosition, mnuSkins, space6, mnuCopy, mnuPaste, mnuPrint, space4, mnuWeb,
         mnuVersion, space0, mnuAbout, Space3, mnuSave, mnuSaveTape, mnuSaveMem, space2, mnuTape, mnuRetMem, mnuProgram,
         space5, mnuFileExit;
     Control mnuHelpIntro, mnuHlepStd, mnuEngKp, mnuBKP, mnuMagKp, mnuTrigKp, mnuCvrtKp, mnuHelpSupport;
     Control mnuStd, mnuEngNormal, mnuEngBinary, mnuMag, mnuTrig, mnuConvert;
+    Control mnuExportText, mnuExportCsv, mnuExportHtml;
 
     /// Form widths in twips, plain and extended.
     static constexpr int kPlainWidth = 5310;

@@ -5,6 +5,8 @@
 // handler may change it. What it shows is said in words beside it, for whoever cannot see it.
 #pragma once
 
+#include "platform/text.h"
+
 #include <cstdint>
 #include <string>
 #include <variant>
@@ -79,11 +81,12 @@ enum class TextAlign : std::uint8_t { Left, Centre, Right };
 
 struct DrawnText {
     DrawnPoint at;       ///< left end, middle or right end of the base line
-    std::string text;    ///< eight-bit
+    std::string text;    ///< eight-bit, as `face` shows it
     float size = 10.0F;  ///< height of the font in the picture's units
     TextAlign align = TextAlign::Left;
     Colour colour{};
     bool bold = false;
+    Face face = Face::Arial;
     friend bool operator==(const DrawnText&, const DrawnText&) = default;
 };
 

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "platform/form.h"
+#include "platform/print_job.h"
 
 #include <chrono>
 #include <cstdint>
@@ -35,6 +36,9 @@ struct InputBox {
     std::string preset;
     /// A file's name is asked for: the answer is UTF-8, as names are on disk, and not eight-bit.
     bool fileName = false;
+    /// A file with this extension (".csv") is to be written, and the answer may lead to any folder:
+    /// a desktop that has a file chooser shows that one. Empty for all other questions.
+    std::string writes{};
 };
 
 /// Sizes of the desktop. Heights in pixels, screen in twips.
@@ -54,12 +58,6 @@ struct LocalTime {
     int hour = 0;    ///< 0 to 23
     int minute = 0;  ///< 0 to 59
     int second = 0;  ///< 0 to 59
-};
-
-/// A line of print: text with its font.
-struct PrintLine {
-    std::string text;
-    Font font;
 };
 
 /// How the user wants a running program ended: at once, or after a question.
@@ -94,7 +92,10 @@ public:
     [[nodiscard]] virtual std::string clipboardText() const = 0;
     virtual void setClipboardText(std::string_view text) = 0;
 
-    virtual void print(std::span<const PrintLine> lines) = 0;
+    /// Prints, after whatever the desktop asks for.
+    virtual void print(const PrintJob& job) = 0;
+    /// The date as the user's locale writes it short; eight-bit.
+    [[nodiscard]] virtual std::string shortDate(const LocalTime& day) const = 0;
     virtual void playSound(std::span<const std::uint8_t> wave) = 0;
     virtual void openUrl(std::string_view url) = 0;
     virtual void openFolder(const std::filesystem::path& folder) = 0;

@@ -103,6 +103,23 @@ void Programs::rememberDefault(const std::string& name) {
          [&] { parts.settings.change([&](SettingsRecords& all) { all.setText(Setting::DefaultProgram, name); }); });
 }
 
+void Programs::openFile(const std::filesystem::path& file) {
+    if (running()) {
+        return;
+    }
+    const std::string name = nameOf(file);
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(file, error)) {
+        fail("File not found!");
+    } else if (pathOf(name) != file.filename()) {
+        fail("Please rename your program, its name has letters that cannot be kept.");
+    } else if (agreed(name)) {
+        calc.s.files.DefaultProgram = name;
+        load(file.parent_path(), name);
+    }
+    calc.focusEntry();
+}
+
 void Programs::loadBuiltIn(const std::string& name) {
     if (running()) {
         return;

@@ -8,6 +8,7 @@
 #include "program/program_run.h"
 #include "program/program_state.h"
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,8 @@ public:
     /// The command Load Program: asks for a file, loads it and runs its "init" section. Takes the
     /// default program without asking where the start of the calculator wants it.
     void mnuProgram_Click();
+    /// Loads the program of that file, with the questions of Load Program but the one for its name.
+    void openFile(const std::filesystem::path& file);
     /// Loads a program that belongs to a key, without asking; the default program stays.
     void loadBuiltIn(const std::string& name);
     /// Reset in Program mode: "init" runs, then the mode is left.

@@ -28,17 +28,20 @@ std::string firstCharacters(const std::string& text, std::size_t most) {
     return text;
 }
 
-/// A file of the data folder by the name that was entered (UTF-8), without any folder in it; empty
-/// where that leaves no name.
-std::optional<std::filesystem::path> inDataFolder(const Engine& calc, const std::string& entered) {
-    const std::string name = std::filesystem::path(firstCharacters(entered, kNameLength)).filename().string();
+bool isName(const std::string& name) {
     const bool blank = name.find_first_not_of(' ') == name.npos;
     const bool control = std::any_of(name.begin(), name.end(), [](char c) {
         constexpr unsigned char kDelete = 127;
         return static_cast<unsigned char>(c) < ' ' || static_cast<unsigned char>(c) == kDelete;
     });
-    const bool noName = blank || control || name == "." || name == "..";
-    return noName ? std::nullopt : std::optional{calc.AppDataDir / name};
+    return !blank && !control && name != "." && name != "..";
+}
+
+/// A file of the data folder by the name that was entered (UTF-8), without any folder in it; empty
+/// where that leaves no name.
+std::optional<std::filesystem::path> inDataFolder(const Engine& calc, const std::string& entered) {
+    const std::string name = std::filesystem::path(firstCharacters(entered, kNameLength)).filename().string();
+    return isName(name) ? std::optional{calc.AppDataDir / name} : std::nullopt;
 }
 
 /// Asks until the answer is a name, or none was given.
@@ -50,8 +53,7 @@ std::optional<std::filesystem::path> askForName(Engine& calc, const InputBox& bo
             return std::nullopt;
         }
         auto path = inDataFolder(calc, entered);
-        const std::string_view complaint =
-            path ? refused(*path) : "That is no name for a file, please enter another one.";
+        const std::string_view complaint = path ? refused(*path) : kNoFileName;
         if (complaint.empty()) {
             return path;
         }
@@ -61,6 +63,22 @@ std::optional<std::filesystem::path> askForName(Engine& calc, const InputBox& bo
 
 }  // namespace
 
+std::string_view complaintAboutName(const std::filesystem::path& path) {
+    const std::string name = path.filename().string();
+    if (!isName(name)) {
+        return kNoFileName;
+    }
+    if (name == kUndoFile) {
+        return "Reset keeps what it clears under this name, please choose another one.";
+    }
+    return name.starts_with('.') ? "Names that begin with a point are the calculator's own, please choose another one."
+                                 : "";
+}
+
+bool mayOverwrite(Engine& calc, const std::filesystem::path& path) {
+    return calc.question("File Exists!", nameOf(path) + " exists, do you want to overwrite it?");
+}
+
 std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_view title, const std::string& preset) {
     const InputBox box{
         .title = std::string(title),
@@ -69,19 +87,10 @@ std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_vi
             "file is saved in the Oakhollow Application Data Folder. ",
         .preset = preset,
         .fileName = true};
-    const auto refused = [](const std::filesystem::path& path) -> std::string_view {
-        if (path.filename() == kUndoFile) {
-            return "Reset keeps what it clears under this name, please choose another one.";
-        }
-        return path.filename().string().starts_with('.')
-                   ? "Names that begin with a point are the calculator's own, please choose another one."
-                   : "";
-    };
     for (;;) {
-        auto path = askForName(calc, box, refused);
+        auto path = askForName(calc, box, complaintAboutName);
         std::error_code ignored;
-        if (!path || !std::filesystem::exists(*path, ignored) ||
-            calc.question("File Exists!", nameOf(*path) + " exists, do you want to overwrite it?")) {
+        if (!path || !std::filesystem::exists(*path, ignored) || mayOverwrite(calc, *path)) {
             return path;
         }
     }

@@ -24,6 +24,13 @@ inline constexpr const char* kUndoFile = "undo.rec";
 /// Which default file name is meant.
 enum class DefaultName { Tape, Registers };
 
+inline constexpr std::string_view kNoFileName = "That is no name for a file, please enter another one.";
+/// What speaks against saving a file of the user's at `path`: a control character in its name, or a
+/// name that the calculator keeps for itself. Empty for a name that will do.
+[[nodiscard]] std::string_view complaintAboutName(const std::filesystem::path& path);
+/// Asks whether the file that is there may be replaced.
+[[nodiscard]] bool mayOverwrite(Engine& calc, const std::filesystem::path& path);
+
 /// Asks for the name of a file to save in the data folder, and whether one that exists may be
 /// overwritten. Empty where the user gave none.
 [[nodiscard]] std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_view title,

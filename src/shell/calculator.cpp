@@ -2,6 +2,7 @@
 #include "shell/calculator.h"
 
 #include "dialogs/unit_choice.h"
+#include "platform/file_name.h"
 #include "shell/about_dialog.h"
 #include "shell/form_words.h"
 #include "shell/help_topics.h"
@@ -25,6 +26,7 @@ Calculator::Calculator(Platform& platform)
       lifeCycle_(engine_, settings_, viewKeys_),
       clipboard_(engine_),
       printing_(engine_),
+      tapeExport_(engine_),
       programs_({.calc = engine_,
                  .keypads = keypads_,
                  .stackKeys = stackKeys_,
@@ -115,6 +117,9 @@ void Calculator::hangMenus() {
     form.mnuCopy.click = [this] { clipboard_.mnuCopy_Click(); };
     form.mnuPaste.click = [this] { clipboard_.mnuPaste_Click(); };
     form.mnuPrint.click = [this] { printing_.mnuPrint_Click(); };
+    form.mnuExportText.click = [this] { tapeExport_.mnuExportText_Click(); };
+    form.mnuExportCsv.click = [this] { tapeExport_.mnuExportCsv_Click(); };
+    form.mnuExportHtml.click = [this] { tapeExport_.mnuExportHtml_Click(); };
     form.mnuTip.click = [this] { engine_.form.mnuTip.checked = showTips(engine_); };
     keypads_.above.showTips = [this] { return showTips(engine_); };
     form.mnuAbout.click = [this] {
@@ -131,6 +136,20 @@ void Calculator::hangMenus() {
     form.mnuSaveMem.click = [this] { registers_.mnuSaveMem_Click(); };
     form.mnuRetMem.click = [this] { registers_.mnuRetMem_Click(); };
     form.mnuFileExit.click = [this] { lifeCycle_.Form_Unload(); };
+}
+
+void Calculator::openFile(const std::filesystem::path& file) {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::absolute(file, error);
+    if (path.extension() == ".rec") {
+        programs_.openFile(path);
+    } else if (path.extension() == ".tape") {
+        tapeKeys_.openFile(path);
+    } else {
+        engine_.message(BoxKind::Stop, "Open File",
+                        nameOf(path) + " is no program (.rec) and no running tape (.tape).");
+    }
+    engine_.focusEntry();
 }
 
 void Calculator::hangHelpMenu() {

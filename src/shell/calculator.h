@@ -18,9 +18,11 @@
 #include "records/settings_file.h"
 #include "shell/clipboard.h"
 #include "shell/printing.h"
+#include "shell/tape_export.h"
 
 #include <cstddef>
 #include <exception>
+#include <filesystem>
 #include <optional>
 
 namespace tallyforge {
@@ -40,6 +42,11 @@ public:
 
     [[nodiscard]] Engine& engine() { return engine_; }
     [[nodiscard]] const Engine& engine() const { return engine_; }
+    /// Takes a file of the user's that the desktop was asked to open: loads a program (".rec"),
+    /// retrieves a tape (".tape"), both with the questions of their menu entries. A message tells
+    /// what is neither, not there or damaged.
+    void openFile(const std::filesystem::path& file);
+
     [[nodiscard]] Programs& programs() { return programs_; }
 
     /// Row of a list by the number that a user gives it: tape line from 1 without the filler
@@ -70,6 +77,7 @@ private:
     LifeCycle lifeCycle_;
     Clipboard clipboard_;
     Printing printing_;
+    TapeExport tapeExport_;
     Programs programs_;
 };
 

@@ -2,9 +2,11 @@
 #include "shell/printing.h"
 
 #include "engine/engine.h"
+#include "shell/tape_columns.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <utility>
+#include <vector>
 
 namespace tallyforge {
 
@@ -15,33 +17,17 @@ constexpr std::size_t kLabelColumn = 24;
 constexpr std::size_t kValueColumn = 20;
 constexpr float kTapePoints = 12.0F;
 
-std::string withoutBlanksBehind(std::string_view text) {
-    return std::string(text.substr(0, text.find_last_not_of(' ') + 1));
-}
-
 }  // namespace
 
 std::string inPrintColumns(std::string_view tapeLine) {
-    const std::string line = withoutBlanksBehind(tapeLine);
-    const auto blank = line.rfind(' ');
-    std::string label =
-        blank == line.npos ? std::string{} : withoutBlanksBehind(std::string_view(line).substr(0, blank));
-    std::string value = blank == line.npos ? line : line.substr(blank + 1);
+    const TapeColumns columns = columnsOf(tapeLine);
+    std::string label(columns.label);
+    std::string value(columns.value);
     label.resize(std::max(label.size(), kLabelColumn), ' ');
     if (value.size() < kValueColumn) {
         value.insert(0, kValueColumn - value.size(), ' ');
     }
     return label + value;
-}
-
-std::string shortDate(const LocalTime& day, char decimal) {
-    char text[32];
-    if (decimal == ',') {
-        std::snprintf(text, sizeof text, "%02d.%02d.%04d", day.day, day.month, day.year);
-    } else {
-        std::snprintf(text, sizeof text, "%d/%d/%04d", day.month, day.day, day.year);
-    }
-    return text;
 }
 
 // What is empty prints as the 0 that it counts as.
@@ -50,33 +36,35 @@ std::string Printing::value(const ValueCell& cell) const {
     return calc.patternText(empty ? ValueCell::zero() : cell, kPattern);
 }
 
-std::vector<PrintLine> Printing::lines() const {
+PrintJob Printing::page() const {
     const EngineState& s = calc.s;
     const Font title{.face = Face::Arial, .points = kTapePoints};
     const Font tape{.face = Face::Terminal, .points = kTapePoints};
-    std::vector<PrintLine> page;
-    page.push_back(
-        {"Tallyforge Running Tape Display  --  " + shortDate(calc.platform.now(), s.format.DecimalChar), title});
-    for (auto row = static_cast<std::size_t>(calc.tape.fillers()); row < calc.tape.count(); ++row) {
-        page.push_back({inPrintColumns(calc.tape.row(row)), tape});
-    }
-    page.push_back({"Registers", title});
-    page.push_back({"x-reg: " + value(s.stack.Xreg) + "  |  y-reg: " + value(s.stack.Yreg) +
-                        "  |  Lastx: " + value(s.stack.LastX) + "  |  Bank: " + std::to_string(s.stack.depth()),
-                    tape});
+    const auto first = static_cast<std::size_t>(calc.tape.fillers());
+    std::vector<std::string> values{"x-reg: " + value(s.stack.Xreg) + "  |  y-reg: " + value(s.stack.Yreg) +
+                                    "  |  Lastx: " + value(s.stack.LastX) +
+                                    "  |  Bank: " + std::to_string(s.stack.depth())};
     for (std::size_t number = 1; number < s.memory.Registers.size(); number += 2) {
-        page.push_back({"reg" + std::to_string(number) + ": " + value(s.memory.Registers.at(number)) + " |  reg" +
-                            std::to_string(number + 1) + ": " + value(s.memory.Registers.at(number + 1)),
-                        tape});
+        values.push_back("reg" + std::to_string(number) + ": " + value(s.memory.Registers.at(number)) + " |  reg" +
+                         std::to_string(number + 1) + ": " + value(s.memory.Registers.at(number + 1)));
     }
-    return page;
+    PrintJob job{
+        .title = {"Tallyforge Running Tape Display  --  " + calc.platform.shortDate(calc.platform.now()), title},
+        .blocks = {}};
+    job.blocks.push_back({.font = tape, .count = calc.tape.lines(), .line = [this, first](std::size_t index) {
+                              return inPrintColumns(calc.tape.row(first + index));
+                          }});
+    job.blocks.push_back(blockOf({"Registers"}, title));
+    job.blocks.back().heading = true;
+    job.blocks.push_back(blockOf(std::move(values), tape));
+    return job;
 }
 
 void Printing::mnuPrint_Click() {
     calc.s.CurrentProc = "mnuPrint";
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
-    calc.platform.print(lines());
+    calc.platform.print(page());
     calc.focusEntry();
 }
 

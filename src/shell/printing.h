@@ -7,7 +7,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tallyforge {
 
@@ -17,11 +16,11 @@ class Printing {
 public:
     explicit Printing(Engine& calculator) : calc(calculator) {}
 
-    /// Hands the page's lines to the platform's printer.
+    /// Hands the tape, the state and the registers to the platform's printer.
     void mnuPrint_Click();
 
-    /// The lines of the page, top to bottom.
-    [[nodiscard]] std::vector<PrintLine> lines() const;
+    /// What is printed. It reads the tape when a line is asked for.
+    [[nodiscard]] PrintJob page() const;
 
 private:
     [[nodiscard]] std::string value(const class ValueCell& cell) const;
@@ -32,8 +31,5 @@ private:
 /// A tape line in two columns: what stands before its last blank, and the value behind it, so that
 /// values end in one column whatever their label.
 [[nodiscard]] std::string inPrintColumns(std::string_view tapeLine);
-
-/// A date as the locale of that decimal character writes it short: 11/20/2026 or 20.11.2026.
-[[nodiscard]] std::string shortDate(const LocalTime& day, char decimal);
 
 }  // namespace tallyforge

@@ -4,15 +4,11 @@
 
 #include <QClipboard>
 #include <QDialog>
-#include <QFile>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <functional>
@@ -91,35 +87,6 @@ TEST_F(Dialogs, RemembersAnOption) {
     const bool before = platform.readOption("GuiTest", false);
     platform.writeOption("GuiTest", !before);
     EXPECT_EQ(platform.readOption("GuiTest", before), !before);
-}
-
-TEST_F(Dialogs, PrintsAllLinesOnAsManyPagesAsTheyTake) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("tape.pdf");
-    whenModal([&](QWidget& modal) {
-        auto& dialog = dynamic_cast<QPrintDialog&>(modal);
-        dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
-        dialog.printer()->setOutputFileName(path);
-        dialog.done(QDialog::Accepted);
-    });
-    const std::vector<PrintLine> lines(200, {.text = "+                  5.00", .font = {.face = Face::Terminal}});
-    platform.print(lines);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray pdf = file.readAll();
-    EXPECT_TRUE(pdf.startsWith("%PDF"));
-    EXPECT_GE(pdf.count("/Type /Page\n"), 2);
-}
-
-TEST_F(Dialogs, NothingIsPrintedWhereTheUserCancels) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("tape.pdf");
-    whenModal([&](QWidget& modal) {
-        dynamic_cast<QPrintDialog&>(modal).printer()->setOutputFileName(path);
-        dynamic_cast<QDialog&>(modal).reject();
-    });
-    platform.print(std::vector<PrintLine>{{.text = "1", .font = {}}});
-    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(Dialogs, DrawsRandomNumbersBelowOne) {

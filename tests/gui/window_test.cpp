@@ -19,9 +19,10 @@ protected:
 
 TEST_F(Window, HasTheMenusOfTheForm) {
     const auto bar = window.menuBar()->actions();
-    ASSERT_EQ(bar.size(), 2);
+    ASSERT_EQ(bar.size(), 3);
     EXPECT_EQ(bar.at(0)->text(), "&File");
     EXPECT_EQ(bar.at(1)->text(), "&Keypad");
+    EXPECT_EQ(bar.at(2)->text(), "&Export");
     for (const Control* control : form().controls()) {
         if (control->kind == ControlKind::MenuEntry || control->kind == ControlKind::Menu) {
             EXPECT_NE(entry(QString::fromStdString(control->text)), nullptr) << control->name;

@@ -39,6 +39,7 @@ public:
     std::vector<std::filesystem::path> folders;
     std::vector<std::string> dialogs;
     std::vector<PrintLine> printed;
+    std::vector<Drawing> printedPictures;
     int sounds = 0;
 
     // What the user answers: questions take the first answer or No, input boxes the first text or
@@ -103,7 +104,14 @@ public:
     void writeOption(std::string_view key, bool value) override { options[std::string(key)] = value; }
     std::string clipboardText() const override { return clipboard; }
     void setClipboardText(std::string_view text) override { clipboard = text; }
-    void print(std::span<const PrintLine> lines) override { printed.assign(lines.begin(), lines.end()); }
+    void print(const PrintJob& job) override {
+        printed.clear();
+        forEachLine(job, [this](const PrintLine& line) { printed.push_back(line); });
+        printedPictures = job.pictures;
+    }
+    std::string shortDate(const LocalTime& day) const override {
+        return std::to_string(day.month) + "/" + std::to_string(day.day) + "/" + std::to_string(day.year);
+    }
     void playSound(std::span<const std::uint8_t> /*wave*/) override { ++sounds; }
     void openUrl(std::string_view url) override { urls.emplace_back(url); }
     void openFolder(const std::filesystem::path& path) override { folders.push_back(path); }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <ctime>
 #include <fstream>
 #include <thread>
@@ -158,10 +159,24 @@ void HeadlessPlatform::writeOption(std::string_view key, bool value) {
     std::ofstream(optionFile()) << kept << start << (value ? '1' : '0') << '\n';
 }
 
-void HeadlessPlatform::print(std::span<const PrintLine> lines) {
-    for (const PrintLine& line : lines) {
-        printLine_("page " + toUnicode(line.text, line.font.face));
+void HeadlessPlatform::print(const PrintJob& job) {
+    if (options_.print) {
+        return options_.print(job);
     }
+    forEachLine(job, [this](const PrintLine& line) { printLine_("page " + toUnicode(line.text, line.font.face)); });
+}
+
+std::string HeadlessPlatform::shortDate(const LocalTime& day) const {
+    if (options_.shortDate) {
+        return options_.shortDate(day);
+    }
+    char text[32];
+    if (options_.decimal == ',') {
+        std::snprintf(text, sizeof text, "%02d.%02d.%04d", day.day, day.month, day.year);
+    } else {
+        std::snprintf(text, sizeof text, "%d/%d/%04d", day.month, day.day, day.year);
+    }
+    return text;
 }
 
 void HeadlessPlatform::playSound(std::span<const std::uint8_t> /*wave*/) {

@@ -24,6 +24,10 @@ struct HeadlessOptions {
     std::optional<std::uint64_t> seed{};
     int dotsPerInch = 96;
     bool tips = false;
+    /// Takes what is printed; without it each line is shown.
+    std::function<void(const PrintJob&)> print{};
+    /// The short form of a date; without it the usual one of the decimal character.
+    std::function<std::string(const LocalTime&)> shortDate{};
 };
 
 /// The text as `face` shows it, in straight quotes, with line breaks, quotes and backslashes escaped; UTF-8.
@@ -60,7 +64,8 @@ public:
     void writeOption(std::string_view key, bool value) override;
     [[nodiscard]] std::string clipboardText() const override { return clipboard_; }
     void setClipboardText(std::string_view text) override { clipboard_ = text; }
-    void print(std::span<const PrintLine> lines) override;
+    void print(const PrintJob& job) override;
+    [[nodiscard]] std::string shortDate(const LocalTime& day) const override;
     void playSound(std::span<const std::uint8_t> wave) override;
     void openUrl(std::string_view url) override;
     void openFolder(const std::filesystem::path& folder) override;

@@ -51,8 +51,8 @@ public:
     void operator()(const DrawnText& text) const {
         // A font has whole pixels; what is left of the size the painter scales.
         constexpr double kFontPixels = 40.0;
-        const QFont font = faceFont({.bold = text.bold}, kFontPixels);
-        const QString words = QString::fromStdString(toUnicode(text.text, Face::Arial));
+        const QFont font = faceFont({.face = text.face, .bold = text.bold}, kFontPixels);
+        const QString words = QString::fromStdString(toUnicode(text.text, text.face));
         const double width = QFontMetricsF(font).horizontalAdvance(words);
         const double share = text.align == TextAlign::Left ? 0.0 : text.align == TextAlign::Centre ? 0.5 : 1.0;
         painter_.save();

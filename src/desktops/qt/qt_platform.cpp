@@ -3,6 +3,7 @@
 
 #include "desktops/qt/dialog_window.h"
 #include "desktops/qt/main_window.h"
+#include "desktops/qt/printing_preview.h"
 #include "desktops/qt/theme.h"
 #include "platform/dialog_run.h"
 #include "platform/text.h"
@@ -12,15 +13,13 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QScreen>
 #include <QSettings>
 #include <QSpacerItem>
@@ -61,6 +60,11 @@ QSettings settings() {
 
 QString optionKey(std::string_view key) {
     return "Options/" + QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+}
+
+/// Where files for other programs are put, as a desktop has it.
+QString inDocuments(const QString& name) {
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(name);
 }
 
 /// A box is as wide as its text; its title shall be read, too.
@@ -121,6 +125,14 @@ Answer QtPlatform::messageBox(const MessageBox& box) {
 
 std::string QtPlatform::inputBox(const InputBox& box) {
     refresh();
+    if (!box.writes.empty()) {
+        // The calculator itself asks before it overwrites a file, as it does on every desktop.
+        const QString extension = QString::fromStdString(box.writes);
+        return QFileDialog::getSaveFileName(window_, unicode(box.title), inDocuments(unicode(box.preset)),
+                                            extension.mid(1).toUpper() + " (*" + extension + ")", nullptr,
+                                            QFileDialog::DontConfirmOverwrite)
+            .toStdString();
+    }
     QInputDialog input(window_);
     input.setWindowTitle(unicode(box.title));
     input.setLabelText(unicode(box.prompt));
@@ -199,26 +211,15 @@ void QtPlatform::setClipboardText(std::string_view text) {
     QGuiApplication::clipboard()->setText(unicode(text));
 }
 
-void QtPlatform::print(std::span<const PrintLine> lines) {
-    QPrinter printer;
-    QPrintDialog dialog(&printer, window_);
-    if (dialog.exec() != QDialog::Accepted) {
-        return;
-    }
-    QPainter painter(&printer);
-    double top = 0.0;
-    for (const PrintLine& line : lines) {
-        QFont font = faceFont(line.font, 10.0);
-        font.setPointSizeF(static_cast<double>(line.font.points));
-        painter.setFont(font);
-        const QFontMetricsF metrics(font, &printer);
-        if (top + metrics.height() > painter.viewport().height()) {
-            printer.newPage();
-            top = 0.0;
-        }
-        painter.drawText(QPointF(0.0, top + metrics.ascent()), unicode(line.text, line.font.face));
-        top += metrics.height();
-    }
+void QtPlatform::print(const PrintJob& job) {
+    refresh();
+    PrintPreview preview(job, window_);
+    preview.pdfName = inDocuments("Tallyforge.pdf");
+    preview.exec();
+}
+
+std::string QtPlatform::shortDate(const LocalTime& day) const {
+    return fromUnicode(QLocale().toString(QDate(day.year, day.month, day.day), QLocale::ShortFormat).toStdString());
 }
 
 void QtPlatform::playSound(std::span<const std::uint8_t> /*wave*/) {

@@ -39,7 +39,8 @@ public:
     void writeOption(std::string_view key, bool value) override;
     [[nodiscard]] std::string clipboardText() const override;
     void setClipboardText(std::string_view text) override;
-    void print(std::span<const PrintLine> lines) override;
+    void print(const PrintJob& job) override;
+    [[nodiscard]] std::string shortDate(const LocalTime& day) const override;
     void playSound(std::span<const std::uint8_t> wave) override;
     void openUrl(std::string_view url) override;
     void openFolder(const std::filesystem::path& folder) override;

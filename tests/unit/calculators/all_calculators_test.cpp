@@ -232,6 +232,25 @@ TEST_F(AllCalculators, ClosingLeavesStackAndTapeWhateverStands) {
     }
 }
 
+TEST_F(AllCalculators, CtrlPPrintsThePictureAndWhatTheFieldsShow) {
+    for (const CalculatorTable* table : calculatorTables()) {
+        platform.printedPictures.clear();
+        openWith(*table, 0, 7.0, [&](DialogAtHand hand) {
+            hand.clickOn("txtVal", 0);
+            pressKey(hand.form, {.keyCode = 'P', .shift = kCtrl, .character = 'P' - '@'});
+            EXPECT_TRUE(hand.form.open);
+            closeForm(hand.form);
+        });
+        ASSERT_EQ(platform.printedPictures.size(), 1U) << table->form;
+        EXPECT_EQ(platform.printed.front().text, table->title);
+        const auto& shapes = platform.printedPictures[0].shapes;
+        EXPECT_TRUE(std::any_of(shapes.begin(), shapes.end(), [&](const DrawnShape& shape) {
+            const auto* text = std::get_if<DrawnText>(&shape);
+            return text != nullptr && text->text == table->fields.front().symbol;
+        })) << table->form;
+    }
+}
+
 TEST_F(AllCalculators, KeysAndTipsOfEachState) {
     for (const CalculatorTable* table : calculatorTables()) {
         open(*table, [&](DialogAtHand hand) {

@@ -108,10 +108,16 @@ TEST_F(HeadlessPlatformTest, WhatGoesOutsideIsPrinted) {
     platform.playSound({});
     platform.openUrl("https://example.org/a");
     platform.openFolder("/some/folder");
-    const std::vector<PrintLine> page{{.text = "\x94 3", .font = {.face = Face::Terminal}}, {.text = "", .font = {}}};
-    platform.print(page);
+    platform.print({.title = {.text = "\x94 3", .font = {.face = Face::Terminal}}, .blocks = {blockOf({""}, {})}});
     EXPECT_EQ(lines,
               (Lines{"help 510", "sound", "url https://example.org/a", "folder /some/folder", "page ö 3", "page "}));
+}
+
+TEST_F(HeadlessPlatformTest, ADateIsShortInBothLocales) {
+    const LocalTime day{.year = 2026, .month = 1, .day = 2};
+    EXPECT_EQ(make().shortDate(day), "1/2/2026");
+    options.decimal = ',';
+    EXPECT_EQ(make().shortDate(day), "02.01.2026");
 }
 
 TEST_F(HeadlessPlatformTest, TheClipboardIsAText) {

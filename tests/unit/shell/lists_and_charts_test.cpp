@@ -264,6 +264,8 @@ TEST_F(ListsAndCharts, ChartsAreCopiedAsTextWithTabsAndPrinted) {
     EXPECT_EQ(std::count(at.platform.clipboard.begin(), at.platform.clipboard.end(), '\n'), 57);
     ASSERT_GT(at.platform.printed.size(), 57U);
     EXPECT_EQ(at.platform.printed.front().text, "Steel Wire Gauge");
+    ASSERT_EQ(at.platform.printedPictures.size(), 1U);
+    EXPECT_FALSE(at.platform.printedPictures[0].shapes.empty());
 }
 
 TEST_F(ListsAndCharts, TheRightButtonOpensTheColoursAndLeavesATypedNumberAlone) {
