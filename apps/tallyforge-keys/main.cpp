@@ -7,6 +7,7 @@
 #include "electrical/lookup_tables.h"
 #include "keypads/keypad_table.h"
 #include "program/program_check.h"
+#include "shell/about_dialog.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -40,7 +41,9 @@ constexpr const char* kUsage =
     "                       [--seed N] [--dpi N] [--tips] [--timeout S] [--unfinished] [--table [NAME]] [SCRIPT]\n"
     "       tallyforge-keys --convert [--exact] [--decimal point|comma] [FILE]\n"
     "       tallyforge-keys --units\n"
-    "       tallyforge-keys --check PROGRAM\n";
+    "       tallyforge-keys --check PROGRAM\n"
+    "       tallyforge-keys --help\n"
+    "       tallyforge-keys --version\n";
 
 struct Call {
     HeadlessOptions options;
@@ -339,12 +342,27 @@ int runScript(Call& call) {
     return static_cast<int>(end);
 }
 
+/// What is asked of the program and not of the calculator.
+bool answers(std::string_view word) {
+    if (word == "--help") {
+        std::fputs(kUsage, stdout);
+    } else if (word == "--version") {
+        printLine("tallyforge-keys " + std::string(version()));
+    } else {
+        return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     // A limit on the size of files is a failure of the write, told like a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
     std::ios::sync_with_stdio(false);
+    if (argc == 2 && answers(argv[1])) {
+        return 0;
+    }
     auto call = readCall({argv + 1, argv + argc});
     if (!call) {
         std::fputs(kUsage, stderr);

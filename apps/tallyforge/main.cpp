@@ -8,10 +8,16 @@
 #include "desktops/qt/control_interface.h"
 #include "desktops/qt/dialog_view.h"
 #include "desktops/qt/form_view.h"
+#include "desktops/qt/help_manual.h"
 #include "desktops/qt/main_window.h"
 #include "desktops/qt/printing_output.h"
 #include "desktops/qt/qt_platform.h"
+#include "help/help_file.h"
+#include "help/help_html.h"
+#include "platform/file_store.h"
 #include "platform/form_input.h"
+#include "platform/installed_file.h"
+#include "shell/about_dialog.h"
 #include "shell/calculator.h"
 
 #include <QApplication>
@@ -145,6 +151,49 @@ int printTo(const QString& pdf, const QString& script) {
     return 0;
 }
 
+constexpr const char* kTrial = "Try it";
+
+/// Presses the keys; what went wrong, or nothing.
+std::string play(qt::QtPlatform& platform, Calculator& calculator, const HelpExample& example) {
+    const auto drop = [](std::string_view) {};
+    HeadlessPlatform hand({.decimal = platform.decimalCharacter()}, drop);
+    std::string complaint;
+    KeyScript script(calculator, hand, [&complaint](std::string_view line) { complaint = line; });
+    platform.setStandIn(&hand);
+    std::istringstream keys(example.keys);
+    static_cast<void>(script.run(keys));
+    releaseModifiers(calculator.engine().form);
+    platform.setStandIn(nullptr);
+    return complaint;
+}
+
+/// Asks, and presses the example's keys. Nothing but a message while a program runs or a dialog is
+/// open, or where the example touches more than the calculator.
+void tryExample(qt::QtPlatform& platform, Calculator& calculator, qt::MainWindow& window, const HelpExample& example) {
+    const auto tell = [&platform](std::string text) {
+        platform.messageBox({.kind = BoxKind::Info, .title = kTrial, .text = std::move(text)});
+    };
+    if (platform.isBusy() || calculator.programs().running()) {
+        return tell("Close the dialog, or let the program end, before you try an example.");
+    }
+    if (!canBeTried(example)) {
+        return tell("This example uses files or settings and is only to be read.");
+    }
+    const Answer answer = platform.messageBox({.kind = BoxKind::Question,
+                                               .title = kTrial,
+                                               .text = "Press the keys of this example in your calculator?\n\nIts "
+                                                       "numbers go on your stack and your tape.",
+                                               .buttons = BoxButtons::YesNo});
+    if (answer != Answer::Yes) {
+        return;
+    }
+    const std::string complaint = play(platform, calculator, example);
+    window.view().sync();
+    if (!complaint.empty()) {
+        tell("The example cannot go on here: " + complaint);
+    }
+}
+
 /// Shows the calculator, and opens the file that it was started with.
 int showWindow(const QString& file) {
     qt::QtPlatform platform;
@@ -161,6 +210,7 @@ int showWindow(const QString& file) {
     qt::MainWindow window(form, calculator.engine().s.format.DecimalChar);
     platform.setWindow(&window);
     platform.showChanges = [&window] { window.view().sync(); };
+    platform.help.tryIt = [&](const HelpExample& example) { tryExample(platform, calculator, window, example); };
     window.remembersSize = true;
     window.present();
     window.show();
@@ -174,11 +224,52 @@ int showWindow(const QString& file) {
     return QApplication::exec();
 }
 
+/// Writes all pages of the help as PDF.
+int printManual(const QString& pdf) {
+    const qt::QtPlatform platform;
+    const std::filesystem::path file = installedFile(platform, "", kHelpFile);
+    try {
+        const auto pages = readHelpFile(readWhole(file));
+        if (!pages) {
+            std::cerr << "tallyforge: " << file.string() << " is damaged\n";
+            return 1;
+        }
+        writeWhole(pdf.toStdString(), qt::manualPdf(*pages));
+    } catch (const FileError&) {
+        std::cerr << "tallyforge: cannot read " << file.string() << " or write " << pdf.toStdString() << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+constexpr const char* kUsage =
+    "usage: tallyforge [FILE.rec|FILE.tape] [--dark]\n"
+    "       tallyforge --render FILE.png [SCRIPT] [--scale N] [--dark]\n"
+    "       tallyforge --print FILE.pdf [SCRIPT]\n"
+    "       tallyforge --manual FILE.pdf\n"
+    "       tallyforge --help\n"
+    "       tallyforge --version\n";
+
+/// What needs no desktop.
+bool answers(std::string_view word) {
+    if (word == "--help") {
+        std::cout << kUsage;
+    } else if (word == "--version") {
+        std::cout << "tallyforge " << version() << '\n';
+    } else {
+        return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     // A limit on the size of files is a failure of the write, told like a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
+    if (argc == 2 && answers(argv[1])) {
+        return 0;
+    }
     QApplication application(argc, argv);
     QApplication::setApplicationName("Tallyforge");
     QApplication::setDesktopFileName("tallyforge");
@@ -199,10 +290,11 @@ int main(int argc, char** argv) {
     if (words.size() >= 2 && words.size() <= 3 && words.front() == "--print") {
         return printTo(words.at(1), words.value(2));
     }
+    if (words.size() == 2 && words.front() == "--manual") {
+        return printManual(words.at(1));
+    }
     if (words.size() > 1 || words.value(0).startsWith('-')) {
-        std::cerr << "usage: tallyforge [FILE.rec|FILE.tape] [--dark]\n"
-                     "       tallyforge --render FILE.png [SCRIPT] [--scale N] [--dark]\n"
-                     "       tallyforge --print FILE.pdf [SCRIPT]\n";
+        std::cerr << kUsage;
         return 2;
     }
     return showWindow(words.value(0));

@@ -20,3 +20,11 @@ add_test(NAME tips_tried COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_tips)
 # Sizes and materials in the help are the calculator's.
 add_test(NAME help_tables
          COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_help_tables $<TARGET_FILE:tallyforge-keys>)
+
+# The manual pages name the options that the programs have.
+foreach(app tallyforge-keys tallyforge)
+  if(TARGET ${app})
+    add_test(NAME man_${app} COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/check_man $<TARGET_FILE:${app}>
+                                     ${PROJECT_SOURCE_DIR}/data/man/${app}.1)
+  endif()
+endforeach()

@@ -85,16 +85,23 @@ const std::vector<KeyScript::Word>& KeyScript::words() {
 KeyScript::KeyScript(HeadlessOptions options, Print printLine, Print complain)
     : options_(std::move(options)), printLine_(std::move(printLine)), complain_(std::move(complain)) {}
 
+KeyScript::KeyScript(Calculator& calculator, HeadlessPlatform& desk, Print complain)
+    : complain_(std::move(complain)), platform_(&desk), calculator_(&calculator), isGuest_(true) {
+    desk.driveDialog = [this](Form& dialog) { driveDialog(dialog); };
+}
+
 void KeyScript::start() {
-    calculator_.reset();
-    auto answering = std::move(platform_);
-    platform_ = std::make_unique<HeadlessPlatform>(options_, printLine_);
+    ownCalculator_.reset();
+    auto answering = std::move(ownPlatform_);
+    ownPlatform_ = std::make_unique<HeadlessPlatform>(options_, printLine_);
+    platform_ = ownPlatform_.get();
     if (answering) {
         // Answers, clipboard and random numbers outlive a restart of the program.
         platform_->inherit(*answering);
     }
     platform_->driveDialog = [this](Form& dialog) { driveDialog(dialog); };
-    calculator_ = std::make_unique<Calculator>(*platform_);
+    ownCalculator_ = std::make_unique<Calculator>(*platform_);
+    calculator_ = ownCalculator_.get();
     ended_ = false;
     held_ = 0;
     dialog_ = nullptr;
@@ -112,7 +119,9 @@ ScriptEnd KeyScript::run(std::istream& script) {
     expectFailed_ = false;
     restartDue_ = false;
     try {
-        start();
+        if (!isGuest_) {
+            start();
+        }
         while (step(script)) {
             if (std::exchange(restartDue_, false)) {
                 restartProgram();
@@ -332,6 +341,9 @@ void KeyScript::menu(std::string_view rest) {
 }
 
 void KeyScript::close(std::string_view /*rest*/) {
+    if (isGuest_ && dialog_ == nullptr) {
+        throw Wrong{"the calculator is not to be ended here"};
+    }
     closeForm(form());
 }
 
@@ -357,6 +369,9 @@ void KeyScript::clipboard(std::string_view text) {
 }
 
 void KeyScript::restart(std::string_view /*rest*/) {
+    if (isGuest_) {
+        throw Wrong{"the calculator is not to be ended here"};
+    }
     restartDue_ = true;
 }
 

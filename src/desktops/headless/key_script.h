@@ -26,6 +26,10 @@ public:
     /// Output lines go to `printLine`, complaints about the script to `complain`.
     KeyScript(HeadlessOptions options, Print printLine, Print complain);
 
+    /// For a calculator that stands already, on a platform that has `desk` answer in its place. The
+    /// script cannot end or restart it.
+    KeyScript(Calculator& calculator, HeadlessPlatform& desk, Print complain);
+
     /// Runs the script to its end.
     ScriptEnd run(std::istream& script);
 
@@ -80,8 +84,11 @@ private:
     HeadlessOptions options_;
     Print printLine_;
     Print complain_;
-    std::unique_ptr<HeadlessPlatform> platform_;
-    std::unique_ptr<Calculator> calculator_;
+    std::unique_ptr<HeadlessPlatform> ownPlatform_;
+    std::unique_ptr<Calculator> ownCalculator_;
+    HeadlessPlatform* platform_ = nullptr;
+    Calculator* calculator_ = nullptr;
+    bool isGuest_ = false;  ///< the calculator is another's
     std::istream* script_ = nullptr;
     Form* dialog_ = nullptr;
     std::vector<std::string> shown_;

@@ -50,7 +50,8 @@ DialogWindow::DialogWindow(Form& form, char decimal, const MainWindow* mainWindo
             done(QDialog::Accepted);
         }
     };
-    setModal(true);
+    // The window of the help stays in reach.
+    setWindowModality(Qt::WindowModal);
     place(mainWindow);
 }
 

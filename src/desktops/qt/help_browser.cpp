@@ -21,7 +21,7 @@ QUrl urlOf(const HelpPage& page) {
 }
 
 /// The classes of a page's HTML in the colours of `theme`.
-QString styleSheet(const Theme& theme) {
+QString styleFor(const Theme& theme) {
     constexpr double kCodePixels = 13.0;
     const QString family = faceFont({.face = Face::Terminal}, kCodePixels).family();
     return QString(R"(
@@ -44,14 +44,13 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent) : QTextBrowser(p
     document()->setDocumentMargin(kMargin);
     dress();
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
+    // The history learns of a page after those who hear this.
+    connect(this, &QTextBrowser::sourceChanged, this,
+            [this](const QUrl& source) { page_ = book_.byName(source.path().toStdString()); });
 }
 
 void HelpBrowser::open(const HelpPage& page) {
     setSource(urlOf(page), QTextDocument::HtmlResource);
-}
-
-const HelpPage* HelpBrowser::page() const {
-    return book_.byName(source().path().toStdString());
 }
 
 QVariant HelpBrowser::loadResource(int /*type*/, const QUrl& name) {
@@ -66,8 +65,8 @@ void HelpBrowser::follow(const QUrl& link) {
         if (const HelpPage* next = book_.byName(path); next != nullptr) {
             open(*next);
         }
-    } else if (link.scheme() == kTrialScheme && page() != nullptr && tryIt) {
-        const auto examples = helpExamples(page()->body);
+    } else if (link.scheme() == kTrialScheme && page_ != nullptr && tryIt) {
+        const auto examples = helpExamples(page_->body);
         if (const int number = link.path().toInt(); number >= 0 && number < static_cast<int>(examples.size())) {
             tryIt(examples[static_cast<std::size_t>(number)]);
         }
@@ -75,14 +74,14 @@ void HelpBrowser::follow(const QUrl& link) {
 }
 
 void HelpBrowser::dress() {
-    document()->setDefaultStyleSheet(styleSheet(Theme::forPalette(palette())));
+    document()->setDefaultStyleSheet(styleFor(Theme::forPalette(palette())));
 }
 
 void HelpBrowser::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         dress();
-        if (page() != nullptr) {
+        if (page_ != nullptr) {
             const int place = verticalScrollBar()->value();
             reload();
             verticalScrollBar()->setValue(place);

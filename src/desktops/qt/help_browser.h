@@ -19,7 +19,8 @@ public:
 
     /// Shows a page and notes it in the history.
     void open(const HelpPage& page);
-    [[nodiscard]] const HelpPage* page() const;
+    /// The page that shows; nullptr before the first one.
+    [[nodiscard]] const HelpPage* page() const { return page_; }
     /// The user wants to try an example of the page.
     std::function<void(const HelpExample&)> tryIt;
 
@@ -33,6 +34,7 @@ private:
     void dress();
 
     const HelpBook& book_;
+    const HelpPage* page_ = nullptr;
 };
 
 }  // namespace tallyforge::qt

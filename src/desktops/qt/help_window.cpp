@@ -190,11 +190,12 @@ void HelpWindow::followTheme() {
     }
 }
 
-void HelpWindow::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
+bool HelpWindow::event(QEvent* event) {
+    const bool done = QWidget::event(event);
     if (event->type() == QEvent::ApplicationPaletteChange) {
         followTheme();
     }
+    return done;
 }
 
 void HelpWindow::hideEvent(QHideEvent* event) {

@@ -5,7 +5,9 @@
 #include "desktops/qt/main_window.h"
 #include "desktops/qt/printing_preview.h"
 #include "desktops/qt/theme.h"
+#include "help/help_file.h"
 #include "platform/dialog_run.h"
+#include "platform/installed_file.h"
 #include "platform/text.h"
 
 #include <QApplication>
@@ -95,6 +97,9 @@ void QtPlatform::refresh() const {
 }
 
 Answer QtPlatform::messageBox(const MessageBox& box) {
+    if (standIn_ != nullptr) {
+        return standIn_->messageBox(box);
+    }
     refresh();
     QMessageBox message(iconOf(box.kind), unicode(box.title), unicode(box.text), QMessageBox::NoButton, window_);
     message.setTextFormat(Qt::PlainText);
@@ -124,6 +129,9 @@ Answer QtPlatform::messageBox(const MessageBox& box) {
 }
 
 std::string QtPlatform::inputBox(const InputBox& box) {
+    if (standIn_ != nullptr) {
+        return standIn_->inputBox(box);
+    }
     refresh();
     if (!box.writes.empty()) {
         // The calculator itself asks before it overwrites a file, as it does on every desktop.
@@ -148,6 +156,9 @@ std::string QtPlatform::inputBox(const InputBox& box) {
 }
 
 void QtPlatform::showDialog(Form& dialog) {
+    if (standIn_ != nullptr) {
+        return standIn_->showDialog(dialog);
+    }
     refresh();
     runDialog(*this, dialog, [&] { runWindowOf(dialog); });
 }
@@ -204,14 +215,21 @@ void QtPlatform::writeOption(std::string_view key, bool value) {
 }
 
 std::string QtPlatform::clipboardText() const {
-    return fromUnicode(QGuiApplication::clipboard()->text().toStdString());
+    return standIn_ != nullptr ? standIn_->clipboardText()
+                               : fromUnicode(QGuiApplication::clipboard()->text().toStdString());
 }
 
 void QtPlatform::setClipboardText(std::string_view text) {
+    if (standIn_ != nullptr) {
+        return standIn_->setClipboardText(text);
+    }
     QGuiApplication::clipboard()->setText(unicode(text));
 }
 
 void QtPlatform::print(const PrintJob& job) {
+    if (standIn_ != nullptr) {
+        return standIn_->print(job);
+    }
     refresh();
     PrintPreview preview(job, window_);
     preview.pdfName = inDocuments("Tallyforge.pdf");
@@ -223,19 +241,55 @@ std::string QtPlatform::shortDate(const LocalTime& day) const {
 }
 
 void QtPlatform::playSound(std::span<const std::uint8_t> /*wave*/) {
-    QApplication::beep();
+    if (standIn_ == nullptr) {
+        QApplication::beep();
+    }
 }
 
+// The pages that the calculator opens came with it.
 void QtPlatform::openUrl(std::string_view url) {
-    QDesktopServices::openUrl(QUrl(unicode(url)));
+    if (standIn_ != nullptr) {
+        return standIn_->openUrl(url);
+    }
+    const std::filesystem::path page = installedFile(*this, "doc", url);
+    std::error_code error;
+    const bool there = std::filesystem::is_regular_file(page, error);
+    if (!there || !QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(page.string())))) {
+        tell("Oakhollow", "The page " + std::string(url) + (there ? " cannot be opened!" : " was not found!"));
+    }
 }
 
 void QtPlatform::openFolder(const std::filesystem::path& folder) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(folder.string())));
+    if (standIn_ == nullptr) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(folder.string())));
+    }
 }
 
-// Help pages are not part of the calculator yet.
-void QtPlatform::helpTopic(int /*topic*/) {}
+void QtPlatform::tell(std::string_view title, const std::string& text) {
+    messageBox({.kind = BoxKind::Notice, .title = std::string(title), .text = text});
+}
+
+std::filesystem::path QtPlatform::helpFile() const {
+    return installedFile(*this, "", kHelpFile);
+}
+
+void QtPlatform::helpTopic(int topic) {
+    if (standIn_ != nullptr) {
+        return standIn_->helpTopic(topic);
+    }
+    if (const std::string problem = help.showTopic(helpFile(), topic); !problem.empty()) {
+        tell("Help", problem);
+    }
+}
+
+void QtPlatform::helpDialog(std::string_view form, int topic) {
+    if (standIn_ != nullptr) {
+        return standIn_->helpDialog(form, topic);
+    }
+    if (const std::string problem = help.showDialog(helpFile(), form, topic); !problem.empty()) {
+        tell("Help", problem);
+    }
+}
 
 std::string QtPlatform::systemInformation() const {
     const QString text = QString("System: %1, %2\nQt: %3, window system: %4\n")

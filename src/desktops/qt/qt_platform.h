@@ -3,6 +3,7 @@
 // The desktop as Qt knows it: boxes, clipboard, printer, folders, sound.
 #pragma once
 
+#include "desktops/qt/help_desk.h"
 #include "desktops/qt/run_watch.h"
 #include "platform/platform.h"
 
@@ -26,6 +27,14 @@ public:
     /// Shows what has changed in the main form; called before a box opens and while a program runs,
     /// when no handler ends that would show it.
     std::function<void()> showChanges;
+    /// Shows the pages of help.
+    HelpDesk help;
+
+    /// While `standIn` is not nullptr it answers boxes and drives dialogs in the user's place, and takes
+    /// what would go to the clipboard, the printer and other programs.
+    void setStandIn(Platform* standIn) { standIn_ = standIn; }
+    /// A dialog is open, or somebody stands in.
+    [[nodiscard]] bool isBusy() const { return !dialogs_.empty() || standIn_ != nullptr; }
 
     Answer messageBox(const MessageBox& box) override;
     std::string inputBox(const InputBox& box) override;
@@ -45,6 +54,7 @@ public:
     void openUrl(std::string_view url) override;
     void openFolder(const std::filesystem::path& folder) override;
     void helpTopic(int topic) override;
+    void helpDialog(std::string_view form, int topic) override;
     [[nodiscard]] std::string systemInformation() const override;
     [[nodiscard]] LocalTime now() const override;
     [[nodiscard]] double random() override;
@@ -54,10 +64,13 @@ public:
 private:
     void refresh() const;
     void runWindowOf(Form& dialog);
+    void tell(std::string_view title, const std::string& text);
+    [[nodiscard]] std::filesystem::path helpFile() const;
 
     QWidget* window_ = nullptr;  ///< the topmost of ours
     const MainWindow* mainWindow_ = nullptr;
     std::vector<DialogWindow*> dialogs_;  ///< open ones, the topmost last
+    Platform* standIn_ = nullptr;
     RunWatch runWatch_;
     std::mt19937_64 generator_;
 };
