@@ -16,5 +16,5 @@ add_custom_command(OUTPUT ${manual} COMMAND help-compiler --manual ${manual} ${P
 add_custom_command(OUTPUT ${changes} COMMAND help-compiler --document ${changes} ${PROJECT_SOURCE_DIR}/data/changes.md
                    DEPENDS help-compiler ${PROJECT_SOURCE_DIR}/data/changes.md VERBATIM)
 add_custom_target(help-pages ALL DEPENDS ${help} ${manual} ${changes})
-install(FILES ${help} DESTINATION ${CMAKE_INSTALL_DATADIR}/tallyforge)
-install(FILES ${manual} ${changes} DESTINATION ${CMAKE_INSTALL_DATADIR}/tallyforge/doc)
+install(FILES ${help} DESTINATION ${CMAKE_INSTALL_DATADIR}/tallyforge COMPONENT cli)
+install(FILES ${manual} ${changes} DESTINATION ${CMAKE_INSTALL_DATADIR}/tallyforge/doc COMPONENT cli)

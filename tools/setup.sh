@@ -5,6 +5,7 @@
 #   tools/setup.sh test    the same, and what the tests and checks need
 #   tools/setup.sh bench   what tools/bench needs
 #   tools/setup.sh measure what tools/measure_window needs
+#   tools/setup.sh package what tools/package and tools/check_package need
 set -euo pipefail
 
 wanted=(g++ cmake ninja-build qt6-base-dev libgl-dev fonts-dejavu-core)
@@ -26,8 +27,11 @@ case "${1:-run}" in
         wanted+=(libbenchmark-dev libxcb1-dev libxcb-damage0-dev libxcb-xtest0-dev
                  xvfb xauth)
         ;;
+    package)
+        wanted+=(librsvg2-bin dpkg-dev file lintian desktop-file-utils appstream mmdebstrap)
+        ;;
     *)
-        echo "usage: tools/setup.sh [run|test|bench|measure]" >&2
+        echo "usage: tools/setup.sh [run|test|bench|measure|package]" >&2
         exit 2
         ;;
 esac
