@@ -123,9 +123,10 @@ private:
              TextAlign::Left);
     }
     void addFrame(const Control& control) {
+        constexpr float kHeading = 0.7F;
         outline(control);
-        text(control, withoutAccessMarks(control.text), left(control) + kMargin, top(control) - size(control) / 2.0F,
-             TextAlign::Left);
+        text(control, withoutAccessMarks(control.text), left(control) + kMargin,
+             top(control) + kHeading * size(control), TextAlign::Left);
     }
     void addList(const Control& control) {
         outline(control);

@@ -11,9 +11,11 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <array>
@@ -66,7 +68,29 @@ DialogView::DialogView(Form& form, char decimal, double scale, QWidget* parent)
         byWidget_.insert(&widget, control);
         controls_.push_back(std::move(made));
     }
+    tieLists();
     setFixedSize(usualSize());
+}
+
+// Lists of one group are the columns of one table: they scroll together, by the bar of the last.
+void DialogView::tieLists() {
+    const auto listOf = [](const DialogControl& control) { return qobject_cast<QListView*>(&control.widget()); };
+    for (const auto& one : controls_) {
+        for (const auto& other : controls_) {
+            QListView* const list = listOf(*one);
+            QListView* const follower = listOf(*other);
+            const std::string& group = one->control().group;
+            if (list == nullptr || follower == nullptr || list == follower || group.empty() ||
+                group != other->control().group) {
+                continue;
+            }
+            connect(list->verticalScrollBar(), &QScrollBar::valueChanged, follower->verticalScrollBar(),
+                    &QScrollBar::setValue);
+            if (one->control().place.left < other->control().place.left) {
+                list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+            }
+        }
+    }
 }
 
 QSize DialogView::usualSize() const {

@@ -50,6 +50,7 @@ private:
     void focusTaken(Control& control);
     void eraseSelection(Control& field, QWidget& at);
     void alignOptions();
+    void tieLists();
     void finish();
 
     Form& form_;

@@ -41,8 +41,12 @@ PrintPreview::PrintPreview(const PrintJob& job, QWidget* parent)
     keys->addStretch();
     keys->addWidget(place_);
     keys->addStretch();
-    addKey("&+", "Larger", [this] { view_->zoom(1); })->setAccessibleName("Larger");
-    addKey("&-", "Smaller", [this] { view_->zoom(-1); })->setAccessibleName("Smaller");
+    auto* larger = addKey("+", "Larger [Ctrl++]", [this] { view_->zoom(1); });
+    auto* smaller = addKey(QString(QChar(0x2212)), "Smaller [Ctrl+-]", [this] { view_->zoom(-1); });
+    larger->setAccessibleName("Larger");
+    larger->setShortcut(QKeySequence::ZoomIn);
+    smaller->setAccessibleName("Smaller");
+    smaller->setShortcut(QKeySequence::ZoomOut);
     addKey("&Fit width", "As wide as the window", [this] { view_->zoom(0); });
     addKey("&Close", "Close without printing", [this] { reject(); });
     auto* layout = new QVBoxLayout(this);
