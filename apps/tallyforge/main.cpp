@@ -158,7 +158,7 @@ std::string play(qt::QtPlatform& platform, Calculator& calculator, const HelpExa
     const auto drop = [](std::string_view) {};
     HeadlessPlatform hand({.decimal = platform.decimalCharacter()}, drop);
     std::string complaint;
-    KeyScript script(calculator, hand, [&complaint](std::string_view line) { complaint = line; });
+    KeyScript script(calculator, hand, drop, [&complaint](std::string_view line) { complaint = line; });
     platform.setStandIn(&hand);
     std::istringstream keys(example.keys);
     static_cast<void>(script.run(keys));

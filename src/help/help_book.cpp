@@ -92,6 +92,10 @@ HelpBook::HelpBook(std::vector<HelpPage> pages) : pages_(std::move(pages)) {
             index_.push_back({.text = entry, .page = &page});
         }
     }
+    sortIndex();
+}
+
+void HelpBook::sortIndex() {
     std::vector<std::pair<std::string, IndexEntry>> sorted;
     sorted.reserve(index_.size());
     for (IndexEntry& entry : index_) {
@@ -99,6 +103,11 @@ HelpBook::HelpBook(std::vector<HelpPage> pages) : pages_(std::move(pages)) {
     }
     std::stable_sort(sorted.begin(), sorted.end(),
                      [](const auto& one, const auto& other) { return one.first < other.first; });
+    for (std::size_t i = 1; i < sorted.size(); ++i) {
+        if (sorted[i].first == sorted[i - 1].first) {
+            sorted[i - 1].second.shared = sorted[i].second.shared = true;
+        }
+    }
     std::transform(sorted.begin(), sorted.end(), index_.begin(), [](auto& pair) { return std::move(pair.second); });
 }
 

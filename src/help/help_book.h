@@ -19,6 +19,7 @@ namespace tallyforge {
 struct IndexEntry {
     std::string text;
     const HelpPage* page = nullptr;
+    bool shared = false;  ///< other pages have the same entry
 };
 
 class HelpBook {
@@ -48,6 +49,7 @@ private:
         std::string index;
         std::string text;
     };
+    void sortIndex();
     void fold() const;
     [[nodiscard]] static int rankOf(const Searched& page, std::string_view word);
 

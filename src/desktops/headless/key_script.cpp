@@ -85,8 +85,12 @@ const std::vector<KeyScript::Word>& KeyScript::words() {
 KeyScript::KeyScript(HeadlessOptions options, Print printLine, Print complain)
     : options_(std::move(options)), printLine_(std::move(printLine)), complain_(std::move(complain)) {}
 
-KeyScript::KeyScript(Calculator& calculator, HeadlessPlatform& desk, Print complain)
-    : complain_(std::move(complain)), platform_(&desk), calculator_(&calculator), isGuest_(true) {
+KeyScript::KeyScript(Calculator& calculator, HeadlessPlatform& desk, Print printLine, Print complain)
+    : printLine_(std::move(printLine)),
+      complain_(std::move(complain)),
+      platform_(&desk),
+      calculator_(&calculator),
+      isGuest_(true) {
     desk.driveDialog = [this](Form& dialog) { driveDialog(dialog); };
 }
 

@@ -28,7 +28,7 @@ public:
 
     /// For a calculator that stands already, on a platform that has `desk` answer in its place. The
     /// script cannot end or restart it.
-    KeyScript(Calculator& calculator, HeadlessPlatform& desk, Print complain);
+    KeyScript(Calculator& calculator, HeadlessPlatform& desk, Print printLine, Print complain);
 
     /// Runs the script to its end.
     ScriptEnd run(std::istream& script);

@@ -28,6 +28,7 @@ QString styleFor(const Theme& theme) {
 a { color: %1; }
 pre, code { font-family: "%2"; }
 pre { background-color: %3; margin-left: 8px; margin-top: 2px; margin-bottom: 8px; }
+table { margin-top: 4px; margin-bottom: 4px; }
 td { padding-right: 12px; }
 .mask { background-color: %4; }
 .label, .caption { color: %5; }

@@ -34,6 +34,12 @@ QString unmarked(const std::string& text) {
     return QString::fromStdString(plainText(text));
 }
 
+/// An entry that leads to several pages says to which.
+QString entryText(const IndexEntry& entry) {
+    const QString text = unmarked(entry.text);
+    return entry.shared ? text + " (" + unmarked(entry.page->title) + ")" : text;
+}
+
 }  // namespace
 
 HelpWindow::HelpWindow(const HelpBook& book)
@@ -143,7 +149,7 @@ void HelpWindow::fillList() {
                        [](const HelpPage* page) { return unmarked(page->title); });
     } else {
         for (const IndexEntry& entry : book_.index()) {
-            texts.append(unmarked(entry.text));
+            texts.append(entryText(entry));
             rows_.push_back(entry.page);
         }
     }
@@ -206,9 +212,23 @@ void HelpWindow::hideEvent(QHideEvent* event) {
 void HelpWindow::recallPlace() {
     const QSettings settings("Oakhollow", "Tallyforge");
     if (!restoreGeometry(settings.value(kPlaceKey).toByteArray())) {
-        resize(kUsualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+        standBeside(QApplication::activeWindow());
     }
     split_->restoreState(settings.value(kSplitKey).toByteArray());
+}
+
+// At first where it hides the least of the calculator.
+void HelpWindow::standBeside(const QWidget* calculator) {
+    const QScreen* screen = calculator == nullptr ? QGuiApplication::primaryScreen() : calculator->screen();
+    const QRect room = screen->availableGeometry();
+    resize(kUsualSize.boundedTo(room.size()));
+    if (calculator != nullptr) {
+        const QRect taken = calculator->frameGeometry();
+        const bool right = room.right() - taken.right() >= taken.left() - room.left();
+        const int left = right ? taken.right() + 1 : taken.left() - width();
+        move(std::clamp(left, room.left(), std::max(room.left(), room.right() + 1 - width())),
+             std::clamp(taken.top(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+    }
 }
 
 void HelpWindow::storePlace() const {

@@ -43,6 +43,7 @@ private:
     void openRow(int row);
     void followTheme();
     void recallPlace();
+    void standBeside(const QWidget* calculator);
     void storePlace() const;
 
     const HelpBook& book_;

@@ -249,18 +249,19 @@ TEST_F(KeyScriptTest, AWrongLineInsideADialogEndsTheScript) {
 }
 
 TEST_F(KeyScriptTest, AScriptPlaysOnACalculatorThatStandsAlready) {
-    HeadlessPlatform desk(options, [this](std::string_view line) { out.emplace_back(line); });
+    const auto print = [this](std::string_view line) { out.emplace_back(line); };
+    HeadlessPlatform desk(options, print);
     Calculator calculator(desk);
     calculator.start();
     const auto play = [&](const std::string& text) {
         std::istringstream lines(text);
-        KeyScript guest(calculator, desk, [this](std::string_view line) { complaints.emplace_back(line); });
+        KeyScript guest(calculator, desk, print, [this](std::string_view line) { complaints.emplace_back(line); });
         return guest.run(lines);
     };
     EXPECT_EQ(play("type 5\nkey Enter\n"), ScriptEnd::Done);
-    EXPECT_EQ(play("type 3\nclick cmdMath(3)\nmenu mnuAbout\nclick cmdOK\n"), ScriptEnd::Done);
+    EXPECT_EQ(play("type 3\nclick cmdMath(3)\nmenu mnuAbout\nclick cmdOK\nshow x\n"), ScriptEnd::Done);
     EXPECT_EQ(calculator.engine().xNumber(), 8.0);
-    EXPECT_EQ(out, (Lines{R"(dialog frmAbout "About Tallyforge")", "dialog frmAbout closed"}));
+    EXPECT_EQ(out, (Lines{R"(dialog frmAbout "About Tallyforge")", "dialog frmAbout closed", "x 8"}));
     EXPECT_EQ(play("close\n"), ScriptEnd::WrongScript);
     EXPECT_EQ(play("restart\n"), ScriptEnd::WrongScript);
     EXPECT_TRUE(calculator.engine().form.open);

@@ -58,12 +58,13 @@ TEST(HelpBook, FindsPagesByTopicNameAndDialogAndTheFirstClaimHolds) {
 TEST(HelpBook, TheIndexStandsInTheOrderOfTheAlphabet) {
     std::vector<HelpPage> pages = somePages();
     pages[0].index = {"Zero", "apple", "Banana"};
+    pages[1].index.emplace_back("Root");
     const HelpBook book(std::move(pages));
     std::string all;
     for (const IndexEntry& entry : book.index()) {
-        all += entry.text + "|";
+        all += entry.text + (entry.shared ? "+|" : "|");
     }
-    EXPECT_EQ(all, "angle functions|apple|Banana|root|sine rule|Zero|");
+    EXPECT_EQ(all, "angle functions|apple|Banana|Root+|root+|sine rule|Zero|");
 }
 
 TEST(HelpBook, SearchRanksTitleBeforeIndexBeforeText) {
