@@ -17,8 +17,7 @@ void BaseKey(benchmark::State& state) {
     const auto push = [&calc](const char* text) {
         calc.s.stack.Xreg = text;
         calc.s.entry.EntryOpen = true;
-        calc.s.delivery.ValueInXreg = true;
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliverX();
     };
     for (auto _ : state) {
         state.PauseTiming();

@@ -22,9 +22,8 @@ struct Machine {
         Engine& calc = calculator.engine();
         for (long line = 0; line < lines; ++line) {
             calc.s.stack.Xreg = 1.25;
-            calc.s.delivery.ValueInXreg = true;
             calc.s.entry.EntryOpen = deep || calc.s.stack.depth() < 1;
-            calc.commit.cmdEnter_Click();
+            calc.commit.deliverX();
         }
     }
     TestPlatform platform;

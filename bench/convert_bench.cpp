@@ -23,9 +23,8 @@ void ConvertByStoredFactor(benchmark::State& state) {
     keypads.ShowKeypad(Keypad::Convert);
     keypads.keys.conversions.memory.keep(static_cast<int>(kLengthKey), 1.0000001, " inch to mm ", "mm");
     calc.s.stack.Xreg = 1.0;
-    calc.s.delivery.ValueInXreg = true;
     calc.s.entry.EntryOpen = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     for (auto _ : state) {
         click(calc.form, calc.form.cmdFunctions[kLengthKey]);
     }

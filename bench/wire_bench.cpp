@@ -39,8 +39,7 @@ void LookUpKey(benchmark::State& state) {
     calc.keypads().ShowKeypad(lookUp.keypad);
     calc.s.stack.Xreg = lookUp.operand;
     calc.s.entry.EntryOpen = true;
-    calc.s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     ValueCell& top = calc.s.stack.Stack.at(static_cast<std::size_t>(calc.s.stack.StackPtr - 1));
     for (auto _ : state) {
         top = lookUp.operand;

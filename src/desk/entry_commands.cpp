@@ -201,14 +201,10 @@ void EntryCommands::doubleOrHalve(int key) {
         }
     });
     if (!read) {
-        s.delivery.ValueInXreg = false;
         return;
     }
     s.stack.LastX = s.stack.Xreg;
-    s.stack.Xreg = doubles ? value * 2.0 : value / 2.0;
-    s.delivery.FnLabel = doubles ? "X"_t : "ö"_t;
-    s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliver({.value = doubles ? value * 2.0 : value / 2.0, .label = doubles ? "X"_t : "ö"_t});
 }
 
 void EntryCommands::pressFunction(int function) {

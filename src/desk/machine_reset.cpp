@@ -54,7 +54,7 @@ void MachineReset::clearStackAndTape() {
     s.functions.RightTriangleHasAngle = false;
     s.functions.CalcResetWord = kAllBits;
     calc.keypads().ClearPartialStates();
-    s.delivery.FnLabel.clear();
+    s.delivery = {};
     clearEntryState();
     if (s.modes.ProgramMode) {
         calc.keypads().ResetProgram();
@@ -66,9 +66,8 @@ void MachineReset::clearStackAndTape() {
 
 void MachineReset::clearEntryState() {
     EngineState& s = calc.s;
-    for (bool* flag :
-         {&s.entry.EntryOpen, &s.entry.EexActive, &s.delivery.KeepEntryText, &s.delivery.ValueInXreg,
-          &s.delivery.SkipCommitTail, &s.entry.EntryTouched, &s.entry.BaseTagDue, &s.entry.BaseNumberDone}) {
+    for (bool* flag : {&s.entry.EntryOpen, &s.entry.EexActive, &s.entry.EntryTouched, &s.entry.BaseTagDue,
+                       &s.entry.BaseNumberDone}) {
         *flag = false;
     }
 }

@@ -135,13 +135,8 @@ void MemoryRegisters::recall(int number, std::string_view label) {
     EngineState& s = calc.s;
     s.memory.RegistersUsed = true;
     const ValueCell& held = s.memory.Registers.at(static_cast<std::size_t>(number));
-    s.stack.Xreg = held.isEmpty() ? ValueCell{0.0} : held;
-    s.delivery.FnLabel = label;
     calc.form.setFocus(calc.form.cmdEnter);
-    s.delivery.ValueInXreg = true;
-    calc.setEntry(calc.text(s.stack.Xreg));
-    s.entry.EntryOpen = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliver({.value = held.isEmpty() ? ValueCell{0.0} : held, .label = label, .place = OnStack::Pushes});
 }
 
 void MemoryRegisters::finish() {

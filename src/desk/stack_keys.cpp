@@ -41,13 +41,6 @@ void StackKeys::takeTop() {
     }
 }
 
-void StackKeys::pushWithLabel(const char* label) {
-    calc.s.entry.EntryOpen = true;
-    calc.s.delivery.ValueInXreg = true;
-    calc.s.delivery.FnLabel = label;
-    calc.commit.cmdEnter_Click();
-}
-
 // Plain numbers, and nobody watches: no more than the commit of the element below is left to do.
 bool StackKeys::dropQuietly() {
     StackState& stack = calc.s.stack;
@@ -87,8 +80,7 @@ void StackKeys::cmdDown_Click() {
     takeTop();
     s.stack.StackPtr -= 2;
     s.stack.LastX = s.stack.Xreg;
-    s.stack.Xreg = s.stack.slot(s.stack.StackPtr);
-    pushWithLabel("Drop");
+    calc.commit.deliver({.value = s.stack.slot(s.stack.StackPtr), .label = "Drop", .place = OnStack::Pushes});
 }
 
 void StackKeys::cmdXchgY_Click() {
@@ -104,16 +96,13 @@ void StackKeys::cmdXchgY_Click() {
         return;
     }
     takeTop();
-    if (s.stack.depth() == 1) {
-        // What is missing (a 0, or a result that stood below the stack) becomes the top, so that no
-        // number goes below the stack.
-        s.stack.Xreg = s.stack.Yreg;
-    } else {
+    // What is missing under a single element (a 0, or a result that stood below the stack) becomes the
+    // top, so that no number goes below the stack.
+    if (s.stack.depth() > 1) {
         s.stack.StackPtr -= 1;
         s.stack.Stack[static_cast<std::size_t>(s.stack.StackPtr) - 1] = s.stack.Xreg;
-        s.stack.Xreg = s.stack.Yreg;
     }
-    pushWithLabel("x<>y");
+    calc.commit.deliver({.value = s.stack.Yreg, .label = "x<>y", .place = OnStack::Pushes});
 }
 
 void StackKeys::cmdLastx_Click() {
@@ -125,9 +114,7 @@ void StackKeys::cmdLastx_Click() {
     const bool exponent = s.entry.EexActive;
     const bool tagDue = s.entry.BaseTagDue;
     const bool tagged = s.entry.BaseNumberDone;
-    s.delivery.KeepEntryText = true;
-    s.stack.Xreg = s.stack.LastX;
-    pushWithLabel("Lastx");
+    calc.commit.deliver({.value = s.stack.LastX, .label = "Lastx", .place = OnStack::Pushes, .keepText = true});
     if (!typing) {
         calc.setEntry({});
         return;
@@ -160,8 +147,8 @@ void StackKeys::remainder() {
     if (!calc.entryText().empty()) {
         calc.commit.cmdEnter_Click();
     }
-    s.stack.Xreg = s.format.BaseRemainder.empty() ? "0" : s.format.BaseRemainder;
-    pushWithLabel("Mod");
+    const ValueCell rest = s.format.BaseRemainder.empty() ? "0" : s.format.BaseRemainder;
+    calc.commit.deliver({.value = rest, .label = "Mod", .place = OnStack::Pushes});
 }
 
 void StackKeys::changeSignOfX() {
@@ -175,10 +162,7 @@ void StackKeys::changeSignOfX() {
     }
     s.stack.LastX = s.stack.Xreg;
     // Not by way of the text, which has fewer digits than the number.
-    s.stack.Xreg = 0.0 - value;
-    s.delivery.ValueInXreg = true;
-    s.delivery.FnLabel = "CHS";
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliver({.value = 0.0 - value, .label = "CHS"});
 }
 
 void StackKeys::changeSignOfEntry() {

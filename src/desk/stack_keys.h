@@ -27,7 +27,6 @@ public:
 private:
     bool modifierActive();
     void takeTop();
-    void pushWithLabel(const char* label);
     void changeSignOfX();
     void changeSignOfEntry();
     void changeSignOfExponent();

@@ -8,15 +8,11 @@
 namespace tallyforge {
 
 void postLines(Engine& calc, std::span<const PostedLine> lines) {
-    EngineState& s = calc.s;
-    bool pushes = true;
+    // The first goes on top of the stack, the others take its place.
+    OnStack place = OnStack::Pushes;
     for (const PostedLine& line : lines) {
-        s.stack.Xreg = line.value;
-        s.delivery.FnLabel = line.label;
-        s.delivery.ValueInXreg = true;
-        // The first goes on top of the stack, the others take its place.
-        s.entry.EntryOpen = std::exchange(pushes, false);
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliver(
+            {.value = line.value, .label = line.label, .place = std::exchange(place, OnStack::ReplacesTop)});
     }
 }
 

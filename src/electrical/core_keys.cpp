@@ -165,7 +165,7 @@ void CoreKeys::inductanceAtFlux() {
     const double henries = tallyforge::inductanceAtFlux(core[0], core[1], calc.xNumber(), areaPerLength);
     areaPerLength_ = areaPerLength;
     replaceX(calc, {calc.s.stack.Xreg, "n"});
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     replaceOperands(calc, newCore ? 2 : 1, {henries, "Hy"});
     chooseDigits(calc);
 }

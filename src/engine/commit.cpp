@@ -20,8 +20,16 @@ constexpr double kLastDigits = 1e-14;
 
 }  // namespace
 
-void Commit::cmdEnter_Click() {
-    if (quiet_ && commitQuietly()) {
+void Commit::deliver(Delivery delivery) {
+    EngineState& s = calc.s;
+    s.stack.Xreg = std::move(delivery.value);
+    s.delivery.FnLabel = delivery.label;
+    s.entry.EntryOpen = delivery.place == OnStack::Pushes;
+    commit({.fromEntry = false, .keepText = delivery.keepText});
+}
+
+void Commit::commit(Manner manner) {
+    if (quiet_ && manner.tapeLine && !manner.keepText && commitQuietly(manner.fromEntry)) {
         return;
     }
     wake();
@@ -39,20 +47,20 @@ void Commit::cmdEnter_Click() {
         s.stack.StackPtr = std::max(s.stack.StackPtr - 1, 0);
     }
     ValueCell savedLastX;
-    if (!std::exchange(s.delivery.ValueInXreg, false)) {
-        readEntry(savedLastX);
+    if (manner.fromEntry) {
+        readEntry(manner, savedLastX);
     }
     storeOnStack();
-    if (!std::exchange(s.delivery.SkipCommitTail, false)) {
-        showAndFinish(savedLastX);
+    if (manner.tapeLine) {
+        showAndFinish(manner, savedLastX);
     }
 }
 
-void Commit::readEntry(ValueCell& savedLastX) {
+void Commit::readEntry(Manner manner, ValueCell& savedLastX) {
     EngineState& s = calc.s;
     const std::string& typed = calc.entryText();
     if (typed.empty()) {
-        if (s.delivery.KeepEntryText || s.delivery.SkipCommitTail) {
+        if (!manner.tapeLine) {
             calc.setEntry(calc.text(s.stack.Xreg));
         }
         s.stack.StackPtr += 1;
@@ -96,8 +104,7 @@ void Commit::enterStored(double number) {
         s.stack.Xreg = number;
     }
     s.entry.EntryOpen = true;
-    s.delivery.ValueInXreg = true;
-    cmdEnter_Click();
+    deliverX();
 }
 
 void Commit::pushCopy(double number) {
@@ -135,17 +142,16 @@ void Commit::enableStackKeys() {
     calc.form.cmdSTO.enabled = true;
 }
 
-void Commit::showAndFinish(const ValueCell& savedLastX) {
+void Commit::showAndFinish(Manner manner, const ValueCell& savedLastX) {
     EngineState& s = calc.s;
-    const bool shown = display();
-    if (std::exchange(s.delivery.FormatFault, false)) {
-        refused_ = true;
-        s.stack.Xreg = s.stack.LastX;
-        s.stack.LastX = savedLastX;
-        s.stack.StackPtr = std::max(s.stack.StackPtr - 1, 1);
-        s.stack.Yreg = s.stack.slot(s.stack.StackPtr - 2);
-    } else if (shown) {
-        calc.display.DisplayChg();
+    const auto report = [&](const Failure& failure) { onFailure(failure); };
+    bool shown = false;
+    if (goOn(report, [&] { shown = calc.display.DspFmat(s.stack.Xreg); })) {
+        if (shown) {
+            calc.display.DisplayChg();
+        } else {
+            takeBack(savedLastX);
+        }
     }
     s.CurrentProc = "cmdEnter";
     // A label belongs to the line of its own commit; one that was not printed stands on no other.
@@ -153,15 +159,20 @@ void Commit::showAndFinish(const ValueCell& savedLastX) {
     calc.stackList.refresh();
     ShowSmallRegs();
     s.entry.BaseNumberDone = false;
-    if (!std::exchange(s.delivery.KeepEntryText, false)) {
+    if (!manner.keepText) {
         calc.setEntry({});
     }
     s.entry.EntryTouched = false;
 }
 
-bool Commit::display() {
-    const auto report = [&](const Failure& failure) { onFailure(failure); };
-    return goOn(report, [&] { calc.display.DspFmat(calc.s.stack.Xreg); }) && !calc.s.delivery.FormatFault;
+// What was typed is no number of a base.
+void Commit::takeBack(const ValueCell& savedLastX) {
+    StackState& stack = calc.s.stack;
+    refused_ = true;
+    stack.Xreg = stack.LastX;
+    stack.LastX = savedLastX;
+    stack.StackPtr = std::max(stack.StackPtr - 1, 1);
+    stack.Yreg = stack.slot(stack.StackPtr - 2);
 }
 
 void Commit::onFailure(const Failure& failure) {
@@ -182,22 +193,18 @@ void Commit::pushRecalled() {
     calc.s.stack.StackPtr -= 1;
     calc.form.setFocus(calc.form.cmdEnter);
     calc.s.entry.EntryOpen = true;
-    calc.s.delivery.ValueInXreg = false;
     cmdEnter_Click();
 }
 
-void Commit::PushResult() {
+void Commit::PushResult(bool keepsDigits) {
     EngineState& s = calc.s;
     const int digits = s.format.DisplayDigits;
     const DisplayMode mode = s.format.Mode;
-    if (!s.delivery.KeepDigits) {
+    if (!keepsDigits) {
         goOn([&](const Failure& failure) { onFailure(failure); }, [&] { AutoDigits(); });
     }
     s.entry.EntryOpen = true;
-    s.delivery.ValueInXreg = true;
-    cmdEnter_Click();
-    // Stays set, so that a commit by the caller's own tail does not read the entry line.
-    s.delivery.ValueInXreg = true;
+    deliverX();
     s.format.DisplayDigits = digits;
     s.format.Mode = mode;
 }
@@ -216,11 +223,11 @@ void Commit::AutoDigits() {
     }
 }
 
-bool Commit::FetchX() {
+bool Commit::FetchX(bool silently) {
     EngineState& s = calc.s;
     if (s.entry.EntryOpen) {
         refused_ = false;
-        cmdEnter_Click();
+        commit({.tapeLine = !silently});
         if (refused_) {
             return false;
         }
@@ -233,8 +240,6 @@ bool Commit::FetchX() {
         s.stack.Xreg = s.stack.operand(s.stack.StackPtr - 1);
     }
     s.stack.Yreg = s.stack.operand(s.stack.StackPtr - 2);
-    s.delivery.ValueInXreg = true;
-    s.delivery.SkipCommitTail = false;
     return true;
 }
 

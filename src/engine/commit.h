@@ -3,30 +3,46 @@
 // The commit: the one step by which every number reaches the stack, and the few operations around
 // it. Functions leave a result in Xreg and a label in FnLabel; nothing but the commit changes the
 // top of the stack for good. Four ways to deliver a result:
-//   one operand    FetchX, set Xreg and FnLabel, cmdEnter_Click: the top is replaced
+//   one operand    FetchX, set Xreg and FnLabel: the dispatch commits, and the top is replaced
 //   two operands   the same with StackPtr lowered by one before the commit
 //   pushing        set Xreg and FnLabel, PushResult
 //   no value       Xreg = "ZZZ" and return
+// Who is no function of the bank hands value, label and place to deliver().
 #pragma once
 
 #include "engine/tape.h"
 #include "numbers/failure.h"
 #include "numbers/value_cell.h"
 
+#include <cstdint>
 #include <string_view>
 
 namespace tallyforge {
 
 class Engine;
 
+/// In the place of the topmost element, or above it.
+enum class OnStack : std::uint8_t { ReplacesTop, Pushes };
+
+/// What a caller wants committed.
+struct Delivery {
+    ValueCell value{};
+    std::string_view label{};  ///< of the tape line
+    OnStack place = OnStack::ReplacesTop;
+    bool keepText = false;  ///< what stands in the entry line stays
+};
+
 class Commit {
 public:
     explicit Commit(Engine& calculator) : calc(calculator) {}
 
-    /// The commit, also the click of the Enter key. Reads the entry line unless Xreg was set by
-    /// a function (ValueInXreg); on an empty line it duplicates X. Raises nothing: failures are
-    /// shown in a box and repaired.
-    void cmdEnter_Click();
+    /// The click of the Enter key: commits what the entry line holds; on an empty line it duplicates
+    /// X. Raises nothing: failures are shown in a box and repaired.
+    void cmdEnter_Click() { commit({}); }
+    /// Commits a value, whatever the entry line holds. Raises nothing.
+    void deliver(Delivery delivery);
+    /// Commits X under the label, and to the place, that a function has left with it. Raises nothing.
+    void deliverX() { commit({.fromEntry = false}); }
 
     /// Nobody watches, and nothing is typed, held, latched or lit: a plain number needs no more than
     /// its place on the stack and its line of the tape.
@@ -51,13 +67,13 @@ public:
     void pushRecalled();
 
     /// Delivers X as a new stack element where there is no entry to consider. Chooses digits with
-    /// AutoDigits unless KeepDigits is set; the user's format is as before afterwards.
-    void PushResult();
+    /// AutoDigits unless it `keepsDigits`; the user's format is as before afterwards.
+    void PushResult(bool keepsDigits = false);
 
-    /// Brings the operand into X: commits a number that is still being typed, else takes the top
-    /// of the stack. First call of every key function. Returns false where what was typed is no
-    /// number (the box has said so): there is no operand then, and the function is not to run.
-    [[nodiscard]] bool FetchX();
+    /// Brings the operand into X: commits a number that is still being typed, with a tape line unless
+    /// `silently`, else takes the top of the stack. First call of every key function. Returns false where what was
+    /// typed is no number (the box has said so): there is no operand then, and the function is not to run.
+    [[nodiscard]] bool FetchX(bool silently = false);
 
     /// Before the first character of a number reaches the entry line.
     void BeginEntry();
@@ -80,11 +96,18 @@ public:
     void ShowSmallRegs();
 
 private:
-    [[nodiscard]] bool commitQuietly();
-    void readEntry(ValueCell& savedLastX);
+    /// What one commit does beside storing.
+    struct Manner {
+        bool fromEntry = true;  ///< what is typed becomes X first
+        bool tapeLine = true;
+        bool keepText = false;
+    };
+    void commit(Manner manner);
+    [[nodiscard]] bool commitQuietly(bool fromEntry);
+    void readEntry(Manner manner, ValueCell& savedLastX);
     void storeOnStack();
-    void showAndFinish(const ValueCell& savedLastX);
-    bool display();
+    void showAndFinish(Manner manner, const ValueCell& savedLastX);
+    void takeBack(const ValueCell& savedLastX);
     void endExponent();
     void onFailure(const Failure& failure);
 

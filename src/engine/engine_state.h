@@ -106,21 +106,13 @@ private:
     [[nodiscard]] static const ValueCell& noCell();
 };
 
-/// What a function tells the commit beside X: set by the caller, cleared by the commit.
-struct DeliveryState {
-    TapeLabel FnLabel;            ///< label of the coming tape line
-    bool ValueInXreg = false;     ///< the commit takes Xreg, not the entry line
-    bool SkipCommitTail = false;  ///< the commit stores but writes no tape line
-    bool FormatFault = false;     ///< the value could not be shown: take the push back
-    bool KeepEntryText = false;   ///< the commit leaves the entry line's text in place
-    bool KeepDigits = false;      ///< PushResult keeps the digits that the caller has set
-    bool ShowRawOnce = false;     ///< the next numDisplay gives the plain text
-    bool DmsDisplay = false;      ///< the next numDisplay shows minutes and seconds
+/// How the coming number is written, where the format is a fixed one.
+enum class WrittenAs : std::uint8_t { Number, Text, MinutesAndSeconds };
 
-    /// Nothing but a label and where the value comes from.
-    [[nodiscard]] bool plain() const {
-        return !SkipCommitTail && !FormatFault && !KeepEntryText && !ShowRawOnce && !DmsDisplay;
-    }
+/// What a function leaves beside X for the commit that follows it; the commit takes it.
+struct DeliveryState {
+    TapeLabel FnLabel;  ///< label of the coming tape line
+    WrittenAs writtenAs = WrittenAs::Number;
 };
 
 /// The entry line.

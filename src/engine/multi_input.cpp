@@ -115,7 +115,7 @@ MultiInput::Outcome MultiInput::deliver(const KeySolution& solved, const KeyInpu
     } else {
         useLook(shape.givenLook);
         setX(valueOf(last), labelOf(last));
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliverX();
     }
     if (results.empty()) {
         return startAnew(shape.undoneLabel.empty() ? shape.resetLabel : shape.undoneLabel);
@@ -123,7 +123,7 @@ MultiInput::Outcome MultiInput::deliver(const KeySolution& solved, const KeyInpu
     for (KeyResult& result : results) {
         const bool pushes = &result != &results.front();
         if (pushes) {
-            calc.commit.cmdEnter_Click();
+            calc.commit.deliverX();
         }
         setX(result.value, std::move(result.label));
         useLook(shape.resultLook);
@@ -150,13 +150,12 @@ void MultiInput::complete() {
 void MultiInput::writeEcho(const KeyInput& input) {
     setX(valueOf(input), input.echoLabel.empty() ? labelOf(input) : std::string(input.echoLabel));
     useLook(input.echoLook.value_or(shape.echoLook));
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
 }
 
 void MultiInput::setX(double value, std::string_view label) {
     calc.s.stack.Xreg = value;
     calc.s.delivery.FnLabel = label;
-    calc.s.delivery.ValueInXreg = true;
 }
 
 // For the number in X.

@@ -166,10 +166,10 @@ bool isWhole(std::string_view tagged) {
 
 }  // namespace
 
-void NumberDisplay::DspFmat(const ValueCell& shown) {
+bool NumberDisplay::DspFmat(const ValueCell& shown) {
     EngineState& s = calc.s;
     if (writeUnformatted(shown)) {
-        return;
+        return true;
     }
     // A copy: the value may be X, which changes here.
     ValueCell value = shown;
@@ -177,23 +177,23 @@ void NumberDisplay::DspFmat(const ValueCell& shown) {
     if (value.isTagged()) {
         if (baseLayout(value.textView()) != nullptr && isWhole(value.textView())) {
             SetUpDisplay(std::string(value.textView()));
-        } else {
-            tagWithHex(value);
+            return true;
         }
-        return;
+        return tagWithHex(value);
     }
     if (value.isEmptyText()) {
         s.stack.Xreg = s.stack.StackPtr <= 1 ? ValueCell::zero() : s.stack.LastX;
         value = ValueCell{};
     }
     SetUpDisplay(numDisplay(value));
+    return true;
 }
 
 // A plain number that needs one line is formatted when its line is looked at.
 bool NumberDisplay::writeUnformatted(const ValueCell& value) {
     EngineState& s = calc.s;
     const double* const number = value.asDouble();
-    if (number == nullptr || s.delivery.ShowRawOnce || s.delivery.DmsDisplay) {
+    if (number == nullptr || s.delivery.writtenAs != WrittenAs::Number) {
         return false;
     }
     const std::uint8_t look = packed(s.format.look());
@@ -213,20 +213,19 @@ double NumberDisplay::oneLineBelow(std::uint8_t look) {
     return kOneLineBelow[look];
 }
 
-void NumberDisplay::tagWithHex(const ValueCell& value) {
+bool NumberDisplay::tagWithHex(const ValueCell& value) {
     EngineState& s = calc.s;
     const std::string_view digits = value.textView().substr(1);
     const bool hexDigit =
         std::any_of(digits.begin(), digits.end(), [](char digit) { return digit >= 'A' && digit <= 'F'; });
     if (!hexDigit || !isWhole(digits)) {
         calc.message(BoxKind::Stop, "Error!", "Binary indicator (b, d, h, o) required");
-        s.delivery.FormatFault = true;
-        return;
+        return false;
     }
     const ValueCell tagged{std::string(value.textView()) + "h"};
     s.stack.Xreg = tagged;
     s.stack.Stack[static_cast<std::size_t>(s.stack.StackPtr) - 1] = tagged;
-    DspFmat(tagged);
+    return DspFmat(tagged);
 }
 
 std::string NumberDisplay::numDisplay(const ValueCell& value) {
@@ -234,11 +233,11 @@ std::string NumberDisplay::numDisplay(const ValueCell& value) {
     s.CurrentProc = "numDisplay";
     const double number = calc.number(value);
     const bool fixed = s.format.Mode == DisplayMode::Fixed && !leavesFixed(number, s.format.DisplayDigits);
-    if (fixed && std::exchange(s.delivery.ShowRawOnce, false)) {
+    const WrittenAs as = std::exchange(s.delivery.writtenAs, WrittenAs::Number);
+    if (fixed && as == WrittenAs::Text) {
         return calc.text(value);
     }
-    const bool minutesAndSeconds = std::exchange(s.delivery.DmsDisplay, false);
-    if (fixed && minutesAndSeconds) {
+    if (fixed && as == WrittenAs::MinutesAndSeconds) {
         return hoursText(number, s.format.DecimalChar);
     }
     return shownNumber(number, s.format.look(), s.delivery.FnLabel.size());

@@ -21,9 +21,9 @@ public:
     explicit NumberDisplay(Engine& calculator) : calc(calculator) {}
 
     /// Writes `value` to the tape. A number of a base without its letter gets "h" where it has a
-    /// hex digit; without one FormatFault is set after a message. Raises 13 and 6 for a text that
-    /// is no number.
-    void DspFmat(const ValueCell& value);
+    /// hex digit; without one a message comes, and nothing is written: returns false. Raises 13 and 6
+    /// for a text that is no number.
+    [[nodiscard]] bool DspFmat(const ValueCell& value);
 
     /// `value` in the user's format (mode, digits, room for FnLabel). Raises 13 and 6.
     [[nodiscard]] std::string numDisplay(const ValueCell& value);
@@ -66,7 +66,7 @@ public:
 private:
     [[nodiscard]] bool writeUnformatted(const ValueCell& value);
     void lineWritten();
-    void tagWithHex(const ValueCell& value);
+    [[nodiscard]] bool tagWithHex(const ValueCell& value);
     void setUpBaseNumber(std::string_view text);
     bool setWordSize(double bits);
     bool setDigits(double digits);

@@ -31,25 +31,23 @@ bool entryAtRest(const EntryState& entry) {
 void Commit::settle() {
     const EngineState& s = calc.s;
     quiet_ = calc.unwatched && !calc.dialogOpen && entryAtRest(s.entry) && modifiersAtRest(s.modifiers) &&
-             s.delivery.plain() && !s.delivery.ValueInXreg && s.delivery.FnLabel.empty() && keysAtRest(calc.form) &&
+             s.delivery.writtenAs == WrittenAs::Number && s.delivery.FnLabel.empty() && keysAtRest(calc.form) &&
              calc.tape.fillers() == 0 && calc.form.lstDisplayReg.place.width == kWideTape;
 }
 
 // Where the number on top is a plain one that fits on a line.
-bool Commit::commitQuietly() {
+bool Commit::commitQuietly(bool fromEntry) {
     EngineState& s = calc.s;
     const double* const x = s.stack.Xreg.asDouble();
-    const bool copiesX = !s.delivery.ValueInXreg;
-    const int place = s.stack.StackPtr - (s.entry.EntryOpen ? 0 : 1) + (copiesX ? 1 : 0);
+    const int place = s.stack.StackPtr - (s.entry.EntryOpen ? 0 : 1) + (fromEntry ? 1 : 0);
     const auto label = calc.tape.known(s.delivery.FnLabel);
-    if (x == nullptr || place < 0 || !s.delivery.plain() || !label || !put(*x, place, *label)) {
+    if (x == nullptr || place < 0 || s.delivery.writtenAs != WrittenAs::Number || !label || !put(*x, place, *label)) {
         return false;
     }
-    if (copiesX) {
+    if (fromEntry) {
         s.stack.LastX = *x;
     }
     s.entry.EntryOpen = false;
-    s.delivery.ValueInXreg = false;
     s.delivery.FnLabel.clear();
     return true;
 }

@@ -12,7 +12,6 @@ namespace {
 void setX(Engine& calc, const Result& result) {
     calc.s.stack.Xreg = result.value;
     calc.s.delivery.FnLabel = result.label;
-    calc.s.delivery.ValueInXreg = true;
 }
 
 }  // namespace
@@ -42,9 +41,7 @@ void pushOnX(Engine& calc, const Result& result) {
 
 void pushAtOnce(Engine& calc, const Result& result, bool keepsDigits) {
     setX(calc, result);
-    calc.s.delivery.KeepDigits = keepsDigits;
-    calc.commit.PushResult();
-    calc.s.delivery.KeepDigits = false;
+    calc.commit.PushResult(keepsDigits);
 }
 
 void replaceWithPair(Engine& calc, int operands, const Result& first, const Result& second, bool keepsDigits) {
@@ -61,8 +58,7 @@ void chooseDigits(Engine& calc, int digits) {
 
 void writeTypedOperand(Engine& calc) {
     if (calc.s.entry.EntryTouched) {
-        calc.s.delivery.ValueInXreg = true;
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliverX();
     }
 }
 

@@ -65,7 +65,7 @@ double hoursMinutesSeconds(const Hours& hours) {
 void deliverHms(Engine& calc, int operands, double decimal, const char* label) {
     const double value = MathFunctions::HmsConvert(decimal, false);
     calc.display.SaveDisplay(kHmsDigits);
-    calc.s.delivery.DmsDisplay = true;
+    calc.s.delivery.writtenAs = WrittenAs::MinutesAndSeconds;
     replaceOperands(calc, operands, {value, label});
 }
 

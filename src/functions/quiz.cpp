@@ -182,7 +182,7 @@ void Quiz::makeProblem() {
 
 void Quiz::poseProblem() {
     // Rounded to whole numbers the two would be one, and a wrong one.
-    calc.s.delivery.ShowRawOnce = true;
+    calc.s.delivery.writtenAs = WrittenAs::Text;
     pushOnX(calc, {bothNumbers(QuizA, QuizB), QuizText});
     ownTop_ = calc.s.stack.StackPtr + 1;
 }

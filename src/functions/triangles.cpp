@@ -187,11 +187,10 @@ void Triangles::solveGeneral(std::uint8_t last) {
 // takes its place on the stack.
 void Triangles::deliver(MultiInput& set, const std::vector<Finding>& findings) {
     set.complete();
-    calc.s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     replaceX(calc, {findings.front().value, findings.front().label});
     for (std::size_t i = 1; i < findings.size(); ++i) {
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliverX();
         pushOnX(calc, {findings.at(i).value, findings.at(i).label});
     }
 }

@@ -124,8 +124,7 @@ void ArithmeticKeys::cmdMath_Click(int index) {
         s.stack.StackPtr = std::max(s.stack.StackPtr - 1, 1);
     }
     calc.ClearOptKeys();
-    s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
 }
 
 ArithmeticKeys::Operands ArithmeticKeys::choose(int index) {
@@ -178,7 +177,6 @@ void ArithmeticKeys::abandon() {
     s.delivery.FnLabel.clear();
     calc.stackList.refresh();
     calc.commit.ShowSmallRegs();
-    s.delivery.ValueInXreg = false;
     calc.ClearOptKeys();
 }
 

@@ -113,10 +113,7 @@ void Dispatch::typeWith(const KeyRow& key) {
 // Returns whether there is an operand to work on.
 bool Dispatch::bringXUpToDate(const KeyRow& key) {
     EngineState& s = calc.s;
-    s.delivery.SkipCommitTail = key.silentOperand && s.entry.EntryOpen;
-    const bool fetched = calc.commit.FetchX();
-    s.delivery.SkipCommitTail = false;
-    if (!fetched) {
+    if (!calc.commit.FetchX(key.silentOperand)) {
         return false;
     }
     if (programRuns && programRuns()) {
@@ -190,7 +187,6 @@ void Dispatch::leaveKey() {
 void Dispatch::leaveNothing(int index) {
     EngineState& s = calc.s;
     calc.setEntry({});
-    s.delivery.ValueInXreg = false;
     s.entry.EntryOpen = false;
     s.entry.EexActive = false;
     s.delivery.FnLabel.clear();
@@ -206,12 +202,8 @@ void Dispatch::leaveNothing(int index) {
 
 void Dispatch::commitResult() {
     EngineState& s = calc.s;
-    if (s.delivery.KeepEntryText || s.delivery.SkipCommitTail) {
-        calc.setEntry(calc.text(s.stack.Xreg));
-    }
     // Not by way of the text, which has fewer digits than the number.
-    s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     if (!s.modes.BaseMode && s.modes.BaseSuspended != kBaseSuspended) {
         calc.display.RestoreDisplay();
     }

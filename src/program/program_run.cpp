@@ -182,10 +182,8 @@ void ProgramRun::pushCopy(const ValueCell& cell) {
     } else if (cell.isEmpty() || cell.isEmptyText()) {
         pushVariable(0.0);
     } else {
-        calc.s.stack.LastX = std::exchange(calc.s.stack.Xreg, ValueCell(cell));
-        calc.s.entry.EntryOpen = true;
-        calc.s.delivery.ValueInXreg = true;
-        calc.commit.cmdEnter_Click();
+        calc.s.stack.LastX = calc.s.stack.Xreg;
+        calc.commit.deliver({.value = cell, .place = OnStack::Pushes});
     }
 }
 

@@ -229,9 +229,7 @@ void Calculator::start() {
 // What a handler let through: the key ends, and what it has not touched stands.
 void Calculator::tellFailure(const std::exception& failure) {
     EngineState& s = engine_.s;
-    s.delivery.ValueInXreg = false;
-    s.delivery.SkipCommitTail = false;
-    s.delivery.KeepEntryText = false;
+    s.delivery = {};
     const bool memory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr;
     engine_.errorBox(BoxKind::Stop, memory ? "Error: there is not enough memory for that!" : "Error");
 }

@@ -68,8 +68,7 @@ protected:
                   const std::function<void(DialogAtHand)>& hand) {
         calc.s.stack.Xreg = x;
         calc.s.entry.EntryOpen = true;
-        calc.s.delivery.ValueInXreg = true;
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliverX();
         calc.s.modifiers.ModifierMask = modifiers;
         handOver.EnterDialog();
         open(table, hand);

@@ -113,8 +113,7 @@ TEST_F(LadderTest, AnotherFrequencyStartsTheNetworkAnew) {
 TEST_F(LadderTest, TheFrequencyComesInUnderShift) {
     calc.s.stack.Xreg = 2000.0;
     calc.s.entry.EntryOpen = true;
-    calc.s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     calc.s.modifiers.ModifierMask = kShift;
     handOver.EnterDialog();
     openLadder([&](DialogAtHand hand) {

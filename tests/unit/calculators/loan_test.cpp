@@ -100,8 +100,7 @@ TEST_F(LoanTest, TheExample) {
 TEST_F(LoanTest, XIsTheAmountUnderShift) {
     calc.s.stack.Xreg = "1000";
     calc.s.entry.EntryOpen = true;
-    calc.s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     calc.s.modifiers.ModifierMask = kShift;
     handOver.EnterDialog();
     openLoan([&](DialogAtHand hand) {

@@ -77,10 +77,12 @@ TEST_F(Commit_, TheEntryLineIsEmptyAfterwardsUnlessItsTextIsKept) {
     enter();
     EXPECT_EQ(calc.entryText(), "");
     commitText("4");
-    calc.s.delivery.KeepEntryText = true;
-    commitText("6");
+    calc.setEntry("6");
+    calc.commit.deliver({.value = 5.0, .label = "five", .place = OnStack::Pushes, .keepText = true});
     EXPECT_EQ(calc.entryText(), "6");
-    EXPECT_FALSE(calc.s.delivery.KeepEntryText);
+    EXPECT_EQ(lastLine(), "five               5.00");
+    commitText("7");
+    EXPECT_EQ(calc.entryText(), "");
 }
 
 TEST_F(Commit_, ABaseNumberWithoutLetterButWithAHexDigitGetsItsLetter) {
@@ -124,13 +126,14 @@ TEST_F(Commit_, PushResultAddsAnElementAndKeepsTheUsersFormat) {
     EXPECT_EQ(lastLine(), "big         123.456e+03");
     EXPECT_EQ(calc.s.format.DisplayDigits, 2);
     EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
-    EXPECT_TRUE(calc.s.delivery.ValueInXreg);
+    // The next number that is typed is the next one that is committed.
+    commitText("7");
+    EXPECT_EQ(x(), "7");
 }
 
 TEST_F(Commit_, PushResultLeavesDigitsThatTheCallerHasSet) {
-    calc.s.delivery.KeepDigits = true;
     calc.s.stack.Xreg = 0.5;
-    calc.commit.PushResult();
+    calc.commit.PushResult(true);
     EXPECT_EQ(lastLine(), "0.50");
 }
 
@@ -147,14 +150,14 @@ TEST_F(Commit_, AutoDigitsChoosesTwoForZeroAndLeavesAMiddlingNumberAlone) {
     EXPECT_EQ(calc.s.format.Mode, DisplayMode::Fixed);
 }
 
-TEST_F(Commit_, ASkippedTailStoresWithoutATapeLine) {
+TEST_F(Commit_, AnOperandThatIsTakenSilentlyIsStoredWithoutATapeLine) {
     type("9");
-    calc.s.delivery.SkipCommitTail = true;
-    calc.commit.cmdEnter_Click();
+    EXPECT_TRUE(calc.commit.FetchX(true));
     EXPECT_EQ(element(1), "9");
     EXPECT_EQ(calc.tape.lines(), 0U);
     EXPECT_EQ(calc.entryText(), "9");
-    EXPECT_FALSE(calc.s.delivery.SkipCommitTail);
+    EXPECT_TRUE(calc.commit.FetchX(true));
+    EXPECT_EQ(calc.s.stack.depth(), 1);
 }
 
 TEST_F(Commit_, ALabelThatWasNotPrintedStandsOnNoLaterLine) {

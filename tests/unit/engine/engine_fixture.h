@@ -84,8 +84,7 @@ protected:
         calc.s.stack.LastX = calc.s.stack.Xreg;
         calc.s.stack.Xreg = std::move(value);
         calc.s.delivery.FnLabel = label;
-        calc.s.delivery.ValueInXreg = true;
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliverX();
     }
 
     [[nodiscard]] std::string x() const { return calc.text(calc.s.stack.Xreg); }

@@ -38,21 +38,17 @@ protected:
     MultiInput::Outcome pressKeyOf(MultiInput& input, std::uint8_t mask, std::string_view typed = {}) {
         type(typed);
         calc.s.modifiers.ModifierMask = mask;
-        calc.s.delivery.SkipCommitTail = calc.s.entry.EntryOpen;
-        EXPECT_TRUE(calc.commit.FetchX());
-        calc.s.delivery.SkipCommitTail = false;
+        EXPECT_TRUE(calc.commit.FetchX(true));
         calc.s.stack.LastX = calc.s.stack.Xreg;
         const MultiInput::Outcome outcome = input.press();
         calc.s.modifiers.ModifierMask = 0;
         calc.s.entry.EntryTouched = false;
         if (outcome == MultiInput::Outcome::NoMeaning) {
             calc.s.stack.Xreg = "";
-            calc.s.delivery.ValueInXreg = false;
             calc.setEntry({});
             return outcome;
         }
-        calc.s.delivery.ValueInXreg = true;
-        calc.commit.cmdEnter_Click();
+        calc.commit.deliverX();
         calc.display.RestoreDisplay();
         return outcome;
     }
@@ -104,8 +100,7 @@ TEST_F(MultiInputTest, AnInputMayBeComputedOnTheStack) {
     commitText("5");
     calc.commit.lowerStack(2);
     calc.s.stack.Xreg = 25.0;
-    calc.s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     EXPECT_EQ(press(kAlt), Outcome::Solved);
     EXPECT_EQ(x(), "20");
     EXPECT_EQ(calc.s.stack.depth(), 2);
@@ -251,8 +246,7 @@ TEST_F(MultiInputTest, AFailedSolutionLeavesTheStackAndTheOtherInputs) {
     EXPECT_THROW(key.press(), Failure) << "both alike: the other one is infinite";
     EXPECT_EQ(calc.s.stack.StackPtr, pointer);
     EXPECT_EQ(key.received(), 1);
-    calc.s.delivery.ValueInXreg = true;
-    calc.commit.cmdEnter_Click();
+    calc.commit.deliverX();
     EXPECT_EQ(press(kCtrl, "200"), Outcome::Solved);
     EXPECT_DOUBLE_EQ(calc.xNumber(), 200.0);
     EXPECT_EQ(element(1), "7");

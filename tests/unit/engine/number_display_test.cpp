@@ -73,17 +73,17 @@ TEST_F(Display, MakesRoomForALabelInTheLongFormats) {
 }
 
 TEST_F(Display, ShowsThePlainTextOnce) {
-    calc.s.delivery.ShowRawOnce = true;
+    calc.s.delivery.writtenAs = WrittenAs::Text;
     EXPECT_EQ(calc.display.numDisplay("2.500"), "2.500");
     EXPECT_EQ(calc.display.numDisplay("2.500"), "2.50");
 }
 
 TEST_F(Display, LaysAFractionOutAsMinutesAndSecondsOnce) {
     calc.s.format.DisplayDigits = 5;
-    calc.s.delivery.DmsDisplay = true;
+    calc.s.delivery.writtenAs = WrittenAs::MinutesAndSeconds;
     EXPECT_EQ(calc.display.numDisplay(12.3045), "12:30 45.0");
-    EXPECT_FALSE(calc.s.delivery.DmsDisplay);
-    calc.s.delivery.DmsDisplay = true;
+    EXPECT_EQ(calc.s.delivery.writtenAs, WrittenAs::Number);
+    calc.s.delivery.writtenAs = WrittenAs::MinutesAndSeconds;
     EXPECT_EQ(calc.display.numDisplay(-0.3045), "-0:30 45.0");
 }
 

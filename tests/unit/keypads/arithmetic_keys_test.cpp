@@ -129,7 +129,9 @@ TEST_F(ArithmeticKeysTest, CtrlWorksOnRegisterOneAndLeavesXTheStackAndTheTape) {
     EXPECT_EQ(calc.tape.lines(), lines);
     EXPECT_TRUE(calc.s.memory.RegistersUsed);
     EXPECT_FALSE(calc.s.modifiers.ModifierLatched);
-    EXPECT_FALSE(calc.s.delivery.ValueInXreg);
+    type("4");
+    enter();
+    EXPECT_EQ(x(), "4");
 }
 
 TEST_F(ArithmeticKeysTest, CtrlTakesTheRegisterAsTheLeftSideOfAllFour) {

@@ -67,7 +67,6 @@ TEST_F(DispatchTest, SilentOperandIsPushedWithoutALineOfItsOwn) {
     EXPECT_EQ(calc.tape.lines(), before + 1);
     EXPECT_EQ(x(), "3");
     EXPECT_EQ(calc.s.stack.depth(), 1);
-    EXPECT_FALSE(calc.s.delivery.SkipCommitTail);
 }
 
 TEST_F(DispatchTest, SilentOperandTableIsTheOneOfTheKeypads) {
@@ -103,7 +102,6 @@ TEST_F(DispatchTest, NothingDoneClearsTheLineAndCommitsNothing) {
     EXPECT_EQ(calc.entryText(), "");
     EXPECT_EQ(calc.tape.lines(), before + 1) << "the typed operand only";
     EXPECT_EQ(element(2), "5");
-    EXPECT_FALSE(calc.s.delivery.ValueInXreg);
     enter();
     EXPECT_EQ(x(), "5");
     EXPECT_EQ(calc.s.stack.depth(), 3);

@@ -92,9 +92,9 @@ std::vector<std::string> runOf(const std::string& program, bool quiet) {
     const MainForm& form = hand.form();
     all.push_back(form.txtLastx.text + "|" + form.txty_Reg.text + "|" + form.txtXreg.text + "|" +
                   std::string(std::string_view(s.CurrentProc)));
-    for (const bool flag : {s.entry.EntryOpen, s.entry.EexActive, s.entry.EntryTouched, s.delivery.ValueInXreg,
-                            s.delivery.KeepEntryText, s.delivery.DmsDisplay, form.cmdDown.enabled,
-                            form.cmdXchgY.enabled, form.cmdLastx.enabled, form.cmdSTO.enabled,
+    for (const bool flag : {s.entry.EntryOpen, s.entry.EexActive, s.entry.EntryTouched,
+                            s.delivery.writtenAs != WrittenAs::Number, !s.delivery.FnLabel.empty(),
+                            form.cmdDown.enabled, form.cmdXchgY.enabled, form.cmdLastx.enabled, form.cmdSTO.enabled,
                             form.optKey.back().checked, form.shaCtrl.visible, s.modes.QuizMode, s.modes.ProgramMode}) {
         all.emplace_back(flag ? "yes" : "no");
     }
