@@ -4,11 +4,14 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <functional>
@@ -87,6 +90,26 @@ TEST_F(Dialogs, RemembersAnOption) {
     const bool before = platform.readOption("GuiTest", false);
     platform.writeOption("GuiTest", !before);
     EXPECT_EQ(platform.readOption("GuiTest", before), !before);
+}
+
+TEST_F(Dialogs, AFileToBeWrittenIsAskedForByAChooserThatLeavesOverwritingToTheCalculator) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("Zoë.csv");
+    QFile there(path);
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    const InputBox box{.title = "Export", .prompt = "", .preset = "Tape.csv", .fileName = true, .writes = ".csv"};
+    whenModal([&](QWidget& modal) {
+        auto& chooser = dynamic_cast<QFileDialog&>(modal);
+        EXPECT_EQ(chooser.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_TRUE(chooser.testOption(QFileDialog::DontConfirmOverwrite));
+        EXPECT_EQ(chooser.windowTitle(), "Export");
+        chooser.selectFile(path);
+        chooser.findChild<QLineEdit*>()->setText(path);
+        QMetaObject::invokeMethod(&chooser, "accept");
+    });
+    EXPECT_EQ(platform.inputBox(box), path.toStdString());
+    whenModal([](QWidget& modal) { dynamic_cast<QFileDialog&>(modal).reject(); });
+    EXPECT_EQ(platform.inputBox(box), "");
 }
 
 TEST_F(Dialogs, DrawsRandomNumbersBelowOne) {
