@@ -251,5 +251,34 @@ TEST_F(StackRows, TheCompactLayoutMarksSixRows) {
     EXPECT_EQ(marks(), (std::vector<std::string>{"X0", "Y1"}));
 }
 
+TEST_F(StackRows, EachDepthOfTheCompactLayoutHasItsMarks) {
+    calc.s.window.CompactForm = true;
+    calc.s.window.TapeRows = 5;
+    for (int depth = 1; depth <= 9; ++depth) {
+        commitText("1");
+        const std::string top = std::to_string(depth < 6 ? 6 - depth : 0);
+        const std::string below = std::to_string(depth < 6 ? 7 - depth : 1);
+        EXPECT_EQ(marks(),
+                  depth == 1 ? std::vector<std::string>{"X5"} : (std::vector<std::string>{"X" + top, "Y" + below}))
+            << "at depth " << depth;
+    }
+}
+
+TEST_F(StackRows, EachDepthHasItsMarksAndDropMovesThem) {
+    const auto expected = [](int depth) {
+        const std::string top = std::to_string(depth < 8 ? 8 - depth : 0);
+        const std::string below = std::to_string(depth < 8 ? 9 - depth : 1);
+        return depth == 1 ? std::vector<std::string>{"X7"} : std::vector<std::string>{"X" + top, "Y" + below};
+    };
+    for (int depth = 1; depth <= 10; ++depth) {
+        commitText("1");
+        EXPECT_EQ(marks(), expected(depth)) << "at depth " << depth;
+    }
+    for (int depth = 9; depth >= 1; --depth) {
+        stackKeys.cmdDown_Click();
+        EXPECT_EQ(marks(), expected(depth)) << "at depth " << depth;
+    }
+}
+
 }  // namespace
 }  // namespace tallyforge

@@ -131,6 +131,34 @@ TEST_F(Display, ALongBaseNumberWrapsAndItsLabelStandsOnTheLastLine) {
     EXPECT_EQ(element(1), "#111111110000000011111111b");
 }
 
+TEST_F(Display, ALabelAndAValueThatFillTheLineExactlyShareIt) {
+    calc.s.format.DisplayDigits = 9;
+    replaceTop(123456.123456789, "prod");
+    ASSERT_EQ(calc.tape.lines(), 1U);
+    EXPECT_EQ(tapeLine(1), "prod123,456.123 456 789");
+    calc.s.format.DisplayDigits = 8;
+    replaceTop(1234567.12345678, "pr");
+    ASSERT_EQ(calc.tape.lines(), 3U) << "a value of twenty characters stands alone";
+    EXPECT_EQ(tapeLine(2), "1,234,567.123 456 78");
+    EXPECT_EQ(tapeLine(3), "pr                     ");
+}
+
+TEST_F(Display, ABaseNumberThatFillsTheLineExactlyDoesNotWrap) {
+    commitText("#1111111111111111111b");
+    ASSERT_EQ(calc.tape.lines(), 1U);
+    EXPECT_EQ(tapeLine(1), "#111 11111111 11111111b");
+    commitText("#11111111111111111111b");
+    ASSERT_EQ(calc.tape.lines(), 3U);
+    EXPECT_EQ(tapeLine(2), "#1111 11111111 ");
+    EXPECT_EQ(tapeLine(3), "11111111b");
+    replaceTop("#1111111111111111b", "AND");
+    ASSERT_EQ(calc.tape.lines(), 4U);
+    EXPECT_EQ(tapeLine(4), "AND #11111111 11111111b");
+    replaceTop("#1111111111111111b", "NAND");
+    ASSERT_EQ(calc.tape.lines(), 5U) << "no group ends where a line may";
+    EXPECT_EQ(tapeLine(5), "NAND#11111111 11111111b");
+}
+
 TEST_F(Display, SaveAndRestoreBringTheFormatBack) {
     calc.s.format.DisplayDigits = 4;
     calc.display.optFix_Click(DisplayMode::Engineering);

@@ -26,6 +26,17 @@ TEST(TapeLines, KeepTheirValuesWhileFillersGo) {
     EXPECT_TRUE(tape.value(9).isEmpty());
 }
 
+TEST(TapeLines, ATextOfTheTapesWidthOrOneMoreReadsAsItIs) {
+    Tape tape;
+    tape.clear(0);
+    const std::string text = "abcdefghijklmnopqrstuvwxyz";
+    for (const std::size_t size : {kTapeWidth - 1, kTapeWidth, kTapeWidth + 1}) {
+        tape.add(text.substr(0, size), ValueCell{});
+        EXPECT_EQ(tape.row(tape.count() - 1), text.substr(0, size));
+    }
+    EXPECT_EQ(tape.row(0), text.substr(0, kTapeWidth - 1));
+}
+
 TEST(Tape, ALineReadsAsItWasWrittenWhateverTheFormatIsLater) {
     Tape tape;
     tape.clear(0);

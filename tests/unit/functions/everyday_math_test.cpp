@@ -140,6 +140,17 @@ TEST(Hours, GoToDecimalsAndBackForEverySecondOfTwoHours) {
     }
 }
 
+TEST(Hours, KeepTheDigitsThatTheWholeHoursLeave) {
+    for (const double whole : {0.0, 1.0, 2.0, 9.0, 10.0, 99.0, 100.0, 9999.0}) {
+        EXPECT_EQ(HmsConvert(whole, false), whole);
+        EXPECT_EQ(HmsConvert(whole, true), whole);
+        EXPECT_NEAR(HmsConvert(whole + 0.3030303, true), whole + (30 * 60 + 30.303) / 3600, 1e-11) << whole;
+        EXPECT_NEAR(HmsConvert(whole + (30 * 60 + 30.303) / 3600, false), whole + 0.3030303, 1e-10) << whole;
+    }
+    EXPECT_NEAR(HmsConvert(0.00000000011111, true), 0.0000011111 / 3600, 1e-15);
+    EXPECT_NEAR(HmsConvert(1.00000000011111, true), 1 + 0.0000011111 / 3600, 1e-15);
+}
+
 TEST(Hours, NeverShowSixtySeconds) {
     EXPECT_EQ(HmsConvert(1.99999999999999, false), 2.0);
     EXPECT_EQ(HmsConvert(0.0166666666666667, false), 0.01);

@@ -196,6 +196,16 @@ TEST_F(FileStore, AGrowingFileKeepsWhatItHas) {
     EXPECT_EQ(read("new.txt"), "x");
 }
 
+TEST_F(FileStore, AGrowingFileHasThePermissionsThatTheUserGivesNewFiles) {
+    const mode_t before = ::umask(0);
+    GrowingFile open(disk.path / "open.txt");
+    ::umask(027);
+    GrowingFile closed(disk.path / "closed.txt");
+    ::umask(before);
+    EXPECT_EQ(std::filesystem::status(disk.path / "open.txt").permissions(), perms{0666});
+    EXPECT_EQ(std::filesystem::status(disk.path / "closed.txt").permissions(), perms{0640});
+}
+
 TEST_F(FileStore, NothingGrowsInThePlaceOfAPipeAFolderOrADevice) {
     ASSERT_EQ(mkfifo((disk.path / "pipe").c_str(), 0600), 0);
     std::filesystem::create_directory(disk.path / "folder");

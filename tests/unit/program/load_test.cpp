@@ -239,6 +239,24 @@ TEST_F(Load, InitClearsFlagsVariablesAndMarks) {
     EXPECT_FALSE(bold(kKeyA));
 }
 
+TEST_F(Load, ANewProgramBeginsWithAllFlagsClear) {
+    loadProgram("# aa\nlbl init\nend\nlbl a\nsf-0\nsf-3\nsf-18\nend\n");
+    run();
+    EXPECT_TRUE(programState().ProgramFlags.at(18));
+    loadProgram("# bb\nlbl init\nbb = 1\nend\nlbl a\nbb = 2\nend\n");
+    for (const bool flag : programState().ProgramFlags) {
+        EXPECT_FALSE(flag);
+    }
+}
+
+TEST_F(Load, AJumpToInitClearsFlagsAndMarks) {
+    loadProgram("# aa\nlbl init\naa = aa + 1\nend\nlbl a\nsf-3\nglb init\nend\n");
+    run();
+    EXPECT_EQ(said(), Said{});
+    EXPECT_FALSE(programState().ProgramFlags.at(3));
+    EXPECT_FALSE(bold(kKeyA));
+}
+
 TEST_F(Load, ReadsAllKindsOfLineEndsAndMarks) {
     for (const std::string end : {"\n", "\r\n", "\r"}) {
         const std::string program = "# aa" + end + "lbl init" + end + "end" + end + "lbl a" + end + "aa = 5" + end +

@@ -313,6 +313,16 @@ TEST_F(ConversionDialogTest, CtrlFLeftWithEscapeChangesNothing) {
     EXPECT_EQ(platform.dialogs, std::vector<std::string>{"frmFindUnit"});
 }
 
+TEST_F(ConversionDialogTest, TheKeyboardGoesBackToTheEntryLineAlsoWhereNothingIsConverted) {
+    form().setFocus(form().cmdDown);
+    calc().keypads().PerformConvertFn();
+    EXPECT_EQ(form().focus, &form().txtXreg);
+    press(kKeyF12);
+    form().setFocus(form().cmdDown);
+    calc().keypads().FindUnit();
+    EXPECT_EQ(form().focus, &form().txtXreg);
+}
+
 TEST_F(ConversionDialogTest, CtrlFRestsInTheModes) {
     press(kKeyF12);
     press('F', 6, kCtrl);

@@ -132,6 +132,19 @@ TEST_F(DateKeys, HoursGoToDecimalsAndBack) {
     expectNoMeaning(kHours, {3, 4, 5, 6, 7});
 }
 
+TEST_F(DateKeys, HoursReadAsHoursInEveryFormatAndTheFormatStays) {
+    choose(form().mnuTrig);
+    for (const DisplayMode mode : {DisplayMode::Scientific, DisplayMode::Engineering, DisplayMode::Fixed}) {
+        choose(form().optFix.at(static_cast<std::size_t>(mode)));
+        on({"1.5"}, kHours, kShift);
+        EXPECT_EQ(line(), "h:mm ss.d     1:30 00.0");
+        on({"1.1515", "2.1515"}, kHours, kCtrl);
+        EXPECT_EQ(line(), "h:mm ss.d+    3:30 30.0");
+        EXPECT_EQ(s().format.Mode, mode);
+        EXPECT_EQ(s().format.DisplayDigits, 2);
+    }
+}
+
 TEST_F(DateKeys, SeventyFiveMinutesAreAnHourAndAQuarter) {
     choose(form().mnuTrig);
     on({"1.75"}, kHours);

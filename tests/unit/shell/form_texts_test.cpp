@@ -59,6 +59,18 @@ TEST_F(FormTexts, TheKeysBesideTheBankSayWhatTheyDo) {
     EXPECT_EQ(f.lstDisplayReg.tip, " Running Tape Display ");
 }
 
+TEST_F(FormTexts, NumbersEndAtTheRightOfTheirFieldsAndTheTapeGrowsFromBelow) {
+    for (const Control* field : {&form().txtXreg, &form().txty_Reg, &form().txtLastx}) {
+        EXPECT_TRUE(field->rightAligned) << field->name;
+    }
+    for (const Control& field : form().txtReg_m) {
+        EXPECT_TRUE(field.rightAligned) << field.fullName();
+    }
+    EXPECT_EQ(form().txtXreg.maxLength, 22);
+    EXPECT_TRUE(form().lstDisplayReg.fromBottom);
+    EXPECT_FALSE(form().lstStack.fromBottom);
+}
+
 TEST_F(FormTexts, OnlyTheStackKeysThatHaveNothingToWorkOnStartDisabled) {
     const MainForm& f = form();
     for (const Control* key : {&f.cmdDown, &f.cmdXchgY, &f.cmdLastx}) {

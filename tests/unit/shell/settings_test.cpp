@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
 
 namespace tallyforge {
@@ -89,6 +90,22 @@ TEST_F(Settings, SaveSettingsKeepsFormatKeypadViewAndAngle) {
     EXPECT_TRUE(s().window.ViewExtended);
     EXPECT_EQ(form().place.width, 7200);
     EXPECT_TRUE(form().txtReg_m[11].visible);
+}
+
+TEST_F(Settings, EachAngleComesBackWithItsMark) {
+    for (const std::size_t chosen : {1U, 2U, 0U}) {
+        const auto marks = [this] {
+            return std::array{form().optDeg.checked, form().optRad.checked, form().optGrad.checked};
+        };
+        std::array<bool, 3> expected{};
+        expected.at(chosen) = true;
+        choose(*std::array{&form().optDeg, &form().optRad, &form().optGrad}.at(chosen));
+        EXPECT_EQ(marks(), expected);
+        saveSettings();
+        start();
+        EXPECT_EQ(s().format.Angle, (std::array{AngleMode::Degrees, AngleMode::Radians, AngleMode::Grads}.at(chosen)));
+        EXPECT_EQ(marks(), expected);
+    }
 }
 
 TEST_F(Settings, WithoutSaveSettingsNothingOfThatIsKept) {

@@ -222,6 +222,25 @@ TEST_F(StandardKeypad, TheLogarithmsOfNegativeNumbersAreRefusedInTheirOwnWays) {
     EXPECT_EQ(label(), "No Data!");
 }
 
+TEST_F(StandardKeypad, TheLogarithmOfOnePlusXBeginsJustAboveMinusOne) {
+    on({"-0.99999"}, 13);
+    EXPECT_NEAR(value(), -11.5129254649702, 1e-9) << "ln of 0.00001";
+    on({"-0.5"}, 13);
+    EXPECT_NEAR(value(), -0.693147180559945, 1e-15);
+    on({"0"}, 13);
+    EXPECT_EQ(x(), "0");
+    EXPECT_EQ(label(), "ln+");
+    on({"0.0000000001"}, 13);
+    EXPECT_NEAR(value(), 0.99999999995e-10, 1e-24);
+    EXPECT_TRUE(platform.boxes.empty());
+    for (const char* refused : {"-1", "-1.00001", "-1.5", "-3"}) {
+        platform.boxes.clear();
+        on({refused}, 13);
+        ASSERT_EQ(platform.boxes.size(), 1U) << refused;
+        EXPECT_EQ(lastBox(), "Enter a number > -1!");
+    }
+}
+
 TEST_F(StandardKeypad, ANumberThatIsStillTypedIsTakenAsItIs) {
     type("5");
     bank(5, kCtrl);
