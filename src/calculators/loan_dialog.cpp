@@ -175,8 +175,13 @@ bool LoanDialog::take(int index, double number) {
         }
     }
     const int missing = kQuantities - known();
+    const Quantity before = std::exchange(last_, quantityOf(index));
     if (again_) {
         return missing != 1 || !solve(*target_);
+    }
+    if (missing == 0) {
+        // A negative interest was refused, and another one is given: what came last before it gives way.
+        return !solve(before);
     }
     if (missing != 1) {
         return true;

@@ -53,6 +53,7 @@ private:
     /// Amounts and counts as they are, interest in percent.
     std::array<std::optional<double>, kFields> value_;
     std::optional<Quantity> target_;  ///< solved last, and to be solved again
+    Quantity last_ = kPayment;        ///< given last
     bool again_ = false;              ///< a value is given anew
 };
 

@@ -206,7 +206,7 @@ Drawing corePicture(const Values& v, bool solved) {
     sketch.text({150, 104 - size(f) / 2 + 16}, "G");
     sketch.text({156 - size(g) / 2, 104}, "F", TextAlign::Left);
     sketch.text({150, 104 - size(f + e) / 2}, "E");
-    sketch.text({150, 104}, solved ? "to scale" : "D: depth", TextAlign::Centre, Ink::Faint);
+    sketch.text({150, 194}, solved ? "to scale" : "D: depth", TextAlign::Centre, Ink::Faint);
     return sketch.take();
 }
 

@@ -117,7 +117,7 @@ bool EntryCommands::functionCharacter(int key) {
             calc.closeEmptyEntry();
             pressOn(keypad, function, mask);
         }
-        return true;
+        return !s.modes.BaseMode;
     };
     switch (key) {
         case kCtrlX:
@@ -154,7 +154,7 @@ bool EntryCommands::functionCharacter(int key) {
             return true;
         case 'H':
             toBase();
-            return true;
+            return s.modes.BaseMode;
         case kKeyEscape:
             s.entry.EntryOpen = false;
             return true;

@@ -5,6 +5,7 @@
 #include "engine/key_names.h"
 #include "platform/key_codes.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -15,6 +16,9 @@ namespace {
 
 constexpr int kBackTick = 96;
 
+/// What accept() answers for a character that means nothing in the line as it stands.
+constexpr int kRefused = -1;
+
 bool isDigit(int key) {
     return key >= '0' && key <= '9';
 }
@@ -23,6 +27,7 @@ bool isDigit(int key) {
 
 void EntryLine::txtXreg_KeyDown(KeyEvent event) {
     EngineState& s = calc.s;
+    s.entry.Dropped = '\0';
     if (s.modifiers.ModifierLatched) {
         if (event.keyCode == kKeyEscape) {
             cmdEsc_Click();
@@ -156,6 +161,7 @@ void EntryLine::txtXreg_KeyPress(int& keyAscii) {
     if (s.entry.BaseNumberDone && !passesDoneNumber(key)) {
         s.modifiers.CtrlHeld = false;
         s.modifiers.ShiftCtrlHeld = false;
+        refuse(key);
         return;
     }
     const int wanted = !s.entry.EntryOpen && key == 'h' ? 'H' : key;
@@ -167,12 +173,24 @@ void EntryLine::txtXreg_KeyPress(int& keyAscii) {
     } else {
         keyAscii = accept(wanted);
     }
+    if (keyAscii == kRefused || (keyAscii != 0 && lineIsFull())) {
+        refuse(key);
+        keyAscii = std::max(keyAscii, 0);
+    }
     if (keyAscii != 0) {
         s.entry.EntryTouched = true;
         s.entry.DigitTyped = s.entry.DigitTyped || isDigit(keyAscii);
     } else if (calc.entryText().empty()) {
         // Nothing is being typed, so nothing is open: Enter then duplicates X.
         clearEntryFlags();
+    }
+}
+
+// A character that the user may have meant is told, not only dropped.
+void EntryLine::refuse(int key) {
+    if (key > ' ' && !calc.s.modes.QuizMode) {
+        calc.s.entry.Dropped = static_cast<char>(key);
+        ++calc.form.txtXreg.refusals;
     }
 }
 
@@ -199,13 +217,14 @@ void EntryLine::programLetter(int key) {
     }
 }
 
-// The character that goes into the line for `key`: itself, another one, or 0.
+// The character that goes into the line for `key`: itself, another one, 0 where the key did something
+// else, or kRefused.
 int EntryLine::accept(int key) {
     if (calc.s.modes.QuizMode) {
         return isDigit(key) ? key : 0;
     }
     if (key == calc.s.format.DecimalChar) {
-        return calc.entryText().find(calc.s.format.DecimalChar) == std::string::npos ? key : 0;
+        return calc.entryText().find(calc.s.format.DecimalChar) == std::string::npos ? key : kRefused;
     }
     if (isDigit(key)) {
         return key;
@@ -225,7 +244,15 @@ int EntryLine::accept(int key) {
     if (commands.arithmetic(key) || commands.functionCharacter(key)) {
         return 0;
     }
-    return key == 'e' || key == kBackTick ? eex() : acceptBaseKey(key);
+    return orRefused([&] { return key == 'e' || key == kBackTick ? eex() : acceptBaseKey(key); });
+}
+
+// What `typed` answers; kRefused where it types nothing and leaves the line as it was.
+template <typename Typed>
+int EntryLine::orRefused(Typed typed) {
+    const std::string before = calc.entryText();
+    const int key = typed();
+    return key == 0 && calc.entryText() == before ? kRefused : key;
 }
 
 int EntryLine::acceptLetter(int key) {
@@ -233,10 +260,9 @@ int EntryLine::acceptLetter(int key) {
         return key;
     }
     if (key == 'E') {
-        return eex();
+        return orRefused([&] { return eex(); });
     }
-    commands.arithmetic(key);
-    return 0;
+    return commands.arithmetic(key) ? 0 : kRefused;
 }
 
 int EntryLine::acceptBaseKey(int key) {
@@ -316,65 +342,6 @@ void EntryLine::txtXreg_KeyUp(KeyEvent event) {
     if (!std::exchange(s.modifiers.SkipModifierRelease, false) && std::exchange(painted_, false)) {
         calc.keypads().RepaintKeypad();
     }
-}
-
-void EntryLine::cmdNumPad_Click(int index) {
-    EngineState& s = calc.s;
-    calc.commit.BeginEntry();
-    const char character = index == key::kPadDecimal ? s.format.DecimalChar : static_cast<char>('0' + index);
-    const bool secondPoint =
-        index == key::kPadDecimal && calc.entryText().find(s.format.DecimalChar) != std::string::npos;
-    if (!secondPoint && !s.entry.BaseNumberDone && !lineIsFull()) {
-        calc.setEntry(calc.entryText() + character);
-        s.entry.EntryTouched = true;
-        s.entry.DigitTyped = true;
-    }
-    calc.focusEntry();
-}
-
-void EntryLine::cmdBackSpace_Click() {
-    if (!calc.entryText().empty()) {
-        calc.commit.BeginEntry();
-        dropLastCharacter();
-    }
-    calc.focusEntry();
-}
-
-void EntryLine::cmdEex_Click() {
-    if (calc.s.modifiers.ModifierMask == 0 && !calc.s.entry.EexActive && !calc.s.entry.BaseNumberDone) {
-        calc.commit.BeginEntry();
-        if (const int typed = eex(); typed != 0) {
-            calc.setEntry(calc.entryText() + static_cast<char>(typed));
-        }
-    }
-    calc.focusEntry();
-}
-
-void EntryLine::cmdEsc_Click() {
-    calc.ClearOptKeys();
-    calc.setEntry({});
-    clearEntryFlags();
-    calc.focusEntry();
-}
-
-void EntryLine::cmdF11_Click() {
-    if (calc.s.modifiers.ModifierMask == 0) {
-        calc.keypads().RepaintKeypad();
-        calc.keypads().ToggleProgramMode();
-    }
-    calc.focusEntry();
-}
-
-void EntryLine::cmdF12_Click() {
-    // Shift held for the click performs the Convert function; a latched one waits for its key.
-    if (calc.s.modifiers.ModifierMask == kShift && !calc.s.modifiers.ModifierLatched) {
-        calc.s.modifiers.ModifierMask = 0;
-        calc.keypads().PerformConvertFn();
-    } else if (calc.s.modifiers.ModifierMask == 0) {
-        calc.keypads().RepaintKeypad();
-        calc.keypads().MemoryArray();
-    }
-    calc.focusEntry();
 }
 
 }  // namespace tallyforge

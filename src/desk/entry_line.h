@@ -52,7 +52,10 @@ private:
     [[nodiscard]] int accept(int key);
     [[nodiscard]] int acceptLetter(int key);
     [[nodiscard]] int acceptBaseKey(int key);
+    template <typename Typed>
+    [[nodiscard]] int orRefused(Typed typed);
     [[nodiscard]] int eex();
+    void refuse(int key);
     void programLetter(int key);
 
     Engine& calc;

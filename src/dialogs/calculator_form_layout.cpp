@@ -2,6 +2,7 @@
 //
 // What stands on a calculator dialog, and where.
 #include "dialogs/calculator_form.h"
+#include "dialogs/dressing.h"
 #include "engine/engine.h"
 
 #include <algorithm>
@@ -11,7 +12,6 @@ namespace tallyforge {
 
 namespace {
 
-constexpr Font kCaption{.face = Face::Arial, .points = 8.0F};
 constexpr Font kNumbers{.face = Face::Terminal, .points = 9.0F};
 
 // Lengths in twips.
@@ -28,14 +28,6 @@ constexpr int kKeyWidth = 1320;
 constexpr int kKeyHeight = 375;
 constexpr int kColumn = 3400;  ///< height from which frames go on in a second column
 
-void dress(Control& control, ControlKind kind, std::string_view name, int index, std::string_view text) {
-    control.kind = kind;
-    control.name = name;
-    control.index = index;
-    control.text = text;
-    control.font = kCaption;
-}
-
 }  // namespace
 
 CalculatorForm::CalculatorForm(Engine& calculator, const CalculatorLook& formLook)
@@ -44,7 +36,7 @@ CalculatorForm::CalculatorForm(Engine& calculator, const CalculatorLook& formLoo
       look(formLook),
       filter_(calculator.s.format.DecimalChar) {
     helpTopic = look.helpTopic;
-    dress(lblUse_, ControlKind::Label, "lblUse", kNoIndex, look.useHeading);
+    dress(lblUse_, ControlKind::Label, "lblUse", look.useHeading);
     placing = [this] {
         const DialogPlace at = placeCalculator(calc.form.place, calc.platform.metrics(), place.width, place.height);
         place.left = at.DialogLeft;
@@ -55,18 +47,18 @@ CalculatorForm::CalculatorForm(Engine& calculator, const CalculatorLook& formLoo
 
 void CalculatorForm::addField(std::string_view symbol, std::string_view fieldName, FieldRules rules, Face face) {
     const int index = fieldCount();
-    dress(lblVal_.emplace_back(), ControlKind::Label, "lblVal", index, symbol);
+    dress(lblVal_.emplace_back(), ControlKind::Label, "lblVal", symbol, index);
     Control& field = txtVal_.emplace_back();
-    dress(field, ControlKind::Field, "txtVal", index, {});
+    dress(field, ControlKind::Field, "txtVal", "", index);
     field.font = kNumbers;
     field.rightAligned = true;
     field.spoken = fieldName;
     field.tip = " " + std::string(fieldName) + " ";
-    dress(lblUnits_.emplace_back(), ControlKind::Label, "lblUnits", index, {});
+    dress(lblUnits_.emplace_back(), ControlKind::Label, "lblUnits", "", index);
     lblVal_.back().font.face = face;
     lblUnits_.back().font.face = face;
     Control& option = optCalc_.emplace_back();
-    dress(option, ControlKind::Option, "optCalc", index, {});
+    dress(option, ControlKind::Option, "optCalc", "", index);
     option.spoken = "Use " + std::string(symbol);
     option.visible = false;
     rules_.push_back(rules);
@@ -76,11 +68,11 @@ void CalculatorForm::addOptions(std::string_view options, std::string_view headi
                                 const std::vector<std::string_view>& captions, int chosen,
                                 const std::function<void(int row)>& choose) {
     OptionFrame& frame = frames_.emplace_back();
-    dress(frame.frame, ControlKind::Frame, "fra" + std::string(options.substr(3)), kNoIndex, heading);
+    dress(frame.frame, ControlKind::Frame, "fra" + std::string(options.substr(3)), heading);
     for (std::size_t row = 0; row < captions.size(); ++row) {
         const int number = static_cast<int>(row);
         Control& option = frame.options.emplace_back();
-        dress(option, ControlKind::Option, options, number, captions[row]);
+        dress(option, ControlKind::Option, options, captions[row], number);
         option.checked = number == chosen;
         option.click = [choose, number] { choose(number); };
     }
@@ -89,7 +81,7 @@ void CalculatorForm::addOptions(std::string_view options, std::string_view headi
 Control& CalculatorForm::addControl(ControlKind kind, std::string_view controlName, std::string_view caption, int index,
                                     int lines) {
     Control& control = own_.emplace_back();
-    dress(control, kind, controlName, index, caption);
+    dress(control, kind, controlName, caption, index);
     control.place.height = kFieldHeight + (lines - 1) * kOptionLine;
     return control;
 }
@@ -97,11 +89,11 @@ Control& CalculatorForm::addControl(ControlKind kind, std::string_view controlNa
 void CalculatorForm::finish() {
     // An option that is never to be seen: with it chosen, no field is held.
     Control& none = optCalc_.emplace_back();
-    dress(none, ControlKind::Option, "optCalc", fieldCount(), {});
+    dress(none, ControlKind::Option, "optCalc", "", fieldCount());
     none.visible = false;
-    dress(cmdCalc, ControlKind::Key, "cmdCalc", kNoIndex, {});
-    dress(cmdXreg, ControlKind::Key, "cmdXreg", kNoIndex, {});
-    dress(cmdDefault, ControlKind::Key, look.hasUnits ? "cmdDefault" : "cmdClear", kNoIndex, {});
+    dress(cmdCalc, ControlKind::Key, "cmdCalc", "");
+    dress(cmdXreg, ControlKind::Key, "cmdXreg", "");
+    dress(cmdDefault, ControlKind::Key, look.hasUnits ? "cmdDefault" : "cmdClear", "");
     for (int i = 0; i < fieldCount(); ++i) {
         enrol(lblVal_.at(static_cast<std::size_t>(i)));
         enrol(txtVal(i));
@@ -125,7 +117,7 @@ void CalculatorForm::finish() {
         enrol(*key);
     }
     if (look.hasPicture) {
-        dress(picture_, ControlKind::Picture, "picFigure", kNoIndex, {});
+        dress(picture_, ControlKind::Picture, "picFigure", "");
         enrol(picture_);
     }
     hangKeys();

@@ -2,6 +2,7 @@
 #include "dialogs/parameter_dialog.h"
 
 #include "dialogs/dialog_support.h"
+#include "dialogs/dressing.h"
 #include "dialogs/unit_choice.h"
 #include "engine/engine.h"
 #include "numbers/number_format.h"
@@ -14,8 +15,6 @@ namespace tallyforge {
 
 namespace {
 
-constexpr Font kCaption{.face = Face::Arial, .points = 8.0F};
-
 // Lengths in twips.
 constexpr int kMargin = 120;
 constexpr int kFrameWidth = 2500;
@@ -26,14 +25,6 @@ constexpr int kKeyWidth = 2200;
 constexpr int kKeyHeight = 375;
 constexpr int kLeastWidth = 2 * kKeyWidth + 3 * kMargin;
 constexpr int kCharacter = 95;  ///< width of an average character
-
-void dress(Control& control, ControlKind kind, std::string_view name, std::string_view text, int index = kNoIndex) {
-    control.kind = kind;
-    control.name = name;
-    control.text = text;
-    control.index = index;
-    control.font = kCaption;
-}
 
 /// Lines that `text` takes in a label of that width.
 int linesOf(std::string_view text, int width) {

@@ -84,6 +84,7 @@ void Engine::ClearOptKeys() {
 }
 
 void Engine::focusEntry() {
+    s.entry.Dropped = '\0';
     form.setFocus(form.txtXreg);
     form.txtXreg.caret = form.txtXreg.text.size();
 }

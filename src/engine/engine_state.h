@@ -124,6 +124,7 @@ struct EntryState {
     bool BaseNumberDone = false;  ///< the entry line holds a whole number of a base
     bool DigitTyped = false;
     std::string BaseLetter;  ///< last base letter typed
+    char Dropped = '\0';     ///< what the key before typed and the line refused; 0 for nothing
 };
 
 struct ModifierState {

@@ -78,7 +78,7 @@ public:
     [[nodiscard]] std::array<KeypadEntry, 6> keypadMenu();
     void enableKeypadMenu(bool enabled);
     [[nodiscard]] int contentHeight() const override { return contentHeight_; }
-    void fill(int spareHeight) override;
+    int fill(int spareHeight, int spareWidth) override;
     [[nodiscard]] std::string lineFor(const Control* pointed) const override;
     /// What the name line says besides the keypad's name; "" for nothing.
     std::function<std::string()> status;
@@ -110,11 +110,15 @@ private:
     void placePad(int top);
     void placeOptions(int top);
     void placeRegisters();
+    [[nodiscard]] int right() const;
+    [[nodiscard]] int padShift() const { return stackGrowth_ / 2; }
 
     int contentHeight_ = 0;
     bool extended_ = false;
     int extraHeight_ = 0;
     int spareHeight_ = 0;
+    int stackGrowth_ = 0;     ///< what a wider window adds to the stack list
+    int registerGrowth_ = 0;  ///< and to the register fields
 };
 
 }  // namespace tallyforge

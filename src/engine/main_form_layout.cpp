@@ -24,6 +24,7 @@ constexpr int kStackLeft = 3420;
 constexpr int kMarkLeft = 3276;
 constexpr int kMarkHeight = 175;
 constexpr int kEntryTop = 1700;
+constexpr int kUnderStack = 640;  ///< of the extended view: y and last x
 constexpr int kEntryHeight = 450;
 constexpr int kBankTop = 2280;
 constexpr int kBankHeight = 2800;
@@ -56,11 +57,24 @@ void MainForm::arrange(bool extended, int extraHeight) {
     placeRegisters();
 }
 
-void MainForm::fill(int spareHeight) {
-    if (spareHeight_ != spareHeight) {
+int MainForm::fill(int spareHeight, int spareWidth) {
+    // Beyond the longest number there is nothing more to show.
+    constexpr int kMostForStack = 3600;
+    constexpr int kMostForRegisters = 2400;
+    const int stack = std::min(extended_ ? spareWidth / 2 : spareWidth, kMostForStack);
+    const int registers = extended_ ? std::min(spareWidth - stack, kMostForRegisters) : 0;
+    if (spareHeight_ != spareHeight || stackGrowth_ != stack || registerGrowth_ != registers) {
         spareHeight_ = spareHeight;
+        stackGrowth_ = stack;
+        registerGrowth_ = registers;
         arrange(extended_, extraHeight_);
     }
+    return stack + registers;
+}
+
+// The right edge of the lists.
+int MainForm::right() const {
+    return kRight + stackGrowth_;
 }
 
 void MainForm::placeLists(bool extended, int extra) {
@@ -68,13 +82,13 @@ void MainForm::placeLists(bool extended, int extra) {
     lblName.place = {.left = kMargin, .top = kNameTop, .width = 3080, .height = kNameHeight};
     lblBank.place = {.left = kMargin, .top = kNameTop, .width = 0, .height = kNameHeight};
     lblLists.place = {
-        .left = kStackLeft - 144, .top = kNameTop, .width = kRight - kStackLeft + 144, .height = kNameHeight};
+        .left = kStackLeft - 144, .top = kNameTop, .width = right() - kStackLeft + 144, .height = kNameHeight};
     lblCnvrt.place = {.left = 1000, .top = kNameTop, .width = 2200, .height = kNameHeight};
     // The tape's width is its own: it grows once the filler lines are gone.
     const int tapeWidth = lstDisplayReg.place.width == 0 ? kNarrowTape : lstDisplayReg.place.width;
     lstDisplayReg.place = {.left = kMargin, .top = kListTop, .width = tapeWidth, .height = kListHeight + extra};
-    const int stackHeight = kListHeight + (extended ? 0 : extra);
-    lstStack.place = {.left = kStackLeft, .top = kListTop, .width = kRight - kStackLeft, .height = stackHeight};
+    const int stackHeight = kListHeight + extra - (extended ? kUnderStack : 0);
+    lstStack.place = {.left = kStackLeft, .top = kListTop, .width = right() - kStackLeft, .height = stackHeight};
     const int rows = static_cast<int>(lblStkReg.size());
     for (int label = 0; label < rows; ++label) {
         lblStkReg.at(static_cast<std::size_t>(label)).place = {.left = kMarkLeft,
@@ -88,18 +102,22 @@ void MainForm::placeEntry(bool extended, int extra) {
     const int top = kEntryTop + extra;
     const bool small = !extended && (txty_Reg.visible || txtLastx.visible);
     const int left = small ? kPadLeft : kMargin;
-    txtXreg.place = {.left = left, .top = top, .width = kRight - left, .height = kEntryHeight};
+    txtXreg.place = {.left = left, .top = top, .width = right() - left, .height = kEntryHeight};
     Label8.place = {.left = kMargin, .top = top, .width = 300, .height = kEntryHeight};
     constexpr int kLabelWidth = 560;
     constexpr int kFieldWidth = 1230;
     constexpr int kFieldHeight = 218;
     if (extended) {
-        constexpr int kUnderStack = kListTop + kListHeight + 120;
-        constexpr int kBesideField = kRight - kFieldWidth - kStackLeft;
-        Label7.place = {.left = kStackLeft, .top = kUnderStack, .width = kBesideField, .height = 260};
-        txty_Reg.place = {.left = kRight - kFieldWidth, .top = kUnderStack, .width = kFieldWidth, .height = 260};
-        Label9.place = {.left = kStackLeft, .top = kUnderStack + 340, .width = kBesideField, .height = 260};
-        txtLastx.place = {.left = kRight - kFieldWidth, .top = kUnderStack + 340, .width = kFieldWidth, .height = 260};
+        const int fieldLeft = right() - kFieldWidth;
+        const int besideField = fieldLeft - kStackLeft;
+        const auto row = [&](Control& label, Control& field, int above) {
+            constexpr int kRowHeight = 260;
+            const int rowTop = kListTop + kListHeight + extra - above;
+            label.place = {.left = kStackLeft, .top = rowTop, .width = besideField, .height = kRowHeight};
+            field.place = {.left = fieldLeft, .top = rowTop, .width = kFieldWidth, .height = kRowHeight};
+        };
+        row(Label7, txty_Reg, 580);
+        row(Label9, txtLastx, 260);
         return;
     }
     Label7.place = {.left = kMargin, .top = top, .width = kLabelWidth, .height = kFieldHeight};
@@ -111,14 +129,16 @@ void MainForm::placeEntry(bool extended, int extra) {
 void MainForm::placeBank(int top) {
     for (std::size_t i = 0; i < cmdFunctions.size(); ++i) {
         const Cell cell = kBankCells.at(i);
-        cmdFunctions.at(i).place = {
-            .left = kMargin + cell.column * kPitch, .top = top + cell.row * kPitch, .width = kKey, .height = kKey};
+        cmdFunctions.at(i).place = {.left = kMargin + padShift() + cell.column * kPitch,
+                                    .top = top + cell.row * kPitch,
+                                    .width = kKey,
+                                    .height = kKey};
     }
 }
 
 void MainForm::placePad(int top) {
-    const auto at = [top](Control& control, int column, int row, int columns = 1, int rows = 1) {
-        control.place = {.left = kPadLeft + column * kPadPitch,
+    const auto at = [this, top](Control& control, int column, int row, int columns = 1, int rows = 1) {
+        control.place = {.left = kPadLeft + padShift() + column * kPadPitch,
                          .top = top + row * kPitch,
                          .width = kPadKey + (columns - 1) * kPadPitch,
                          .height = kKey + (rows - 1) * kPitch};
@@ -147,9 +167,9 @@ void MainForm::placePad(int top) {
 
     // Format and angle fill the two key places above Enter.
     constexpr int kOptionHeight = 280;
-    constexpr int kFormatWidth = 480;
-    const int left = kPadLeft + 4 * kPadPitch;
-    const int angleWidth = kRight - left - kFormatWidth;
+    constexpr int kFormatWidth = 460;
+    const int left = kPadLeft + padShift() + 4 * kPadPitch;
+    const int angleWidth = kRight + padShift() - left - kFormatWidth;
     const int optionTop = top + 2 * kPitch;
     const auto option = [&](Control& control, int column, int row) {
         control.place = {.left = left + column * kFormatWidth,
@@ -167,7 +187,7 @@ void MainForm::placePad(int top) {
 void MainForm::placeOptions(int top) {
     constexpr int kBelowBank = 30;
     fraKeyboard.place = {
-        .left = kMargin, .top = top + kBelowBank, .width = 4280, .height = kOptionStrip - 2 * kBelowBank};
+        .left = kMargin + padShift(), .top = top + kBelowBank, .width = 4280, .height = kOptionStrip - 2 * kBelowBank};
     constexpr int kRowHeight = 190;
     struct Spot {
         int left;
@@ -185,7 +205,7 @@ void MainForm::placeOptions(int top) {
                                           {0, 0, 0}}};
     for (std::size_t i = 0; i < kSpots.size(); ++i) {
         const Spot& spot = kSpots.at(i);
-        optKey.at(i).place = {.left = spot.left,
+        optKey.at(i).place = {.left = spot.left + padShift(),
                               .top = top + kBelowBank + 160 + spot.row * kRowHeight,
                               .width = spot.width,
                               .height = kRowHeight};
@@ -198,20 +218,25 @@ void MainForm::placeOptions(int top) {
             .left = option.left + option.width + 50, .top = option.top + 45, .width = 100, .height = 100};
     }
     constexpr int kResetLeft = 4480;
-    cmdReset.place = {.left = kResetLeft, .top = top + 130, .width = kRight - kResetLeft, .height = kKey};
+    cmdReset.place = {.left = kResetLeft + padShift(), .top = top + 130, .width = kRight - kResetLeft, .height = kKey};
 }
 
 void MainForm::placeRegisters() {
     // Two columns of the array stand in one row of fields each; the first twelve are ever shown.
     constexpr int kShown = 12;
-    constexpr int kLeft = 5330;
+    constexpr int kBeside = 140;  ///< between the stack and the numbers of the registers
+    constexpr int kNumberWidth = 300;
+    constexpr int kBesideField = 60;
+    constexpr int kFieldWidth = 1450;
+    constexpr int kFieldHeight = 300;
+    const int left = right() + kBeside;
     const int pitch = std::min(kPitch, (contentHeight_ + spareHeight_ - kListTop) / kShown);
     for (int i = 0; i < kRegisters; ++i) {
-        const int row = i % kShown;
-        const int top = kListTop + row * pitch;
-        lblErg_m.at(static_cast<std::size_t>(i)).place = {.left = kLeft, .top = top, .width = 300, .height = 300};
+        const int top = kListTop + (i % kShown) * pitch;
+        lblErg_m.at(static_cast<std::size_t>(i)).place = {
+            .left = left, .top = top, .width = kNumberWidth - kBesideField, .height = kFieldHeight};
         txtReg_m.at(static_cast<std::size_t>(i)).place = {
-            .left = kLeft + 320, .top = top, .width = 1430, .height = 300};
+            .left = left + kNumberWidth, .top = top, .width = kFieldWidth + registerGrowth_, .height = kFieldHeight};
     }
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypads/caption_words.h"
 
+#include "keypads/mask_words.h"
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -15,7 +17,7 @@ struct Words {
 };
 
 /// Captions that mean the same wherever they stand.
-constexpr std::array<Words, 78> kCommon{{
+constexpr std::array<Words, 85> kCommon{{
     {"1/x", "Reciprocal of x"},
     {"x²", "Square of x"},
     {"√x", "Square root of x"},
@@ -68,6 +70,13 @@ constexpr std::array<Words, 78> kCommon{{
     {"Intr", "Compound interest"},
     {"Amt", "Compound interest, loan amount"},
     {"f:d", "Fraction to decimal"},
+    {"WC", "Wind chill"},
+    {"H I", "Heat index"},
+    {"p±", "Practise adding"},
+    {"p-", "Practise subtracting"},
+    {"px÷", "Practise multiplying"},
+    {"p÷", "Practise dividing"},
+    {"(m)", "Mean of the values"},
     {"e", "Base of the natural logarithm"},
     {"1/e", "Reciprocal of e"},
     {"e²", "e squared"},
@@ -96,11 +105,12 @@ constexpr std::array<Words, 78> kCommon{{
     {"T°", "Convert temperature"},
 }};
 
-constexpr std::array<Words, 44> kTrigonometry{{
+constexpr std::array<Words, 45> kTrigonometry{{
     {"h:m", "Hours to hours, minutes and seconds"},
     {"d:m", "Decimal hours to hours, minutes and seconds"},
     {"m+", "Add hours, minutes and seconds"},
     {"snh", "Hyperbolic sine"},
+    {"coh", "Hyperbolic cosecant"},
     {"csh", "Hyperbolic cosine"},
     {"tnh", "Hyperbolic tangent"},
     {"sch", "Hyperbolic secant"},
@@ -110,7 +120,7 @@ constexpr std::array<Words, 44> kTrigonometry{{
     {"arc tnh", "Hyperbolic arc tangent"},
     {" arc sch", "Hyperbolic arc secant"},
     {" arc cth", "Hyperbolic arc cotangent"},
-    {" arc coh", "Hyperbolic arc cosine"},
+    {" arc coh", "Hyperbolic arc cosecant"},
     {"sec", "Secant"},
     {"csc", "Cosecant"},
     {"cot", "Cotangent"},
@@ -178,20 +188,14 @@ constexpr std::array<Words, 32> kBinary{{
     {"#", "Begin a number of a base"},
 }};
 
-constexpr std::array<Words, 4> kEngineering{{
-    {"λ", "Wavelength"},
-    {"dB", "Decibels"},
-    {"Fr", "Resonant frequency"},
-    {"Zn", "Impedance of a ladder network"},
-}};
-
-constexpr std::array<Words, 19> kConvert{{
+constexpr std::array<Words, 26> kConvert{{
     {"V", "Convert viscosity"},
     {"ρ", "Convert density"},
     {"W", "Convert power"},
     {"tm", "Convert time"},
     {"Γ", "Convert torque"},
     {"f.c.", "Convert light"},
+    {"Lt", "Convert light"},
     {"s|g", "Convert speed and acceleration"},
     {"P", "Convert pressure"},
     {"wt", "Convert mass"},
@@ -201,7 +205,13 @@ constexpr std::array<Words, 19> kConvert{{
     {"K", "Physical constants"},
     {"Mg", "Convert magnetics"},
     {"E", "Convert energy"},
-    {"val", "Value codes"},
+    {"val", "Value of a resistor's code"},
+    {"R code", "Code of a resistor"},
+    {" C ", "Value of a capacitor's code"},
+    {"C code", "Code of a capacitor"},
+    {" L ", "Value of an inductor's code"},
+    {"L code", "Code of an inductor"},
+    {"SG", "Specific gravities"},
     {"dB", "Convert decibels"},
     {"WF", "Convert waveforms"},
     {"F", "Convert force"},
@@ -213,8 +223,6 @@ std::span<const Words> wordsOf(Keypad keypad) {
             return kTrigonometry;
         case Keypad::Binary:
             return kBinary;
-        case Keypad::Engineering:
-            return kEngineering;
         case Keypad::Convert:
             return kConvert;
         default:
@@ -230,9 +238,13 @@ std::string_view find(std::span<const Words> table, std::string_view caption) {
 
 }  // namespace
 
-std::string_view captionWords(Keypad keypad, std::string_view caption) {
+std::string keyWords(Keypad keypad, int key, std::uint8_t mask, std::string_view caption) {
+    if (std::string words = maskWords(keypad, key, mask); !words.empty()) {
+        return words;
+    }
     const std::string_view own = find(wordsOf(keypad), caption);
-    return own.empty() ? find(kCommon, caption) : own;
+    const bool byCaption = keypad != Keypad::Tables;
+    return std::string(own.empty() && byCaption ? find(kCommon, caption) : own);
 }
 
 }  // namespace tallyforge

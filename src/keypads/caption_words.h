@@ -5,12 +5,14 @@
 
 #include "engine/engine_state.h"
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace tallyforge {
 
-/// The words for `caption`, in UTF-8 as it is read on `keypad`; empty where the caption says all that
-/// there is.
-[[nodiscard]] std::string_view captionWords(Keypad keypad, std::string_view caption);
+/// The words for key `key` of `keypad` under `mask`, where it reads `caption` (UTF-8); empty where the
+/// key has no meaning.
+[[nodiscard]] std::string keyWords(Keypad keypad, int key, std::uint8_t mask, std::string_view caption);
 
 }  // namespace tallyforge

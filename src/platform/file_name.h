@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyforge {
 
@@ -26,5 +27,10 @@ namespace tallyforge {
     const std::string name = nameOf(pathOf(entered));
     return name == "." || name == ".." ? std::string{} : name;
 }
+
+/// Names of the plain files in `folder` that end in `extension` and are not hidden, in order, UTF-8;
+/// none where the folder cannot be read.
+[[nodiscard]] std::vector<std::string> filesIn(const std::filesystem::path& folder,
+                                               const std::filesystem::path& extension);
 
 }  // namespace tallyforge

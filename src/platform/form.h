@@ -115,13 +115,17 @@ struct Control {
     bool takesEnter = false;    ///< fields: Enter, Tab or Esc come to its key handlers and
     bool takesTab = false;      ///< do nothing else
     bool takesEscape = false;
-    std::string typedBy;  ///< keys: characters of the keyboard that press it
-    int struckBy = 0;     ///< keys: code of the key that presses it and types nothing
-    bool live = false;    ///< what becomes of its text, or its last row, is told to a listener
-    int walkStop = 0;     ///< where typing has a field of its own: the stop of Tab that it belongs to, from 1
-    int progress = 0;     ///< 0 to 100
-    Drawing drawing{};    ///< pictures
+    std::string typedBy;     ///< keys: characters of the keyboard that press it
+    int struckBy = 0;        ///< keys: code of the key that presses it and types nothing
+    bool live = false;       ///< what becomes of its text, or its last row, is told to a listener
+    int walkStop = 0;        ///< where typing has a field of its own: the stop of Tab that it belongs to, from 1
+    int progress = 0;        ///< 0 to 100
+    int refusals = 0;        ///< fields: counts what was typed and dropped; each flashes the edge
+    std::string shortCut{};  ///< menu entries: the keys that do the same, shown beside the caption
+    Drawing drawing{};       ///< pictures
 
+    /// Keys: it would do nothing at present (under the modifiers that are held), and is painted dim.
+    std::function<bool()> idle;
     /// What it does at present, in words; eight-bit.
     std::function<std::string()> words;
     /// Fields: shown faintly while nothing is typed. Lists: lines shown faintly while there are no rows.
@@ -193,8 +197,9 @@ public:
 
     /// Height of what stands inside the window's frame, below a menu bar; twips.
     [[nodiscard]] virtual int contentHeight() const { return place.height; }
-    /// The window has this much height to spare, in twips; a form may give it to its lists.
-    virtual void fill(int /*spareHeight*/) {}
+    /// The window has this much height and width to spare, in twips; a form may give them to its lists.
+    /// Returns the width that it takes.
+    virtual int fill(int /*spareHeight*/, int /*spareWidth*/) { return 0; }
     /// The label that says what the control under the pointer does; nullptr where there is none.
     Control* nameLine = nullptr;
     /// What that label says for `pointed`, or for none; "" leaves it as it is.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,19 +22,46 @@ void selectOption(Form& form, Control& option) {
     }
 }
 
-/// Arrows go from option to option within a group, around its ends.
-bool stepsOption(Form& form, const Control& target, int keyCode) {
-    const bool back = keyCode == kKeyUp || keyCode == kKeyLeft;
-    if (!back && keyCode != kKeyDown && keyCode != kKeyRight) {
-        return false;
+/// Whether the caption begins with the letter or digit of the key.
+bool beginsWith(const Control& option, KeyStroke stroke) {
+    const auto first = option.text.find_first_not_of(" &");
+    return stroke.character > ' ' && (stroke.shift & (kCtrl | kAlt)) == 0 && stroke.keyCode != kKeyPunctuation &&
+           first != option.text.npos && keyCodeOf(static_cast<unsigned char>(option.text[first])) == stroke.keyCode;
+}
+
+/// How many options on the stroke leads in a group: arrows to the next or the one before, a letter to
+/// the next caption that begins with it.
+std::optional<std::size_t> stepOf(const std::vector<Control*>& group, std::size_t here, KeyStroke stroke) {
+    switch (stroke.keyCode) {
+        case kKeyUp:
+        case kKeyLeft:
+            return group.size() - 1;
+        case kKeyDown:
+        case kKeyRight:
+            return 1;
+        default:
+            break;
     }
+    for (std::size_t step = 1; step <= group.size(); ++step) {
+        if (beginsWith(*group.at((here + step) % group.size()), stroke)) {
+            return step;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Goes from option to option within a group, around its ends.
+bool stepsOption(Form& form, const Control& target, KeyStroke stroke) {
     std::vector<Control*> group;
     std::copy_if(form.controls().begin(), form.controls().end(), std::back_inserter(group),
                  [&](const Control* other) { return sameGroup(target, *other) && takesInput(*other); });
     const auto here = std::find(group.begin(), group.end(), &target);
     const auto at = static_cast<std::size_t>(here - group.begin());
-    const std::size_t step = back ? group.size() - 1 : 1;
-    Control& next = *group.at((at + step) % group.size());
+    const auto step = stepOf(group, at, stroke);
+    if (!step) {
+        return false;
+    }
+    Control& next = *group.at((at + *step) % group.size());
     focusClicked(form, next);
     actOn(form, next);
     return true;
@@ -110,7 +138,7 @@ void chooseRow(Control& list, std::size_t row) {
 bool stepsWithin(Form& form, Control& target, KeyStroke stroke) {
     switch (target.kind) {
         case ControlKind::Option:
-            return stepsOption(form, target, stroke.keyCode);
+            return stepsOption(form, target, stroke);
         case ControlKind::List:
         case ControlKind::Choice:
             return stepsRow(target, stroke);

@@ -36,6 +36,8 @@ struct InputBox {
     std::string preset;
     /// A file's name is asked for: the answer is UTF-8, as names are on disk, and not eight-bit.
     bool fileName = false;
+    /// Answers to choose from, beside typing one; UTF-8.
+    std::vector<std::string> offers{};
     /// A file with this extension (".csv") is to be written, and the answer may lead to any folder:
     /// a desktop that has a file chooser shows that one. Empty for all other questions.
     std::string writes{};

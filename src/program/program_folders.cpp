@@ -4,6 +4,9 @@
 #include "platform/file_name.h"
 #include "program/program_text.h"
 
+#include <array>
+#include <set>
+
 namespace tallyforge {
 
 namespace {
@@ -21,6 +24,11 @@ std::optional<std::filesystem::path> sameLetters(const std::filesystem::path& fo
     return std::nullopt;
 }
 
+std::array<std::filesystem::path, 3> programFolders(const Engine& calc) {
+    const std::filesystem::path beside = calc.platform.installedFolder();
+    return {userPrograms(calc), beside / kPrograms, beside.parent_path() / "share" / "tallyforge" / kPrograms};
+}
+
 }  // namespace
 
 std::filesystem::path userPrograms(const Engine& calc) {
@@ -35,9 +43,7 @@ std::optional<std::filesystem::path> findProgram(const Engine& calc, const std::
     if (name.empty()) {
         return std::nullopt;
     }
-    const std::filesystem::path beside = calc.platform.installedFolder();
-    const std::filesystem::path folders[] = {userPrograms(calc), beside / kPrograms,
-                                             beside.parent_path() / "share" / "tallyforge" / kPrograms};
+    const auto folders = programFolders(calc);
     for (const std::filesystem::path& folder : folders) {
         std::error_code error;
         if (std::filesystem::is_regular_file(folder / pathOf(name), error)) {
@@ -50,6 +56,15 @@ std::optional<std::filesystem::path> findProgram(const Engine& calc, const std::
         }
     }
     return std::nullopt;
+}
+
+std::vector<std::string> programNames(const Engine& calc) {
+    std::set<std::string> names;
+    for (const std::filesystem::path& folder : programFolders(calc)) {
+        const std::vector<std::string> there = filesIn(folder, ".rec");
+        names.insert(there.begin(), there.end());
+    }
+    return {names.begin(), names.end()};
 }
 
 }  // namespace tallyforge

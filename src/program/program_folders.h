@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tallyforge {
 
@@ -20,5 +21,8 @@ namespace tallyforge {
 /// the executable, the installed one. Where none has exactly this name, capitals and small letters
 /// are the same. None for an empty name.
 [[nodiscard]] std::optional<std::filesystem::path> findProgram(const Engine& calc, const std::string& name);
+
+/// Names of all programs in those folders, in order, each once; UTF-8.
+[[nodiscard]] std::vector<std::string> programNames(const Engine& calc);
 
 }  // namespace tallyforge

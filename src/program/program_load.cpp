@@ -56,8 +56,10 @@ void Programs::mnuProgram_Click() {
     const bool atStart = std::exchange(calc.s.files.AutoLoadProgram, false);
     std::string name = calc.s.files.DefaultProgram;
     if (!atStart) {
-        const std::string answer = calc.platform.inputBox(
-            {.title = "Load Program", .prompt = std::string(kPrompt), .preset = calc.s.files.DefaultProgram});
+        const std::string answer = calc.platform.inputBox({.title = "Load Program",
+                                                           .prompt = std::string(kPrompt),
+                                                           .preset = calc.s.files.DefaultProgram,
+                                                           .offers = programNames(calc)});
         if (answer.empty()) {
             return calc.focusEntry();
         }

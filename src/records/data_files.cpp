@@ -44,6 +44,13 @@ std::optional<std::filesystem::path> inDataFolder(const Engine& calc, const std:
     return isName(name) ? std::optional{calc.AppDataDir / name} : std::nullopt;
 }
 
+/// The files of the data folder that are named as the default one is.
+std::vector<std::string> offersLike(const Engine& calc, const std::string& preset) {
+    std::vector<std::string> names = filesIn(calc.AppDataDir, pathOf(preset).extension());
+    std::erase(names, kUndoFile);
+    return names;
+}
+
 /// Asks until the answer is a name, or none was given.
 template <typename Refused>
 std::optional<std::filesystem::path> askForName(Engine& calc, const InputBox& box, const Refused& refused) {
@@ -86,7 +93,8 @@ std::optional<std::filesystem::path> askWhereToSave(Engine& calc, std::string_vi
             "Please enter a file name (only 25 characters are used), or Click OK to accept the default.The "
             "file is saved in the Oakhollow Application Data Folder. ",
         .preset = preset,
-        .fileName = true};
+        .fileName = true,
+        .offers = offersLike(calc, preset)};
     for (;;) {
         auto path = askForName(calc, box, complaintAboutName);
         std::error_code ignored;
@@ -103,7 +111,8 @@ std::optional<std::filesystem::path> askWhatToRetrieve(Engine& calc, std::string
                            "Please enter a file name, or Click OK to accept the default. (Do not enter the "
                            "Folder name).",
                        .preset = preset,
-                       .fileName = true};
+                       .fileName = true,
+                       .offers = offersLike(calc, preset)};
     return askForName(calc, box, [](const std::filesystem::path&) { return std::string_view{}; });
 }
 

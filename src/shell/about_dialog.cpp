@@ -2,6 +2,7 @@
 #include "shell/about_dialog.h"
 
 #include "dialogs/dialog_support.h"
+#include "dialogs/dressing.h"
 #include "engine/engine.h"
 
 namespace tallyforge {
@@ -13,14 +14,6 @@ constexpr int kHeight = 3200;
 constexpr int kMargin = 180;
 constexpr int kLine = 400;
 constexpr int kKeyWidth = 1700;
-
-void dress(Control& control, std::string_view name, ControlKind kind, std::string_view text, Place place) {
-    control.name = name;
-    control.kind = kind;
-    control.text = text;
-    control.place = place;
-    control.font = {.face = Face::Arial, .points = 10.0F};
-}
 
 }  // namespace
 
@@ -34,15 +27,15 @@ AboutDialog::AboutDialog(Engine& calculator) : Form("frmAbout", "About Tallyforg
     place.width = kWidth;
     place.height = kHeight;
     const auto line = [](int number) { return Place{kMargin, kMargin + number * kLine, kWidth - 2 * kMargin, kLine}; };
-    dress(lblTitle, "lblTitle", ControlKind::Label, "Tallyforge", line(0));
+    dress(lblTitle, ControlKind::Label, "lblTitle", "Tallyforge", line(0));
     lblTitle.font = {.face = Face::Arial, .points = 14.0F, .bold = true};
-    dress(lblVersion, "lblVersion", ControlKind::Label, "Version " + std::string(version()) + "  by Oakhollow",
+    dress(lblVersion, ControlKind::Label, "lblVersion", "Version " + std::string(version()) + "  by Oakhollow",
           line(1));
-    dress(lblDescription, "lblDescription", ControlKind::Label, "Another Quality Application from Oakhollow", line(2));
-    dress(lblLicence, "lblLicence", ControlKind::Label, "Free software under the GNU GPL, version 3 or later", line(3));
+    dress(lblDescription, ControlKind::Label, "lblDescription", "Another Quality Application from Oakhollow", line(2));
+    dress(lblLicence, ControlKind::Label, "lblLicence", "Free software under the GNU GPL, version 3 or later", line(3));
     const int keysTop = kHeight - kMargin - kLine;
-    dress(cmdSysInfo, "cmdSysInfo", ControlKind::Key, "&System Info...", {kMargin, keysTop, kKeyWidth, kLine});
-    dress(cmdOK, "cmdOK", ControlKind::Key, "OK", {kWidth - kMargin - kKeyWidth, keysTop, kKeyWidth, kLine});
+    dress(cmdSysInfo, ControlKind::Key, "cmdSysInfo", "&System Info...", {kMargin, keysTop, kKeyWidth, kLine});
+    dress(cmdOK, ControlKind::Key, "cmdOK", "OK", {kWidth - kMargin - kKeyWidth, keysTop, kKeyWidth, kLine});
     for (Control* control : {&lblTitle, &lblVersion, &lblDescription, &lblLicence, &cmdOK, &cmdSysInfo}) {
         enrol(*control);
     }

@@ -54,8 +54,9 @@ std::string bankWords(const Engine& calc, const Control& key) {
     }
     std::string caption = toUnicode(key.text, key.font.face);
     std::replace(caption.begin(), caption.end(), '\n', ' ');
-    const std::string_view words = captionWords(s.modes.ActiveKeypad, caption);
-    return words.empty() ? fromUnicode(caption) : std::string(words);
+    const std::string words = keyWords(s.modes.ActiveKeypad, key.index, s.modifiers.ModifierMask, caption);
+    // On the Tables keypad a key without a meaning under a modifier stays visible.
+    return words.empty() && !s.modes.TablesShown ? fromUnicode(caption) : fromUnicode(words);
 }
 
 /// What X holds since a paste was refused, and how it can be read all the same.
@@ -72,8 +73,28 @@ std::string refusedText(const Engine& calc) {
     return '"' + text + "\" is no number" + (readings.empty() ? "" : "; Shift+Ctrl+V reads " + readings.front());
 }
 
+/// Why the line did not take what was typed.
+std::string dropped(const Engine& calc) {
+    const char typed = calc.s.entry.Dropped;
+    const char decimal = calc.s.format.DecimalChar;
+    const std::string& line = calc.form.txtXreg.text;
+    if (line.size() >= calc.form.txtXreg.maxLength) {
+        return "The entry line is full";
+    }
+    if (typed == decimal && line.find(decimal) != std::string::npos) {
+        return std::string("There is a \"") + decimal + "\" already";
+    }
+    if (typed == '.' || typed == ',') {
+        return std::string("The decimal character is \"") + decimal + '"';
+    }
+    return std::string("\"") + typed + "\" has no meaning here";
+}
+
 std::string statusLine(const Engine& calc) {
     const EngineState& s = calc.s;
+    if (s.entry.Dropped != '\0') {
+        return dropped(calc);
+    }
     const bool latched = !calc.form.optKey.back().checked;
     if (calc.form.shaAlt.visible && !latched) {
         return "Alt: click Alt below, then the key";
@@ -88,6 +109,32 @@ std::string statusLine(const Engine& calc) {
         return {};
     }
     return calc.form.lblBank.text + ", " + std::to_string(s.format.WordSize) + " bits";
+}
+
+/// Keys beside the bank that do nothing under the modifiers in force.
+void hangIdle(Engine& calc) {
+    MainForm& form = calc.form;
+    const auto idleUnder = [&calc](Control& key, bool (*idle)(const EngineState&, std::uint8_t mask)) {
+        key.idle = [&calc, idle] { return idle(calc.s, calc.s.modifiers.ModifierMask); };
+    };
+    for (Control* key : {&form.cmdDown, &form.cmdXchgY, &form.cmdChs, &form.cmdLastx, &form.cmdEex, &form.cmdF11}) {
+        idleUnder(*key, [](const EngineState&, std::uint8_t mask) { return mask != 0; });
+    }
+    idleUnder(form.cmdF12, [](const EngineState& s, std::uint8_t mask) {
+        return mask > kShift || (mask == kShift && s.modifiers.ModifierLatched);
+    });
+    idleUnder(form.cmdDigits, [](const EngineState&, std::uint8_t mask) { return mask != 0 && mask != kCtrl; });
+    idleUnder(form.cmdView, [](const EngineState& s, std::uint8_t mask) {
+        return mask != 0 && (s.window.ViewExtended || (mask != kAlt && mask != kCtrl));
+    });
+    idleUnder(form.cmdReset, [](const EngineState& s, std::uint8_t mask) {
+        const bool meant = mask == 0 || mask == kCtrl || mask == kAlt || mask == (kShift | kCtrl | kAlt);
+        return !meant && !s.modes.ProgramMode;
+    });
+    for (Control& key : form.cmdMath) {
+        idleUnder(key,
+                  [](const EngineState&, std::uint8_t mask) { return mask != 0 && mask != kCtrl && mask != kAlt; });
+    }
 }
 
 void hangFunctionKeys(Engine& calc, Clipboard& clipboard) {
@@ -121,6 +168,10 @@ void hangWords(Engine& calc, Clipboard& clipboard) {
     for (Control& key : form.cmdFunctions) {
         key.words = [&calc, &key] { return bankWords(calc, key); };
     }
+    hangIdle(calc);
+    form.mnuCopy.shortCut = "Ctrl+C";
+    form.mnuPaste.shortCut = "Ctrl+V";
+    form.mnuHelpIntro.shortCut = "F1";
     form.status = [&calc] { return statusLine(calc); };
     form.copyText = [&calc](std::string_view text) { calc.platform.setClipboardText(text); };
     hangFunctionKeys(calc, clipboard);

@@ -2,6 +2,7 @@
 #include "shell/tip_dialog.h"
 
 #include "dialogs/dialog_support.h"
+#include "dialogs/dressing.h"
 #include "engine/engine.h"
 #include "platform/file_store.h"
 #include "platform/installed_file.h"
@@ -24,14 +25,6 @@ bool isText(char character) {
     constexpr unsigned char kDelete = 127;
     const auto byte = static_cast<unsigned char>(character);
     return byte >= ' ' && byte != kDelete;
-}
-
-void dress(Control& control, std::string_view name, ControlKind kind, std::string_view text, Place place) {
-    control.name = name;
-    control.kind = kind;
-    control.text = text;
-    control.place = place;
-    control.font = {.face = Face::Arial, .points = 10.0F};
 }
 
 }  // namespace
@@ -58,12 +51,12 @@ TipDialog::TipDialog(Engine& calculator, std::vector<std::string> tips)
     place.height = kHeight;
     const int keysTop = kHeight - kMargin - kKeyHeight;
     const int right = kWidth - kMargin - kKeyWidth;
-    dress(lblTipText, "lblTipText", ControlKind::Label, "", {kMargin, kMargin, kWidth - 2 * kMargin, 1700});
-    dress(chkLoadTipsAtStartup, "chkLoadTipsAtStartup", ControlKind::Check, "&Show Tips at Startup",
+    dress(lblTipText, ControlKind::Label, "lblTipText", "", {kMargin, kMargin, kWidth - 2 * kMargin, 1700});
+    dress(chkLoadTipsAtStartup, ControlKind::Check, "chkLoadTipsAtStartup", "&Show Tips at Startup",
           {kMargin, keysTop - kKeyHeight - 60, kWidth - 2 * kMargin, kKeyHeight});
-    dress(cmdNextTip, "cmdNextTip", ControlKind::Key, "&Next Tip",
+    dress(cmdNextTip, ControlKind::Key, "cmdNextTip", "&Next Tip",
           {right - kKeyWidth - kMargin, keysTop, kKeyWidth, kKeyHeight});
-    dress(cmdOK, "cmdOK", ControlKind::Key, "OK", {right, keysTop, kKeyWidth, kKeyHeight});
+    dress(cmdOK, ControlKind::Key, "cmdOK", "OK", {right, keysTop, kKeyWidth, kKeyHeight});
     for (Control* control : {&lblTipText, &chkLoadTipsAtStartup, &cmdNextTip, &cmdOK}) {
         enrol(*control);
     }

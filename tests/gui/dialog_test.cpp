@@ -3,6 +3,7 @@
 #include "gui/window_fixture.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QDialog>
 #include <QFile>
 #include <QFileDialog>
@@ -77,6 +78,29 @@ TEST_F(Dialogs, AsksForATextWithItsPreset) {
     EXPECT_EQ(platform.inputBox({.title = "Digits", .prompt = "How many?", .preset = "2"}), "12");
     whenModal([](QWidget& modal) { dynamic_cast<QDialog&>(modal).reject(); });
     EXPECT_EQ(platform.inputBox({.title = "Digits", .prompt = "How many?", .preset = "2"}), "");
+}
+
+TEST_F(Dialogs, ABoxForAFileOffersTheNamesThatAreThere) {
+    whenModal([](QWidget& modal) {
+        auto* names = modal.findChild<QComboBox*>();
+        ASSERT_NE(names, nullptr);
+        EXPECT_TRUE(names->isEditable());
+        EXPECT_EQ(names->count(), 2);
+        EXPECT_EQ(names->currentText(), "Tape.rec") << "the default stands there first";
+        names->setCurrentIndex(1);
+        dynamic_cast<QDialog&>(modal).accept();
+    });
+    const InputBox box{.title = "Retrieve",
+                       .prompt = "Name?",
+                       .preset = "Tape.rec",
+                       .fileName = true,
+                       .offers = {"a.rec", "Größe.rec"}};
+    EXPECT_EQ(platform.inputBox(box), "Größe.rec");
+    whenModal([](QWidget& modal) {
+        QTest::keyClicks(modal.findChild<QLineEdit*>(), "new.rec");
+        dynamic_cast<QDialog&>(modal).accept();
+    });
+    EXPECT_EQ(platform.inputBox(box), "new.rec") << "another name can be typed";
 }
 
 TEST_F(Dialogs, CarriesTextsOverTheClipboard) {

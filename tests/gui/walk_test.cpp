@@ -150,7 +150,7 @@ TEST_F(WindowWalk, AWiderWindowIsFilledAtOnceAndAHigherOneShowsMoreTape) {
     QApplication::processEvents();
     const QRect tape = widget(form().lstDisplayReg).geometry();
     EXPECT_EQ(tape, view().toPixels(form().lstDisplayReg.place));
-    EXPECT_GT(tape.left(), 100);
+    EXPECT_LT(tape.left(), 20) << "the width goes to the lists";
     window.resize(window.width() - 200, window.height() + 150);
     QApplication::processEvents();
     EXPECT_NEAR(widget(form().lstDisplayReg).height(), rows + 150, 3);

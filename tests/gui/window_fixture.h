@@ -95,7 +95,7 @@ protected:
     QAction* entry(const QString& caption) {
         for (QAction* action : window.findChildren<QAction*>()) {
             // An entry that cannot be chosen has no letter.
-            if (action->text().remove('&') == QString(caption).remove('&')) {
+            if (action->text().section('\t', 0, 0).remove('&') == QString(caption).remove('&')) {
                 return action;
             }
         }

@@ -112,12 +112,16 @@ TEST_F(Window, GrowsNoLargerThanTheScreen) {
 }
 
 TEST_F(Window, StandsInTheMiddleOfAWindowOfAnotherShape) {
-    window.resize(window.width() + 200, window.height());
-    QApplication::processEvents();
-    const QRect tape = view().toPixels(form().lstDisplayReg.place);
-    const QRect stack = view().toPixels(form().lstStack.place);
-    EXPECT_NEAR(tape.left(), view().width() - stack.right(), 3);
-    EXPECT_GT(tape.left(), 100);
+    for (const int wider : {200, 900}) {
+        window.resize(window.width() + wider, window.height());
+        QApplication::processEvents();
+        const QRect tape = view().toPixels(form().lstDisplayReg.place);
+        const QRect stack = view().toPixels(form().lstStack.place);
+        const QRect enter = view().toPixels(form().cmdEnter.place);
+        const QRect bank = view().toPixels(form().cmdFunctions.at(15).place);
+        EXPECT_NEAR(tape.left(), view().width() - stack.right(), 3);
+        EXPECT_NEAR(bank.left(), view().width() - enter.right(), 3);
+    }
 }
 
 TEST_F(Window, StaysOnTopWhenItIsAskedTo) {

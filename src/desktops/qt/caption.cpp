@@ -14,7 +14,9 @@ namespace tallyforge::qt {
 namespace {
 
 /// The sizes of captions, in points. A size is tried in a condensed face before a smaller one is.
-constexpr std::array kCaptionPoints{10.0, 7.0, 5.5};
+constexpr std::array kCaptionPoints{9.0, 7.0, 5.5};
+constexpr double kUsualPoints = 10.0;  ///< larger captions (digits, Enter) are as they are
+constexpr std::array kStretches{100, 88, 80};
 constexpr double kRaisedShare = 0.7;  ///< size of a raised exponent
 constexpr double kRaisedBy = 0.32;    ///< and how much of the height it is raised
 constexpr double kSmallestPixels = 6.0;
@@ -111,11 +113,11 @@ FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTw
             continue;
         }
         const bool last = points == kCaptionPoints.back();
-        const double wished = control.font.points > kCaptionPoints.front() ? control.font.points : points;
-        for (const int stretch : {int{QFont::Unstretched}, int{QFont::SemiCondensed}}) {
+        const double wished = control.font.points > kUsualPoints ? control.font.points : points;
+        for (const int stretch : kStretches) {
             fitted.font = faceFont(control.font, fontPixels({.points = static_cast<float>(wished)}, pixelsPerTwip));
             fitted.font.setStretch(stretch);
-            const bool must = last && stretch != QFont::Unstretched;
+            const bool must = last && stretch == kStretches.back();
             const auto way = std::find_if(ways.begin(), ways.end(),
                                           [&](const QStringList& lines) { return fits(lines, fitted.font, size); });
             if (way != ways.end() || must) {

@@ -49,9 +49,9 @@ void paintMark(QPainter& painter, const QRectF& area, const Control& key, const 
     }
 }
 
-void paintRing(QPainter& painter, const QRectF& area, const Theme& theme, double radius) {
+void paintRing(QPainter& painter, const QRectF& area, const QColor& colour, double radius) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(theme.accent, 2.0));
+    painter.setPen(QPen(colour, 2.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(1.0, 1.0, -1.0, -1.0), radius, radius);
 }
@@ -64,7 +64,7 @@ void paintWell(QPainter& painter, const QRectF& area, const Theme& theme, double
 
 void paintKey(QPainter& painter, const QRectF& area, const Control& control, const FittedCaption& caption,
               const Theme& theme, const PaintState& state) {
-    QColor face = theme.keyFace(control);
+    QColor face = state.idle ? theme.well : theme.keyFace(control);
     const bool dark = theme.window.lightness() < 128;
     if (state.pressed) {
         face = dark ? face.lighter(135) : face.darker(116);
@@ -74,7 +74,7 @@ void paintKey(QPainter& painter, const QRectF& area, const Control& control, con
     const double radius = kRadius * state.pixelsPerTwip;
     box(painter, area, face, control.tone == KeyTone::Enter ? face : theme.keyEdge, radius);
     paintMark(painter, area, control, theme, state.pixelsPerTwip);
-    painter.setPen(theme.keyText(control));
+    painter.setPen(theme.keyText(control, state.idle));
     const QFontMetricsF metrics(caption.font);
     const double lineHeight = metrics.height() * 0.92;
     double top = area.center().y() - lineHeight * static_cast<double>(caption.lines.size()) / 2.0;
@@ -93,7 +93,7 @@ void paintKey(QPainter& painter, const QRectF& area, const Control& control, con
         top += lineHeight;
     }
     if (state.focused) {
-        paintRing(painter, area, theme, radius);
+        paintRing(painter, area, theme.accent, radius);
     }
 }
 
@@ -108,6 +108,9 @@ QString fittedFieldText(const Control& control, double width, const QFont& font)
 void paintField(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
                 const PaintState& state) {
     box(painter, area, theme.field, state.focused ? theme.text : theme.fieldEdge, kRadius * state.pixelsPerTwip);
+    if (state.refusing) {
+        paintRing(painter, area, theme.lamp, kRadius * state.pixelsPerTwip);
+    }
     const double margin = kFieldMargin * state.pixelsPerTwip;
     QFont font = fieldFont(control, area.height(), state.pixelsPerTwip);
     const double room = area.width() - 2.0 * margin;
@@ -165,12 +168,13 @@ void paintOption(QPainter& painter, const QRectF& area, const Control& control, 
     const QRectF textArea = area.adjusted(size + kBesideRing * state.pixelsPerTwip, 0, 0, 0);
     FittedCaption caption = fitCaption(control, textArea.size(), state.pixelsPerTwip);
     // All options alike, and narrow enough for the longest.
-    caption.font.setStretch(QFont::SemiCondensed);
+    constexpr int kNarrow = 80;
+    caption.font.setStretch(kNarrow);
     painter.setFont(caption.font);
     painter.setPen(control.enabled ? theme.text : theme.dimText);
     painter.drawText(textArea, Qt::AlignLeft | Qt::AlignVCenter, caption.lines.join(' '));
     if (state.focused) {
-        paintRing(painter, area, theme, kRadius * state.pixelsPerTwip);
+        paintRing(painter, area, theme.accent, kRadius * state.pixelsPerTwip);
     }
 }
 
@@ -284,7 +288,7 @@ void paintList(QPainter& painter, const QRectF& area, const Control& list, std::
     }
     painter.setClipping(false);
     if (state.focused) {
-        paintRing(painter, area, theme, radius);
+        paintRing(painter, area, theme.accent, radius);
     }
 }
 

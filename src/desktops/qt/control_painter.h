@@ -20,6 +20,8 @@ struct PaintState {
     bool focused = false;
     bool typing = false;  ///< the field that all typing goes to
     bool hovered = false;
+    bool idle = false;      ///< does nothing under the modifiers that are held
+    bool refusing = false;  ///< has just dropped a character
     double pixelsPerTwip = 0.1;
     int scrollBar = 0;  ///< pixels that a list's scroll bar takes
     QString note{};     ///< shown faintly where there is nothing else: X at rest, the first steps

@@ -34,6 +34,8 @@ ControlWidget::ControlWidget(FormView& formView, Control& shown)
     : QWidget(&formView), view_(formView), control_(shown) {
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_InputMethodEnabled, false);
+    flash_.setSingleShot(true);
+    connect(&flash_, &QTimer::timeout, this, [this] { update(); });
     if (isList()) {
         scrollBar_ = new QScrollBar(Qt::Vertical, this);
         scrollBar_->setFocusPolicy(Qt::NoFocus);
@@ -61,6 +63,8 @@ void ControlWidget::sync(double pixelsPerTwip, bool hasKeyboard) {
     changed |= take(colour_, control_.colour);
     changed |= take(enabled_, control_.enabled);
     changed |= take(checked_, control_.checked);
+    changed |= take(idle_, control_.idle && control_.idle());
+    syncRefusals();
     const bool keyboardMoved = take(hasKeyboard_, hasKeyboard);
     const bool cameHere = keyboardMoved && hasKeyboard;
     changed |= keyboardMoved;
@@ -89,6 +93,15 @@ void ControlWidget::sync(double pixelsPerTwip, bool hasKeyboard) {
     }
     if (cameHere && QAccessible::isActive()) {
         tellFocus(*this);
+    }
+}
+
+// A character that went nowhere makes the edge flash, so that the hand notices.
+void ControlWidget::syncRefusals() {
+    constexpr int kFlash = 160;
+    if (take(refusals_, control_.refusals)) {
+        flash_.start(kFlash);
+        update();
     }
 }
 
@@ -196,6 +209,8 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
                            .focused = hasKeyboard_,
                            .typing = &control_ == view_.form().typing,
                            .hovered = hovered_,
+                           .idle = idle_,
+                           .refusing = flash_.isActive(),
                            .pixelsPerTwip = pixelsPerTwip_,
                            .scrollBar = scrollBar_ != nullptr && scrollBar_->isVisible() ? scrollBar_->width() : 0,
                            .note = note_};

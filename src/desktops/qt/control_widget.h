@@ -9,6 +9,7 @@
 #include "platform/form.h"
 
 #include <QScrollBar>
+#include <QTimer>
 #include <QWidget>
 
 #include <cstdint>
@@ -55,6 +56,7 @@ protected:
 private:
     void syncList();
     void syncMeaning();
+    void syncRefusals();
     void setHovered(bool hovered);
     [[nodiscard]] QString labelText() const;
     [[nodiscard]] QString noteText() const;
@@ -74,6 +76,9 @@ private:
     bool held_ = false;     ///< the mouse button went down on it
     bool pressed_ = false;  ///< and it looks so
     bool hovered_ = false;
+    bool idle_ = false;
+    QTimer flash_;  ///< runs while the edge shows that something was refused
+    int refusals_ = 0;
     bool hasKeyboard_ = false;
     QString note_;   ///< shown faintly: X at rest, the first steps
     QString label_;  ///< the name line's text

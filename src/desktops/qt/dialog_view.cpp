@@ -2,6 +2,7 @@
 #include "desktops/qt/dialog_view.h"
 
 #include "desktops/qt/key_translation.h"
+#include "desktops/qt/plain_style.h"
 #include "desktops/qt/theme.h"
 #include "platform/form_focus.h"
 #include "platform/key_codes.h"
@@ -56,6 +57,8 @@ bool opensChoice(const QKeyEvent& event) {
 DialogView::DialogView(Form& form, char decimal, double scale, QWidget* parent)
     : QWidget(parent), form_(form), decimal_(decimal), scale_(scale) {
     setPalette(Theme::paletteFor(palette()));
+    auto* style = new PlainStyle();
+    style->setParent(this);
     for (Control* control : form.controls()) {
         auto made = makeDialogControl(*control, *this, this);
         if (made == nullptr) {
@@ -63,6 +66,7 @@ DialogView::DialogView(Form& form, char decimal, double scale, QWidget* parent)
         }
         QWidget& widget = made->widget();
         widget.setFocusPolicy(canHaveFocus(control->kind) ? Qt::StrongFocus : Qt::NoFocus);
+        widget.setStyle(style);
         widget.installEventFilter(this);
         widgets_.insert(control, &widget);
         byWidget_.insert(&widget, control);

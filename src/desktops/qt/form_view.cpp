@@ -85,10 +85,11 @@ void FormView::refit() {
     const double wide = static_cast<double>(width()) / std::max(form_.place.width, 1);
     const double high = static_cast<double>(height()) / std::max(form_.contentHeight(), 1);
     scale_ = std::min(wide, high);
-    // What a higher window has to spare goes to the lists; what a wider one has, stands on both sides.
-    const QSize contents = sizeAt(scale_);
-    form_.fill(static_cast<int>(std::max(height() - contents.height(), 0) / scale_));
-    origin_ = {std::max(width() - contents.width(), 0) / 2, 0};
+    // What the window has to spare goes to the lists; a width that they do not take stands on both sides.
+    const QSize spare = size() - sizeAt(scale_);
+    const auto twips = [this](int pixels) { return static_cast<int>(std::max(pixels, 0) / scale_); };
+    const int taken = form_.fill(twips(spare.height()), twips(spare.width()));
+    origin_ = {std::max(spare.width() - static_cast<int>(std::lround(taken * scale_)), 0) / 2, 0};
     sync();
 }
 
@@ -139,7 +140,18 @@ void FormView::say(ControlWidget& widget, const QString& text) {
     }
 }
 
+// What the line refused, and how.
+void FormView::announceRefusal() {
+    if (form_.typing == nullptr || std::exchange(refusals_, form_.typing->refusals) == form_.typing->refusals) {
+        return;
+    }
+    if (ControlWidget* line = form_.nameLine == nullptr ? nullptr : widgetOf(*form_.nameLine); line != nullptr) {
+        say(*line, line->label());
+    }
+}
+
 void FormView::announce() {
+    announceRefusal();
     for (ControlWidget* widget : widgets_) {
         const Control& control = widget->control();
         if (!control.live) {

@@ -81,6 +81,7 @@ private:
     void dropShiftWait();
     void letGo();
     void announce();
+    void announceRefusal();
     void say(ControlWidget& widget, const QString& text);
     [[nodiscard]] std::uint8_t ownModifier(const QKeyEvent& event) const;
     void showPressed(const KeyStroke& stroke, bool pressed);
@@ -97,6 +98,7 @@ private:
     std::vector<ControlWidget*> widgets_;
     QHash<const Control*, ControlWidget*> byControl_;
     ControlWidget* pressedKey_ = nullptr;
+    int refusals_ = 0;                              ///< of the field that is typed in, as told last
     QHash<const Control*, QString> told_;           ///< what was last announced of a label
     QHash<const Control*, std::uint64_t> counted_;  ///< and of a list
 };

@@ -104,7 +104,9 @@ void MainWindow::syncMenus() {
         const bool enabled = entry->enabled && static_cast<bool>(entry->click);
         action->setEnabled(enabled);
         // A letter leads to an entry that can be chosen.
-        action->setText(enabled ? caption(*entry) : caption(*entry).remove('&'));
+        const QString shown = enabled ? caption(*entry) : caption(*entry).remove('&');
+        // Behind a tab it is shown only: the key itself is heard by the form.
+        action->setText(entry->shortCut.empty() ? shown : shown + '\t' + QString::fromStdString(entry->shortCut));
         action->setCheckable(entry->checked);
         action->setChecked(entry->checked);
     }

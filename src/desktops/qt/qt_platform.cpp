@@ -144,6 +144,14 @@ std::string QtPlatform::inputBox(const InputBox& box) {
     QInputDialog input(window_);
     input.setWindowTitle(unicode(box.title));
     input.setLabelText(unicode(box.prompt));
+    if (!box.offers.empty()) {
+        QStringList names;
+        for (const std::string& name : box.offers) {
+            names.append(QString::fromStdString(name));
+        }
+        input.setComboBoxItems(names);
+        input.setComboBoxEditable(true);
+    }
     input.setTextValue(unicode(box.preset));
     if (auto* prompt = input.findChild<QLabel*>()) {
         constexpr int kReadableWidth = 420;

@@ -93,8 +93,8 @@ const QColor& Theme::keyFace(const Control& key) const {
     }
 }
 
-const QColor& Theme::keyText(const Control& key) const {
-    if (!key.enabled) {
+const QColor& Theme::keyText(const Control& key, bool idle) const {
+    if (!key.enabled || idle) {
         return dimText;
     }
     return key.tone == KeyTone::Enter ? onAccent : text;

@@ -35,7 +35,8 @@ struct Theme {
     [[nodiscard]] const QColor& keyFace(KeyColour colour) const;
     /// The face of a key of this kind and group.
     [[nodiscard]] const QColor& keyFace(const Control& key) const;
-    [[nodiscard]] const QColor& keyText(const Control& key) const;
+    /// Ink on it; dim for a key that is disabled, or idle under the modifiers that are held.
+    [[nodiscard]] const QColor& keyText(const Control& key, bool idle = false) const;
     /// The theme for a desktop of this palette: dark where its windows are.
     [[nodiscard]] static const Theme& forPalette(const QPalette& palette);
     /// The desktop's palette with this theme's colours, for Qt's own widgets in a dialog.

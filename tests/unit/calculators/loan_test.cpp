@@ -185,6 +185,9 @@ TEST_F(LoanTest, ANegativeInterestIsRefused) {
         EXPECT_EQ(hand.field(4), "");
         EXPECT_EQ(hand.field(5), "");
         EXPECT_EQ(hand.at("cmdXreg").text, "&Exit");
+        hand.clickOn("txtVal", 4);
+        hand.enter("12");
+        EXPECT_EQ(hand.field(6), "$88.85") << "the payment, given last, is found from another interest";
     });
 }
 

@@ -426,6 +426,26 @@ TEST(FormInput, AnOptionOfAnArrayClearsItsNeighboursOnly) {
     EXPECT_TRUE(form.warm.checked);
 }
 
+TEST(FormInput, ALetterLeadsToTheNextOptionThatBeginsWithIt) {
+    SmallForm form;
+    const char* const captions[] = {"Volts (V)", "Millivolts (mV)", "Microvolts"};
+    for (std::size_t i = 0; i < 3; ++i) {
+        form.mode[i].text = captions[i];
+    }
+    form.setFocus(form.mode[0]);
+    pressKey(form, {.keyCode = 'M', .character = 'm'});
+    EXPECT_TRUE(form.mode[1].checked);
+    EXPECT_EQ(form.focus, &form.mode[1]);
+    pressKey(form, {.keyCode = 'M', .character = 'm'});
+    EXPECT_TRUE(form.mode[2].checked);
+    pressKey(form, {.keyCode = 'M', .character = 'm'});
+    EXPECT_TRUE(form.mode[1].checked) << "around the end";
+    pressKey(form, {.keyCode = 'X', .character = 'x'});
+    EXPECT_EQ(form.focus, &form.mode[1]);
+    pressKey(form, {.keyCode = 'V', .shift = kCtrl, .character = 22});
+    EXPECT_EQ(form.focus, &form.mode[1]) << "a short cut is no letter";
+}
+
 TEST(FormInput, OptionsThatStandAloneAreOneGroup) {
     SmallForm form;
     form.mode[1].checked = true;
