@@ -185,7 +185,6 @@ void ConversionKeys::showFactor(int key, Gate gate) {
         return;
     }
     const double factor = memory.ConversionFactors.at(slot(key));
-    calc.s.stack.Xnum = factor;
     write(calc.form.lblCnvrt.text, calc.text(ValueCell{factor}));
     write(calc.form.lblCnvrt.tip, "Use Alt Click to save Cnv. Fctr.");
     if (gate == Gate::DialogForAlt) {

@@ -49,7 +49,7 @@ template <typename Action>
 void EntryCommands::withoutBase(Action action) {
     ModeState& modes = calc.s.modes;
     const Borrowed base{modes.BaseMode, false};
-    const Borrowed suspended{modes.BaseSuspended, base.before() ? kBaseSuspended : std::uint8_t{0}};
+    const Borrowed suspended{modes.BaseSuspended, base.before()};
     action();
 }
 

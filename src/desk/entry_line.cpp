@@ -336,7 +336,7 @@ void EntryLine::txtXreg_KeyUp(KeyEvent event) {
         return;
     }
     calc.LightModifiers(0);
-    if (s.modes.MemoryArrayMode || s.modes.ProgramMode || s.modes.ConvertWait || s.modes.TablesShown) {
+    if (s.modes.MemoryArrayMode || s.modes.ProgramMode || s.modes.TablesShown) {
         return;
     }
     if (!std::exchange(s.modifiers.SkipModifierRelease, false) && std::exchange(painted_, false)) {

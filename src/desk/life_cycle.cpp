@@ -250,7 +250,6 @@ void LifeCycle::Form_Activate() {
     if (!s.modes.BaseMode) {
         calc.display.optFix_Click(s.format.RememberedMode);
     }
-    s.stack.Xnum = 0.0;
     calc.focusEntry();
 }
 

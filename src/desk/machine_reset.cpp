@@ -9,12 +9,6 @@
 
 namespace tallyforge {
 
-namespace {
-
-constexpr std::uint32_t kAllBits = 0x7FFFFFFF;
-
-}  // namespace
-
 void MachineReset::clearRegisters() {
     EngineState& s = calc.s;
     for (int key = 0; key < kBankKeys; ++key) {
@@ -41,7 +35,6 @@ void MachineReset::clearStackAndTape() {
     for (ValueCell* cell : {&s.stack.Xreg, &s.stack.Yreg, &s.stack.LastX}) {
         *cell = ValueCell::zero();
     }
-    s.stack.Xnum = 0.0;
     calc.form.txtLastx.text = "0";
     calc.form.txty_Reg.text = "0";
     s.modifiers.ModifierMask = 0;
@@ -52,7 +45,6 @@ void MachineReset::clearStackAndTape() {
     calc.form.cmdSTO.enabled = s.memory.RegistersUsed;
     s.functions.FunctionResetMask = static_cast<std::uint32_t>(ResetBit::All);
     s.functions.RightTriangleHasAngle = false;
-    s.functions.CalcResetWord = kAllBits;
     calc.keypads().ClearPartialStates();
     s.delivery = {};
     clearEntryState();

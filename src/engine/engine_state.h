@@ -66,9 +66,6 @@ enum class TapeFileKind : std::uint8_t {
     SavedByUser = 255,
 };
 
-/// Value of BaseSuspended while BaseMode is lifted for one key.
-inline constexpr std::uint8_t kBaseSuspended = 99;
-
 /// Sentinels that a function leaves in Xreg.
 inline constexpr const char* kNoMeaning = "XXX";    ///< this modifier has no meaning for the key
 inline constexpr const char* kNothingDone = "ZZZ";  ///< nothing to commit
@@ -82,7 +79,6 @@ struct StackState {
     int StackPtr = 1;                                          ///< next free slot; 1 is an empty stack
     int LowestStackPtr = 1;  ///< lowest StackPtr after a commit since the last statistics entry
     ValueCell KeepX;         ///< what a key that did nothing leaves in X; Empty for nothing
-    double Xnum = 0.0;       ///< working copy for functions that compute in doubles
 
     [[nodiscard]] int depth() const { return StackPtr - 1; }
     /// Stack slot `slot`, or an Empty cell where there is none.
@@ -139,12 +135,11 @@ struct ModifierState {
 struct ModeState {
     Keypad ActiveKeypad = Keypad::Standard;
     bool BaseMode = false;
-    std::uint8_t BaseSuspended = 0;
+    bool BaseSuspended = false;  ///< BaseMode is lifted for one key
     bool QuizMode = false;
     bool ProgramMode = false;
     bool MemoryArrayMode = false;
     bool TablesShown = false;
-    bool ConvertWait = false;  ///< the Convert key waits for a choice
 };
 
 /// How numbers are read and shown.
@@ -206,8 +201,6 @@ struct FunctionState {
         FunctionResetMask &= ~own;
         return due;
     }
-    /// The same for the calculators.
-    std::uint32_t CalcResetWord = 0x7FFFFFFF;
     float TaxRate = 7.75F;
     bool RightTriangleHasAngle = false;  ///< the key of the angles is hidden until it is solved
 };

@@ -48,13 +48,9 @@ constexpr CircularKey kTangent{.label = "tan(x)",
                                .inverseLabels = {"ATan(ø)"_t, "ATan(R)", "Atan(Grad)"},
                                .inverse = [](double x) { return std::optional{std::atan(x)}; }};
 
-/// Value of Xnum after an inverse function has refused its argument.
-constexpr double kRefused = 1.0;
-
 // The refused number stays on the stack, under a 0 that says so.
 void refuse(Engine& calc, std::string_view title) {
     calc.message(BoxKind::Stop, title, "Number outside of range: ± 1"_t);
-    calc.s.stack.Xnum = kRefused;
     pushOnX(calc, {ValueCell::zero(), "Error"});
 }
 
@@ -65,7 +61,6 @@ void direct(Engine& calc, const CircularKey& key) {
 void inverse(Engine& calc, const CircularKey& key) {
     const AngleMode mode = calc.s.format.Angle;
     const double x = calc.xNumber();
-    calc.s.stack.Xnum = 0.0;
     if (const auto angle = key.inverse(x)) {
         replaceX(calc, {fromRadians(*angle, mode), ofUnit(key.inverseLabels, mode)});
     } else {

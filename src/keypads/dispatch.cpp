@@ -121,7 +121,10 @@ bool Dispatch::bringXUpToDate(const KeyRow& key) {
         nameProcedure();
     }
     s.stack.LastX = s.stack.Xreg;
-    s.stack.Xnum = s.stack.Xreg.isTagged() ? 0.0 : calc.xNumber();
+    if (!s.stack.Xreg.isTagged()) {
+        // A text that is no number fails here, whatever the function would do with it.
+        static_cast<void>(calc.xNumber());
+    }
     return true;
 }
 
@@ -129,7 +132,6 @@ void Dispatch::onFailure(const Failure& failure, int index) {
     EngineState& s = calc.s;
     if (failure.number() == FailureNumber::TypeMismatch && readsTagged()) {
         // A number of a base where a plain one is wanted: all stays as it was, nothing is said.
-        s.stack.Xnum = 0.0;
         keepOperand();
         return;
     }
@@ -204,7 +206,7 @@ void Dispatch::commitResult() {
     EngineState& s = calc.s;
     // Not by way of the text, which has fewer digits than the number.
     calc.commit.deliverX();
-    if (!s.modes.BaseMode && s.modes.BaseSuspended != kBaseSuspended) {
+    if (!s.modes.BaseMode && !s.modes.BaseSuspended) {
         calc.display.RestoreDisplay();
     }
     calc.focusEntry();

@@ -123,7 +123,6 @@ void Calculator::hangMenus() {
     form.mnuTip.click = [this] { engine_.form.mnuTip.checked = showTips(engine_); };
     keypads_.above.showTips = [this] { return showTips(engine_); };
     form.mnuAbout.click = [this] {
-        engine_.s.stack.Xnum = 0.0;
         AboutDialog dialog(engine_);
         engine_.platform.showDialog(dialog);
         engine_.focusEntry();

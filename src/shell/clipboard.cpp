@@ -72,7 +72,7 @@ void Clipboard::take(const std::string& clipped) {
             calc.reportNumber(failure);
         }
     };
-    const bool isNumber = goOn(report, [&] { s.stack.Xnum = calc.xNumber(); });
+    const bool isNumber = goOn(report, [&] { static_cast<void>(calc.xNumber()); });
     if (!isNumber && !isBaseNumber(s.stack.Xreg.textView())) {
         // X keeps the text, but for one that a function could have left as a sign.
         if (s.stack.Xreg.textView() == kNoMeaning || s.stack.Xreg.textView() == kNothingDone) {

@@ -48,10 +48,10 @@ TEST_F(DispatchTest, OnAnEmptyStackTheResultKeepsItsDigitsAndLastXTheOperand) {
     EXPECT_EQ(y(), "0");
 }
 
-TEST_F(DispatchTest, XnumIsTheNumberOfXWhenTheFunctionRuns) {
+TEST_F(DispatchTest, XIsTheTypedNumberWhenTheFunctionRuns) {
     static double seen = 0.0;
     type("2.5");
-    pressRow([](Keys& k) { seen = k.calc.s.stack.Xnum; });
+    pressRow([](Keys& k) { seen = k.calc.xNumber(); });
     EXPECT_EQ(seen, 2.5);
 }
 
@@ -204,7 +204,6 @@ TEST_F(DispatchTest, AFunctionOfPlainNumbersLeavesANumberOfABaseOnTheStackAndSay
     EXPECT_EQ(element(1), "#101b");
     EXPECT_EQ(calc.s.stack.depth(), 1);
     EXPECT_EQ(calc.tape.lines(), before);
-    EXPECT_EQ(calc.s.stack.Xnum, 0.0);
 }
 
 TEST_F(DispatchTest, AfterAKeyTheEntryLineHasTheKeyboard) {
