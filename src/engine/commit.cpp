@@ -135,13 +135,6 @@ void Commit::storeOnStack() {
     s.entry.EexActive = false;
 }
 
-void Commit::enableStackKeys() {
-    calc.form.cmdDown.enabled = true;
-    calc.form.cmdXchgY.enabled = true;
-    calc.form.cmdLastx.enabled = true;
-    calc.form.cmdSTO.enabled = true;
-}
-
 void Commit::showAndFinish(Manner manner, const ValueCell& savedLastX) {
     EngineState& s = calc.s;
     const auto report = [&](const Failure& failure) { onFailure(failure); };

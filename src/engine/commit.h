@@ -54,7 +54,13 @@ public:
 
     /// The commit of a plain number at slot `place`, while it is quiet(): X, Y, the stack and the tape.
     /// Returns false, and has changed nothing, where the number needs more than one line.
-    [[nodiscard]] bool put(double number, int place, KnownLabel label);
+    [[nodiscard]] bool put(double number, int place, KnownLabel label) {
+        const bool fits = !label.wide || fitsBesideLabel(number);
+        if (fits) {
+            store(number, place, label.id);
+        }
+        return fits;
+    }
 
     /// What the commit does with the text of `number` in the entry line while a program runs,
     /// without the text. `number` must be one that fifteen digits show in full.
@@ -105,6 +111,12 @@ private:
     void commit(Manner manner);
     [[nodiscard]] bool commitQuietly(bool fromEntry);
     void readEntry(Manner manner, ValueCell& savedLastX);
+    [[nodiscard]] bool fitsBesideLabel(double number) const;
+    void store(double number, int place, LabelId label);
+    void storeInPlace(double number, int place, LabelId label);
+    void storeWithCare(double number, int place, LabelId label);
+    void letStackKeysBePressed();
+    void noteNumber(double number, int place, LabelId label);
     void storeOnStack();
     void showAndFinish(Manner manner, const ValueCell& savedLastX);
     void takeBack(const ValueCell& savedLastX);

@@ -86,6 +86,12 @@ struct StackState {
         return slot >= 0 && static_cast<std::size_t>(slot) < Stack.size() ? Stack[static_cast<std::size_t>(slot)]
                                                                           : noCell();
     }
+    /// A number can be committed at `place` over plain numbers, without more memory.
+    [[nodiscard]] bool takesNumberAt(int place) const {
+        const ValueCell* const cell = Stack.data() + place;
+        return place > 0 && static_cast<std::size_t>(place) + 2 < Stack.size() && !cell->isText() && !Xreg.isText() &&
+               !Yreg.isText() && (cell - 1)->isNumberOrEmpty();
+    }
     /// Makes slots for a commit at `place`: a recalled value goes up by two, over the X that is there,
     /// with a free slot above it.
     void makeRoom(int place) {

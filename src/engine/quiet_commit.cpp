@@ -52,14 +52,52 @@ bool Commit::commitQuietly(bool fromEntry) {
     return true;
 }
 
-// Takes the same steps as the commit does on its long road, where they have an effect.
-bool Commit::put(double number, int place, KnownLabel label) {
-    EngineState& s = calc.s;
-    const std::uint8_t look = packed(s.format.look());
-    if (label.wide && !(std::abs(number) < NumberDisplay::oneLineBelow(look))) {
-        return false;
+bool Commit::fitsBesideLabel(double number) const {
+    return std::abs(number) < NumberDisplay::oneLineBelow(packed(calc.s.format.look()));
+}
+
+void Commit::enableStackKeys() {
+    calc.form.cmdDown.enabled = true;
+    calc.form.cmdXchgY.enabled = true;
+    calc.form.cmdLastx.enabled = true;
+    calc.form.cmdSTO.enabled = true;
+}
+
+inline void Commit::letStackKeysBePressed() {
+    if (!calc.form.cmdDown.enabled && !calc.s.modes.QuizMode) {
+        enableStackKeys();
     }
-    StackState& stack = s.stack;
+}
+
+inline void Commit::noteNumber(double number, int place, LabelId label) {
+    EngineState& s = calc.s;
+    s.stack.StackPtr = place + 1;
+    s.stack.LowestStackPtr = std::min(s.stack.LowestStackPtr, place + 1);
+    calc.tape.addInPlace(Tape::style(packed(s.format.look()), label), number);
+    calc.stackList.noteChange();
+    s.CurrentProc = "cmdEnter";
+}
+
+// No cell holds a text, and nothing needs to grow.
+inline void Commit::storeInPlace(double number, int place, LabelId label) {
+    StackState& stack = calc.s.stack;
+    ValueCell* const cell = stack.Stack.data() + place;
+    cell->putNumber(number);
+    stack.Xreg.putNumber(number);
+    const double* const below = (cell - 1)->asDouble();
+    stack.Yreg.putNumber(below == nullptr ? 0.0 : *below);
+    letStackKeysBePressed();
+    noteNumber(number, place, label);
+}
+
+// Takes the same steps as the commit does on its long road, where they have an effect.
+void Commit::store(double number, int place, LabelId label) {
+    return calc.s.stack.takesNumberAt(place) && calc.tape.hasPlace() ? storeInPlace(number, place, label)
+                                                                     : storeWithCare(number, place, label);
+}
+
+void Commit::storeWithCare(double number, int place, LabelId label) {
+    StackState& stack = calc.s.stack;
     stack.makeRoom(place);
     stack.Stack[static_cast<std::size_t>(place)] = number;
     stack.Xreg = number;
@@ -68,22 +106,11 @@ bool Commit::put(double number, int place, KnownLabel label) {
         calc.form.cmdDown.enabled = false;
         calc.form.cmdXchgY.enabled = false;
     } else {
-        const ValueCell& below = stack.Stack[static_cast<std::size_t>(place) - 1];
-        if (below.isEmpty()) {
-            stack.Yreg = 0.0;
-        } else {
-            stack.Yreg = below;
-        }
-        if (!calc.form.cmdDown.enabled && !s.modes.QuizMode) {
-            enableStackKeys();
-        }
+        stack.Yreg = stack.operand(place - 1);
+        letStackKeysBePressed();
     }
-    stack.StackPtr = place + 1;
-    stack.LowestStackPtr = std::min(stack.LowestStackPtr, place + 1);
-    calc.tape.addNumber(Tape::style(look, label.id), number);
-    calc.stackList.noteChange();
-    s.CurrentProc = "cmdEnter";
-    return true;
+    calc.tape.makePlace();
+    noteNumber(number, place, label);
 }
 
 }  // namespace tallyforge

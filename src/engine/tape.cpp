@@ -47,6 +47,7 @@ void Tape::giveWay() {
 }
 
 void Tape::add(std::string_view text, const ValueCell& value) {
+    makePlace();
     Block& block = append();
     block.number[place_] = static_cast<double>(block.texts.size());
     block.style[place_] = kText;

@@ -64,6 +64,18 @@ public:
     void addNumber(const NumberLook& look, const TapeLabel& label, double value);
     /// The same in a style that is known.
     void addNumber(LineStyle style, double value) {
+        makePlace();
+        addInPlace(style, value);
+    }
+    /// The next line needs no more memory.
+    [[nodiscard]] bool hasPlace() const { return place_ != kBlock; }
+    void makePlace() {
+        if (!hasPlace()) {
+            addBlock();
+        }
+    }
+    /// The same where the tape hasPlace().
+    void addInPlace(LineStyle style, double value) {
         Block& block = append();
         block.number[place_] = value;
         block.style[place_] = style;
@@ -137,9 +149,6 @@ private:
 
     /// The block whose line `place_` is the next one, which counts and is selected.
     Block& append() {
-        if (place_ == kBlock) {
-            addBlock();
-        }
         selected_ = added_++;
         ++revision_;
         return *last_;

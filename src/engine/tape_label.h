@@ -9,8 +9,10 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace tallyforge {
 
@@ -22,8 +24,12 @@ public:
     constexpr ShortLabel() = default;
     /// `text` must have no more than kMost characters.
     constexpr explicit ShortLabel(std::string_view text) {
-        std::copy(text.begin(), text.end(), bytes_.begin());
-        bytes_[kMost] = static_cast<char>(text.size());
+        if (std::is_constant_evaluated()) {
+            std::copy(text.begin(), text.end(), bytes_.begin());
+            bytes_[kMost] = static_cast<char>(text.size());
+        } else {
+            bytes_ = std::bit_cast<Bytes>(wordsOf(text));
+        }
     }
 
     [[nodiscard]] constexpr std::size_t size() const { return static_cast<std::size_t>(bytes_[kMost]); }
@@ -36,10 +42,48 @@ public:
     friend bool operator==(const ShortLabel& left, const ShortLabel& right) { return left.words() == right.words(); }
 
 private:
+    using Bytes = std::array<char, kMost + 1>;
     using Words = std::array<std::uint64_t, 3>;
+    static constexpr std::size_t kWord = sizeof(std::uint64_t);
+
+    template <typename Word>
+    [[nodiscard]] static std::uint64_t load(const char* from) {
+        Word word = 0;
+        std::memcpy(&word, from, sizeof word);
+        return word;
+    }
+    /// The first `count` bytes at `from`, at most eight, and zeros behind them.
+    [[nodiscard]] static std::uint64_t partOfWord(const char* from, std::size_t count) {
+        constexpr std::size_t kHalf = sizeof(std::uint32_t);
+        if (count >= kWord) {
+            return load<std::uint64_t>(from);
+        }
+        if (count >= kHalf) {
+            return load<std::uint32_t>(from) | load<std::uint32_t>(from + count - kHalf) << 8 * (count - kHalf);
+        }
+        std::uint64_t word = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            word |= load<unsigned char>(from + i) << 8 * i;
+        }
+        return word;
+    }
+    // A label that was written byte by byte cannot be read by words at once: the processor waits
+    // until the bytes have left for the memory.
+    [[nodiscard]] static Words wordsOf(std::string_view text) {
+        const std::size_t size = text.size();
+        Words words{partOfWord(text.data(), std::min(size, kWord)), 0, 0};
+        if (size > kWord) {
+            words[1] = partOfWord(text.data() + kWord, std::min(size - kWord, kWord));
+        }
+        if (size > 2 * kWord) {
+            words[2] = partOfWord(text.data() + 2 * kWord, size - 2 * kWord);
+        }
+        words[2] |= static_cast<std::uint64_t>(size) << 8 * (kWord - 1);
+        return words;
+    }
     [[nodiscard]] Words words() const { return std::bit_cast<Words>(bytes_); }
 
-    std::array<char, kMost + 1> bytes_{};
+    Bytes bytes_{};
 };
 
 /// A label of any length.
@@ -60,17 +104,18 @@ public:
     operator std::string_view() const { return view(); }
     // NOLINTEND(google-explicit-constructor)
     TapeLabel& operator=(const ShortLabel& label) {
-        clear();
         short_ = label;
+        if (!long_.empty()) {
+            long_.clear();
+        }
         return *this;
     }
     TapeLabel& operator=(std::string_view text) {
-        clear();
         if (text.size() <= ShortLabel::kMost) {
-            short_ = ShortLabel{text};
-        } else {
-            long_ = text;
+            return *this = ShortLabel{text};
         }
+        short_ = {};
+        long_ = text;
         return *this;
     }
     TapeLabel& operator=(const std::string& text) { return *this = std::string_view{text}; }
@@ -81,12 +126,7 @@ public:
     [[nodiscard]] bool empty() const { return short_.size() == 0 && long_.empty(); }
     /// The label where it has no more characters than a short one; otherwise an empty one.
     [[nodiscard]] const ShortLabel& shortLabel() const { return short_; }
-    void clear() {
-        short_ = {};
-        if (!long_.empty()) {
-            long_.clear();
-        }
-    }
+    void clear() { *this = ShortLabel{}; }
     friend bool operator==(const TapeLabel& left, std::string_view right) { return left.view() == right; }
 
 private:

@@ -57,7 +57,7 @@ void Dispatch::press(const KeyRow& key) {
     nameProcedure();
     const auto whenFailed = [&](const Failure& failure) { onFailure(failure, key.key); };
     goOn(whenFailed, [&] {
-        if (bringXUpToDate(key)) {
+        if (takeFromStack() || bringXUpToDate(key)) {
             run(key);
         } else {
             keepOperand();
@@ -92,8 +92,13 @@ void Dispatch::passOver() {
     calc.focusEntry();
 }
 
+// Only a program runs unwatched.
+bool Dispatch::inProgram() const {
+    return calc.commit.quiet() || (programRuns && programRuns());
+}
+
 void Dispatch::nameProcedure() {
-    calc.s.CurrentProc = programRuns && programRuns() ? "Program " : "cmdFunctions";
+    calc.s.CurrentProc = inProgram() ? "Program " : "cmdFunctions";
 }
 
 // A number that is still typed stays open for its next digit, whatever the modifier.
@@ -110,13 +115,31 @@ void Dispatch::typeWith(const KeyRow& key) {
     calc.focusEntry();
 }
 
+// Plain numbers on the stack, and nobody watches: no more than bringXUpToDate() would come to.
+bool Dispatch::takeFromStack() {
+    EngineState& s = calc.s;
+    if (!calc.commit.quiet() || s.entry.EntryOpen || s.stack.depth() < 2) {
+        return false;
+    }
+    const double* const x = s.stack.slot(s.stack.StackPtr - 1).asDouble();
+    const double* const y = s.stack.slot(s.stack.StackPtr - 2).asDouble();
+    if (x == nullptr || y == nullptr) {
+        return false;
+    }
+    s.stack.Xreg = *x;
+    s.stack.Yreg = *y;
+    s.stack.LastX = *x;
+    s.stack.Xnum = *x;
+    return true;
+}
+
 // Returns whether there is an operand to work on.
 bool Dispatch::bringXUpToDate(const KeyRow& key) {
     EngineState& s = calc.s;
     if (!calc.commit.FetchX(key.silentOperand)) {
         return false;
     }
-    if (programRuns && programRuns()) {
+    if (!calc.commit.quiet() && inProgram()) {
         // The commit has put its own name there; messages of a program carry the program's.
         nameProcedure();
     }
@@ -206,10 +229,12 @@ void Dispatch::commitResult() {
     EngineState& s = calc.s;
     // Not by way of the text, which has fewer digits than the number.
     calc.commit.deliverX();
-    if (!s.modes.BaseMode && !s.modes.BaseSuspended) {
+    if (s.format.DisplaySaved && !s.modes.BaseMode && !s.modes.BaseSuspended) {
         calc.display.RestoreDisplay();
     }
-    calc.focusEntry();
+    if (!calc.commit.quiet()) {
+        calc.focusEntry();
+    }
 }
 
 void Dispatch::cmdFunctions_MouseDown(int index, MouseButton button, std::uint8_t shift) {

@@ -45,7 +45,9 @@ private:
     void run(const KeyRow& key);
     void passOver();
     void typeWith(const KeyRow& key);
+    [[nodiscard]] bool inProgram() const;
     void nameProcedure();
+    [[nodiscard]] bool takeFromStack();
     bool bringXUpToDate(const KeyRow& key);
     void onFailure(const Failure& failure, int index);
     [[nodiscard]] bool readsTagged() const;

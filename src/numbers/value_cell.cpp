@@ -54,9 +54,9 @@ bool ValueCell::equals(const ValueCell& other) const {
     return false;
 }
 
-double ValueCell::number(char decimal) const {
+double ValueCell::readNumber(char decimal) const {
     if (isText()) {
-        return readNumber(held_.text->text, decimal);
+        return tallyforge::readNumber(held_.text->text, decimal);
     }
     return tryNumber(decimal).value_or(0.0);
 }

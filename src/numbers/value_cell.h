@@ -52,11 +52,18 @@ public:
         kind_ = Kind::Double;
         return *this;
     }
+    /// The same for a cell that holds no text.
+    void putNumber(double value) {
+        held_.number = value;
+        kind_ = Kind::Double;
+    }
     /// The number 0, as a cleared cell holds it.
     [[nodiscard]] static ValueCell zero() { return ValueCell{0.0}; }
 
     [[nodiscard]] bool isEmpty() const { return kind_ == Kind::Empty; }
     [[nodiscard]] bool isText() const { return kind_ == Kind::Text; }
+    /// A double, or nothing.
+    [[nodiscard]] bool isNumberOrEmpty() const { return kind_ == Kind::Double || kind_ == Kind::Empty; }
     /// The held double; nullptr for anything else.
     [[nodiscard]] const double* asDouble() const { return kind_ == Kind::Double ? &held_.number : nullptr; }
     /// The held text; an empty view for anything but a text.
@@ -71,7 +78,9 @@ public:
     /// The value as a number. Empty is 0, True is -1. A text is parsed with the locale's
     /// `decimal` character. Failures: 13 for a text that is no number, 6 for one out of the
     /// range of a double.
-    [[nodiscard]] double number(char decimal) const;
+    [[nodiscard]] double number(char decimal) const {
+        return kind_ == Kind::Double ? held_.number : readNumber(decimal);
+    }
     /// number() without the failures: empty where it would raise one.
     [[nodiscard]] std::optional<double> tryNumber(char decimal) const {
         const double* const number = asDouble();
@@ -112,6 +121,7 @@ private:
     }
     void forget();
     [[nodiscard]] bool equals(const ValueCell& other) const;
+    [[nodiscard]] double readNumber(char decimal) const;
     [[nodiscard]] std::optional<double> readAny(char decimal) const;
 
     Held held_{.number = 0.0};

@@ -130,7 +130,11 @@ void ProgramRun::runIf(const ProgramLine& line) {
 
 // An X that a key has left empty counts as 0.
 double ProgramRun::numberInX() const {
-    return calc.s.stack.Xreg.isEmptyText() ? 0.0 : calc.xNumber();
+    const ValueCell& x = calc.s.stack.Xreg;
+    if (const double* const number = x.asDouble()) {
+        return *number;
+    }
+    return x.isEmptyText() ? 0.0 : calc.xNumber();
 }
 
 void ProgramRun::executeWord(const ProgramWord& word) {
