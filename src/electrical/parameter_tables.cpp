@@ -70,7 +70,7 @@ std::string meanTurnFormula(const ParameterChoice& choice) {
                                          ? "mtl = pi·(OD + ODw) / 2"_t
                                          : "mtl = 12·(0.0902 - 0.00214·r)·s, r = HT/ID above 1.2\n"
                                            "mtl = 12·(0.1038 - 0.0151·r)·s else, s = 2·HT + OD - ID"_t;
-    return joined({formula, "\nin ", chosenUnit(kLmuTurn, choice.units).label, feet ? ", shown in ft" : ""});
+    return joined({formula, "\nunit: ", chosenUnit(kLmuTurn, choice.units).label, feet ? ", shown in ft" : ""});
 }
 
 std::string solenoidFormula(const ParameterChoice& choice) {
