@@ -134,17 +134,8 @@ std::string writeHelpFile(std::span<const HelpPage> pages) {
     return file + contents;
 }
 
-std::optional<std::vector<HelpPage>> readHelpFile(std::string_view bytes) {
-    if (!bytes.starts_with(kHead)) {
-        return std::nullopt;
-    }
+std::optional<std::vector<HelpPage>> readHelpFileContents(std::string_view contents) {
     try {
-        Reader head(bytes.substr(kHead.size()));
-        const std::uint64_t sum = head.number(kChecksumBytes);
-        const std::string_view contents = bytes.substr(kHead.size() + kChecksumBytes);
-        if (sum != checksumOf(contents)) {
-            return std::nullopt;
-        }
         std::vector<HelpPage> pages;
         for (Reader reader(contents); !reader.atEnd();) {
             eachPart(pages.emplace_back(), [&](auto& part) { reader.get(part); });
@@ -153,6 +144,15 @@ std::optional<std::vector<HelpPage>> readHelpFile(std::string_view bytes) {
     } catch (const Damaged&) {
         return std::nullopt;
     }
+}
+
+std::optional<std::vector<HelpPage>> readHelpFile(std::string_view bytes) {
+    if (!bytes.starts_with(kHead) || bytes.size() < kHead.size() + kChecksumBytes) {
+        return std::nullopt;
+    }
+    const std::uint64_t sum = Reader(bytes.substr(kHead.size())).number(kChecksumBytes);
+    const std::string_view contents = bytes.substr(kHead.size() + kChecksumBytes);
+    return sum == checksumOf(contents) ? readHelpFileContents(contents) : std::nullopt;
 }
 
 }  // namespace tallyforge

@@ -22,4 +22,7 @@ inline constexpr std::string_view kHelpFile = "tallyforge.help";
 /// The pages of such a file; empty where it is another one, or any byte of it has changed.
 [[nodiscard]] std::optional<std::vector<HelpPage>> readHelpFile(std::string_view bytes);
 
+/// The pages in what stands behind head and checksum.
+[[nodiscard]] std::optional<std::vector<HelpPage>> readHelpFileContents(std::string_view contents);
+
 }  // namespace tallyforge

@@ -6,6 +6,8 @@
 #include "help/text_lines.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 namespace tallyforge {
 
@@ -51,6 +53,33 @@ std::string chapterOf(std::string_view file) {
     return name;
 }
 
+/// The chapters as they are read; others stand between the keypads and the last ones.
+constexpr std::array<std::string_view, 9> kFirst{"introduction",
+                                                 "form",
+                                                 "menus",
+                                                 "standard-keypad",
+                                                 "trigonometry-keypad",
+                                                 "engineering-keypad",
+                                                 "calculators",
+                                                 "magnetics-keypad",
+                                                 "convert-keypad"};
+constexpr std::array<std::string_view, 4> kLast{"programs", "key-scripts", "messages", "glossary"};
+
+std::size_t rankOf(std::string_view file) {
+    const auto* const first = std::find(kFirst.begin(), kFirst.end(), file);
+    const auto* const last = std::find(kLast.begin(), kLast.end(), file);
+    const auto middle = kFirst.size();
+    return last != kLast.end() ? middle + 1 + static_cast<std::size_t>(last - kLast.begin())
+                               : static_cast<std::size_t>(first - kFirst.begin());
+}
+
+std::vector<HelpPage> inOrder(std::span<const HelpPage> pages) {
+    std::vector<HelpPage> sorted(pages.begin(), pages.end());
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const HelpPage& one, const HelpPage& other) { return rankOf(one.file) < rankOf(other.file); });
+    return sorted;
+}
+
 std::string linkTo(const HelpPage& page, std::string_view text) {
     return "<a href=\"#" + page.name + "\">" + std::string(text) + "</a>";
 }
@@ -80,10 +109,10 @@ std::string indexOf(const HelpBook& book) {
 }  // namespace
 
 std::string manualHtml(std::span<const HelpPage> pages, std::string_view version) {
-    const HelpBook book({pages.begin(), pages.end()});
+    const HelpBook book(inOrder(pages));
     std::string html = head("Tallyforge manual") + "<h1>Tallyforge</h1>\n<p>Manual of version " + htmlEscaped(version) +
-                       "</p>\n" + contents(pages);
-    for (const HelpPage& page : pages) {
+                       "</p>\n" + contents(book.pages());
+    for (const HelpPage& page : book.pages()) {
         html += helpPageHtml(page, kLook);
     }
     return html + indexOf(book) + std::string(kFoot);

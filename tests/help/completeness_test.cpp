@@ -5,8 +5,10 @@
 #include "convert/conversion_tables.h"
 #include "engine/engine.h"
 #include "help/help_book.h"
+#include "help/help_file.h"
 #include "help_sources.h"
 #include "keypads/keypad_table.h"
+#include "platform/file_store.h"
 #include "platform/form_input.h"
 #include "program/program_words.h"
 #include "reference/material_lists.h"
@@ -20,6 +22,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <set>
 #include <string>
 
@@ -213,6 +216,20 @@ TEST(HelpIsComplete, EachPageOfAKeyHasAWorkedExample) {
         }
     }
     EXPECT_TRUE(missing.empty()) << listed(missing);
+}
+
+TEST(BuiltHelp, IsThePagesAndLiesBesideTheProgramsWithTheDocuments) {
+    const std::filesystem::path folder(TALLYFORGE_PROGRAMS_FOLDER);
+    EXPECT_EQ(readHelpFile(readWhole(folder / kHelpFile)), helpSources());
+    for (const char* document : {"manual.html", "changes.html"}) {
+        EXPECT_TRUE(readWhole(folder / "doc" / document).ends_with("</html>\n")) << document;
+    }
+}
+
+TEST(BuiltHelp, IsTheManualOfTheDocuments) {
+    EXPECT_TRUE(readWhole(TALLYFORGE_PROGRAMS_FOLDER "/doc/manual.html") ==
+                readWhole(TALLYFORGE_SOURCE_ROOT "/docs/manual.html"))
+        << "run tools/manual_doc";
 }
 
 }  // namespace

@@ -74,6 +74,20 @@ TEST(Manual, HoldsContentsPagesAndIndexInOneFile) {
     EXPECT_TRUE(manual.ends_with("</html>\n"));
 }
 
+TEST(Manual, BeginsWithTheIntroductionAndEndsWithTheGlossary) {
+    std::vector<HelpPage> pages;
+    for (const char* file : {"binary-keypad", "convert-keypad", "glossary", "introduction", "lists", "programs"}) {
+        pages.push_back({.title = file, .name = file, .file = file});
+    }
+    const std::string manual = manualHtml(pages, "1");
+    std::size_t at = 0;
+    for (const char* file : {"introduction", "convert-keypad", "binary-keypad", "lists", "programs", "glossary"}) {
+        const std::size_t found = manual.find("<a name=\"" + std::string(file) + "\">");
+        EXPECT_GT(found, at) << file;
+        at = found;
+    }
+}
+
 TEST(Manual, ADocumentIsAPageOfItsOwn) {
     const std::string changes = documentHtml("# Changes\n\n## 0.1.0\n\n- One\n- Two\n");
     EXPECT_NE(changes.find("<title>Changes</title>"), std::string::npos);
