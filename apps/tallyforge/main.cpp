@@ -198,8 +198,19 @@ void tryExample(qt::QtPlatform& platform, Calculator& calculator, qt::MainWindow
 int showWindow(const QString& file) {
     qt::QtPlatform platform;
     Calculator calculator(platform);
-    calculator.load();
     MainForm& form = calculator.engine().form;
+    qt::MainWindow window(form, platform.decimalCharacter());
+    window.remembersSize = true;
+    platform.setWindow(&window);
+    platform.showChanges = [&window] { window.view().sync(); };
+    // The tip of the day stands over the window, not before it.
+    const auto show = [&window] {
+        window.present();
+        window.show();
+    };
+    platform.beforeDialog = show;
+    calculator.load();
+    platform.beforeDialog = nullptr;
     if (!form.open) {
         return 1;
     }
@@ -207,13 +218,8 @@ int showWindow(const QString& file) {
         // The way round a default program that does not end.
         calculator.engine().s.files.AutoLoadProgram = false;
     }
-    qt::MainWindow window(form, calculator.engine().s.format.DecimalChar);
-    platform.setWindow(&window);
-    platform.showChanges = [&window] { window.view().sync(); };
     platform.help.tryIt = [&](const HelpExample& example) { tryExample(platform, calculator, window, example); };
-    window.remembersSize = true;
-    window.present();
-    window.show();
+    show();
     QTimer::singleShot(0, &window, [&] {
         calculator.activate();
         if (!file.isEmpty()) {

@@ -26,8 +26,8 @@ constexpr const char* kLines = "1000000";
 constexpr std::array<std::uint32_t, 7> kCycle{'1', '.', '5', '-', '2', 0xFF0D, 0xFFFF};
 
 // The limits: times the floor, and milliseconds.
-constexpr double kStartTimes = 1.5;
-constexpr double kPressTimes = 2.0;
+constexpr double kStartTimes = 1.4;
+constexpr double kPressTimes = 1.1;
 constexpr double kPressLimit = 8.0;
 
 struct Measured {

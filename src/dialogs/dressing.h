@@ -29,7 +29,7 @@ inline Control& dress(Control& control, ControlKind kind, std::string_view name,
 inline Control& dress(Control& control, ControlKind kind, std::string_view name, std::string_view text, Place place) {
     dress(control, kind, name, text);
     control.place = place;
-    control.font.points = 10.0F;
+    control.font.points = 9.0F;
     return control;
 }
 

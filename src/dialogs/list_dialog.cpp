@@ -206,7 +206,7 @@ void ListDialog::arrange() {
     place.width = lists + 2 * kMargin;
     int top = kMargin;
     if (!table().help.empty()) {
-        constexpr int kHelpLines = 4;
+        constexpr int kHelpLines = 5;
         lblHelp.place = {.left = kMargin, .top = top, .width = lists, .height = kHelpLines * kLine};
         top += kHelpLines * kLine + kGap;
     }
@@ -253,7 +253,7 @@ int ListDialog::arrangeChosen(int top) {
     if (!extras_.other) {
         return top + kGap;
     }
-    constexpr int kSourceLines = 2;
+    constexpr int kSourceLines = 3;
     lblCodata.place = {.left = kMargin, .top = top, .width = kNameWidth, .height = kLine};
     txtCodata.place = {
         .left = kMargin + kNameWidth + kGap, .top = top, .width = width - kNameWidth - kGap, .height = kLine};

@@ -55,6 +55,10 @@ TEST(AllDialogsInAWindow, ClipNothingOnASmallScreen) {
             if (widget == nullptr || !control->visible) {
                 continue;
             }
+            if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && label->wordWrap()) {
+                EXPECT_LE(label->heightForWidth(label->width()), label->height() + 2)
+                    << dialogKey(dialog) << " " << control->fullName();
+            }
             EXPECT_LE(neededWidth(*widget), widget->width()) << dialogKey(dialog) << " " << control->fullName();
             if (control->kind == ControlKind::Picture) {
                 // It scales as a whole and has no text of its own.

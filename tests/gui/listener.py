@@ -34,6 +34,10 @@ def in_session():
             environment = dict(os.environ, DISPLAY=screen, QT_QPA_PLATFORM="xcb", HEARD="1",
                                QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", XDG_DATA_HOME=home,
                                XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home)
+            # The tip of the day would stand before the window.
+            os.makedirs(home + "/Oakhollow")
+            with open(home + "/Oakhollow/Tallyforge.conf", "w", encoding="ascii") as settings:
+                settings.write("[Options]\nShow%20Tips%20at%20Startup=false\n")
             time.sleep(0.5)
             return subprocess.call(["dbus-run-session", "--", sys.executable, os.path.abspath(__file__)] + sys.argv[1:],
                                    env=environment, stderr=subprocess.DEVNULL)
@@ -124,6 +128,18 @@ def main():
         expect("the stack", stack, ["1 7.00e+00"])
         expect("the angle", tree.has(named["Degrees"], CHECKED), True)
         expect("the group", tree.description(named["Degrees"]), "Angle")
+        # The session of the README.
+        tree.press(named["Drop"])
+        root = next(node for name, node in named.items() if name.startswith("Square root of x"))
+        for key in ("1", "2", "Decimal", "6", "0", "Enter", "3", "Decimal", "5", "Divide", "2"):
+            tree.press(named[key])
+        tree.press(root)
+        tree.press(named["Multiply"])
+        rows = [row for row in (tree.name(row) for row in tree.children(named["Running tape"])) if row]
+        expect("the session", rows[-6:], ["12.60", "3.50", "\u00f7 3.60", "2.00", "\u221ax 1.41", "X 5.09"])
+        expect("the entry line after it", tree.text(named["Entry line"]), "5.09")
+        tree.press(named["Last x"])
+        expect("last x", tree.text(named["Entry line"]), "1.41")
         tree.press(named["Shift"])
         under_shift = {tree.name(node) for node in tree.walk(tree.root)}
         expect("ln under Shift", "e to the power of x" in under_shift, True)

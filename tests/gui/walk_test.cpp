@@ -96,6 +96,35 @@ TEST_F(WindowWalk, SpacePressesAndTypingLeadsBack) {
     EXPECT_EQ(form().txtXreg.text, "7");
 }
 
+// The session of the README, and what a listener is told of it.
+TEST_F(WindowWalk, AWholeSessionGoesByKeyboardAloneAndByEar) {
+    type("1");
+    strike(Qt::Key_Escape, "\x1b");
+    std::vector<std::string> heard;
+    view().announced = [&](const QString& text) { heard.push_back(text.toStdString()); };
+    type("12.60");
+    strike(Qt::Key_Return, "\r");
+    type("3.5/");
+    EXPECT_DOUBLE_EQ(engine().xNumber(), 3.6);
+    type("2");
+    tab(3);
+    for (int row = 0; row < 5; ++row) {
+        strike(Qt::Key_Down);
+    }
+    EXPECT_EQ(form().tabbedTo, &form().cmdFunctions.at(2));
+    EXPECT_EQ(widget(form().lblName).label(), "Square root of x");
+    strike(Qt::Key_Space, " ");
+    type("*");
+    strike(Qt::Key_Insert);
+    EXPECT_EQ(engine().text(engine().s.stack.Xreg), "1.4142135623731");
+    tab(2);
+    strike(Qt::Key_Home);
+    EXPECT_EQ(widget(form().lstStack).meaning(), "1 5.09e+00");
+    // One result a key.
+    const std::vector<std::string> told{"12.60", "\xC3\xB7 3.60", "\xE2\x88\x9Ax 1.41", "X 5.09", "Lastx 1.41"};
+    EXPECT_EQ(heard, told);
+}
+
 TEST_F(WindowWalk, ARowIsChosenAndRecalled) {
     typeNumbers();
     tab(2);

@@ -48,6 +48,13 @@ void drawKey(QPainter& painter, const QStyleOption& option) {
     box(painter, option.rect, face, enterPresses ? theme.accent : theme.keyEdge, enterPresses ? 2.0 : 1.0);
 }
 
+/// The frame stands below its heading.
+void drawGroup(QPainter& painter, const QStyleOption& option, int indicator) {
+    constexpr int kGap = 3;
+    const int heading = std::max(indicator, option.fontMetrics.height()) + kGap;
+    box(painter, option.rect.adjusted(0, heading, 0, 0), Qt::transparent, themeOf(option).keyEdge);
+}
+
 void drawMark(QPainter& painter, const QStyleOption& option, bool round) {
     const Theme& theme = themeOf(option);
     const bool enabled = (option.state & QStyle::State_Enabled) != 0;
@@ -101,7 +108,7 @@ void PlainStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             drawMark(*painter, *option, false);
             break;
         case PE_FrameGroupBox:
-            box(*painter, option->rect, Qt::transparent, themeOf(*option).keyEdge);
+            drawGroup(*painter, *option, pixelMetric(PM_ExclusiveIndicatorHeight, option, widget));
             break;
         case PE_Frame:
             box(*painter, option->rect, Qt::transparent, themeOf(*option).fieldEdge);

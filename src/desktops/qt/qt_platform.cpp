@@ -167,6 +167,9 @@ void QtPlatform::showDialog(Form& dialog) {
     if (standIn_ != nullptr) {
         return standIn_->showDialog(dialog);
     }
+    if (beforeDialog) {
+        beforeDialog();
+    }
     refresh();
     runDialog(*this, dialog, [&] { runWindowOf(dialog); });
 }

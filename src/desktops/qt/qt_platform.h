@@ -27,6 +27,8 @@ public:
     /// Shows what has changed in the main form; called before a box opens and while a program runs,
     /// when no handler ends that would show it.
     std::function<void()> showChanges;
+    /// Runs before a dialog opens: the window of a calculator that starts is not there yet.
+    std::function<void()> beforeDialog;
     /// Shows the pages of help.
     HelpDesk help;
 
