@@ -44,6 +44,11 @@ TEST(ConvertLines, TheOtherUnitDecidesWhatANameIs) {
     EXPECT_EQ(converted("1 min ml").substr(0, 6), "0.0616");
 }
 
+TEST(ConvertLines, CapitalsDecideOnlyAmongUnitsThatConvert) {
+    EXPECT_EQ(converted("1 A HA"), "0.01") << "ampere and are; no unit is written HA";
+    EXPECT_EQ(converted("5 A SF"), "5381.95520835486") << "square feet in five ares";
+}
+
 TEST(ConvertLines, WhatDoesNotDecideIsListed) {
     const std::string message = converted("1 ls m");
     EXPECT_NE(message.find("link(s) (Length)"), std::string::npos) << message;

@@ -129,6 +129,19 @@ TEST_F(QuizKeys, TellsTheScoreAfterTenQuestions) {
     EXPECT_EQ(line(2), "Correct Answers!     19") << "counted until the end";
 }
 
+TEST_F(QuizKeys, NoneRightIsANoughtWithoutDecimals) {
+    bank(kQuizKey);
+    answer("1");
+    const auto before = tape().size();
+    for (int i = 0; i < 10; ++i) {
+        answer("3");
+    }
+    const auto lines = tape();
+    EXPECT_GT(lines.size(), before);
+    EXPECT_EQ(line(2), "Correct Answers!      0");
+    EXPECT_EQ(line(1), "Number(s) wrong :(   10");
+}
+
 TEST_F(QuizKeys, EnterAnswersAndAPressWithoutANumberDoesNothing) {
     startWith20();
     const auto lines = tape().size();
