@@ -163,7 +163,8 @@ void ConversionKeys::save() const {
     if (empty && !std::filesystem::exists(calc.AppDataDir / kFile, ignored)) {
         return;
     }
-    saveOrReport(calc, "mnuSave", calc.AppDataDir / kFile, [this] { return conversionFileText(memory); });
+    saveOrReport(calc, "mnuSave", calc.AppDataDir / kFile,
+                 [this](WholeFile& file) { file.write(conversionFileText(memory)); });
 }
 
 void ConversionKeys::convertWith(const ConversionTable& table, const ConversionChoice& choice, Gate gate) {

@@ -257,15 +257,15 @@ void MemoryRegisters::mnuSaveMem_Click() {
     const char decimal = calc.s.format.DecimalChar;
     auto all = lines();
     tellLeftOut(calc, "Save Memory Registers", leaveOutUnheld(all, decimal));
-    const auto text = [&] {
-        std::string file;
+    const auto fill = [&](WholeFile& file) {
+        std::string text;
         for (const RegisterLine& line : all) {
-            file += registerLine(line, decimal) + "\n";
+            text += registerLine(line, decimal) + "\n";
         }
-        checkReadsBack(all, file, decimal);
-        return file;
+        checkReadsBack(all, text, decimal);
+        file.write(text);
     };
-    if (saveOrReport(calc, "mnuSaveMem_Click", *path, text) && askForDefaultName(calc, *path)) {
+    if (saveOrReport(calc, "mnuSaveMem_Click", *path, fill) && askForDefaultName(calc, *path)) {
         rememberFileName(calc, settings, DefaultName::Registers, *path);
     }
 }
@@ -281,7 +281,8 @@ void MemoryRegisters::mnuRetMem_Click() {
         calc.message(BoxKind::Notice, "Retrieve Registers Error!", retrievalMessage(failure));
     };
     goOn(report, [&] {
-        const std::string text = onFile([&] { return readWhole(*path); });
+        constexpr std::size_t kLargest = std::size_t{1} << 20;
+        const std::string text = onFile([&] { return readWhole(*path, kLargest); });
         const auto rows = splitLines(text);
         if (rows.size() != kBankKeys) {
             throw Failure{FailureNumber::DamagedFile};

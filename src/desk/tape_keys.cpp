@@ -11,6 +11,7 @@
 #include "records/settings_file.h"
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -79,31 +80,29 @@ TapeFileContent TapeKeys::present(TapeFileKind kind) const {
     for (int element = 1; element < s.stack.StackPtr; ++element) {
         content.stack.push_back(s.stack.slot(element));
     }
-    content.fillers = calc.tape.fillers();
-    for (std::size_t row = 0; row < calc.tape.count(); ++row) {
-        content.lines.push_back(calc.tape.row(row));
-        if (row >= static_cast<std::size_t>(content.fillers)) {
-            content.values.push_back(calc.tape.value(row));
-        }
-    }
+    content.tape = calc.tape;
     return content;
 }
 
 void TapeKeys::saveTo(const std::filesystem::path& path) {
     const char decimal = calc.s.format.DecimalChar;
     TapeFileContent content = present(calc.s.files.UndoKind);
-    if (calc.s.files.UndoKind != TapeFileKind::SavedByUser) {
-        keepForUndo(content);
+    const bool byUser = content.kind == TapeFileKind::SavedByUser;
+    if (!byUser) {
+        cleared_ = content;
+        hasReset_ = true;
     }
     const auto leftOut = leaveOutUnheld(content, decimal);
-    if (calc.s.files.UndoKind == TapeFileKind::SavedByUser) {
+    if (byUser) {
         tellLeftOut(calc, "Save Running Tape", leftOut);
     }
-    saveOrReport(calc, "mnuSaveTape_Click", path, [&] {
-        std::string text = formatTapeFile(content, decimal);
-        checkReadsBack(content, text, decimal);
-        return text;
+    const bool saved = saveOrReport(calc, "mnuSaveTape_Click", path, [&](WholeFile& file) {
+        writeTapeFile(content, decimal, [&](std::string_view line) { file.write(line); });
+        checkReadsBack(content, file.written(), decimal);
     });
+    if (!byUser && saved) {
+        leaveToUndoFile();
+    }
 }
 
 void TapeKeys::mnuSaveTape_Click() {
@@ -124,15 +123,13 @@ void TapeKeys::mnuSaveTape_Click() {
     s.files.UndoKind = TapeFileKind::None;
 }
 
-// What Reset clears is kept in memory, too, so that no full disk and no file of another calculator
-// comes between; the file serves the next start. A tape too long to be kept twice lies in the file.
-void TapeKeys::keepForUndo(const TapeFileContent& content) {
-    constexpr std::size_t kMostLines = 1'000'000;
-    cleared_.reset();
-    if (content.lines.size() <= kMostLines) {
-        cleared_ = content;
+// What Reset clears is kept in memory, so that no full disk and no file of another calculator comes
+// between; the file serves the next start. What takes much room beside the next tape lies in the file alone.
+void TapeKeys::leaveToUndoFile() {
+    constexpr std::size_t kMostBytes = std::size_t{128} << 20U;
+    if (cleared_->tape.bytes() + cleared_->stack.size() * sizeof(ValueCell) > kMostBytes) {
+        cleared_.reset();
     }
-    hasReset_ = true;
 }
 
 void TapeKeys::noteUndoFile() {
@@ -193,8 +190,8 @@ void TapeKeys::mnuTape_Click() {
 }
 
 void TapeKeys::retrieve(const std::filesystem::path& path) {
-    const std::string text = onFile([&] { return readWhole(path); });
-    restore(parseTapeFile(text, calc.s.format.DecimalChar));
+    const auto file = onFile([&] { return std::make_unique<FileBytes>(path); });
+    restore(readTapeFile(*file, calc.s.format.DecimalChar));
 }
 
 void TapeKeys::restore(const TapeFileContent& content) {
@@ -227,13 +224,8 @@ void TapeKeys::take(const TapeFileContent& content) {
     // What was left below an empty stack is still the Y that is shown, and what Y is for every key.
     const ValueCell& below = s.stack.depth() == 0 ? s.stack.Xreg : s.stack.Yreg;
     s.stack.Stack.front() = s.stack.depth() > 1 || below == ValueCell::zero() ? ValueCell{} : below;
-    calc.tape.clear(0);
-    for (std::size_t row = 0; row < content.lines.size(); ++row) {
-        const auto fillers = static_cast<std::size_t>(content.fillers);
-        calc.tape.add(content.lines[row], row < fillers ? ValueCell{} : content.values[row - fillers]);
-    }
-    calc.tape.setFillers(content.fillers);
-    const bool full = content.fillers == 0 && content.lines.size() > static_cast<std::size_t>(s.window.TapeRows);
+    calc.tape.take(content.tape);
+    const bool full = calc.tape.fillers() == 0 && calc.tape.count() > static_cast<std::size_t>(s.window.TapeRows);
     calc.form.lstDisplayReg.place.width = full ? kWideTape : kNarrowTape;
     calc.stackList.refresh();
     calc.commit.ShowSmallRegs();

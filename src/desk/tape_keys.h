@@ -45,7 +45,7 @@ private:
     [[nodiscard]] bool mayReplaceAll();
     void retrieveOrReport(const std::filesystem::path& path);
     void restore(const TapeFileContent& content);
-    void keepForUndo(const TapeFileContent& content);
+    void leaveToUndoFile();
     void undo();
     [[nodiscard]] TapeFileContent present(TapeFileKind kind) const;
     void take(const TapeFileContent& content);

@@ -34,7 +34,7 @@ void Commit::commit(Manner manner) {
     }
     wake();
     EngineState& s = calc.s;
-    s.stack.makeRoom(s.stack.StackPtr);
+    s.stack.makeRoom(placeOfX(manner.fromEntry));
     s.CurrentProc = "cmdEnter";
     s.entry.BaseTagDue = false;
     if (s.stack.Xreg.isEmptyText() && s.stack.depth() > 0) {
@@ -54,6 +54,12 @@ void Commit::commit(Manner manner) {
     if (manner.tapeLine) {
         showAndFinish(manner, savedLastX);
     }
+}
+
+// An open entry goes up by one, an X that is given replaces the top, and an empty line doubles it.
+int Commit::placeOfX(bool fromEntry) const {
+    const bool copiesX = fromEntry && calc.form.txtXreg.text.empty();
+    return calc.s.stack.StackPtr - (calc.s.entry.EntryOpen ? 0 : 1) + (copiesX ? 1 : 0);
 }
 
 void Commit::readEntry(Manner manner, ValueCell& savedLastX) {
@@ -183,6 +189,7 @@ void Commit::onFailure(const Failure& failure) {
 }
 
 void Commit::pushRecalled() {
+    calc.s.stack.makeRoom(calc.s.stack.StackPtr);
     calc.s.stack.StackPtr -= 1;
     calc.form.setFocus(calc.form.cmdEnter);
     calc.s.entry.EntryOpen = true;

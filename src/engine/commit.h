@@ -109,6 +109,7 @@ private:
         bool keepText = false;
     };
     void commit(Manner manner);
+    [[nodiscard]] int placeOfX(bool fromEntry) const;
     [[nodiscard]] bool commitQuietly(bool fromEntry);
     void readEntry(Manner manner, ValueCell& savedLastX);
     [[nodiscard]] bool fitsBesideLabel(double number) const;

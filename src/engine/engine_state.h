@@ -18,6 +18,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -70,6 +71,10 @@ enum class TapeFileKind : std::uint8_t {
 inline constexpr const char* kNoMeaning = "XXX";    ///< this modifier has no meaning for the key
 inline constexpr const char* kNothingDone = "ZZZ";  ///< nothing to commit
 
+/// Most elements of the stack: a program that pushes without end stops here, long before the machine has no memory
+/// for anything else.
+inline constexpr int kMostElements = 1 << 20;
+
 /// Registers X and Y, last x, and the stack.
 struct StackState {
     ValueCell Xreg;
@@ -93,8 +98,11 @@ struct StackState {
                !Yreg.isText() && (cell - 1)->isNumberOrEmpty();
     }
     /// Makes slots for a commit at `place`: a recalled value goes up by two, over the X that is there,
-    /// with a free slot above it.
+    /// with a free slot above it. Raises std::bad_alloc for one element too many; nothing has changed then.
     void makeRoom(int place) {
+        if (place > kMostElements) {
+            throw std::bad_alloc{};
+        }
         const auto wanted = static_cast<std::size_t>(place) + 3;
         if (Stack.size() < wanted) {
             Stack.resize(wanted);

@@ -26,41 +26,48 @@ void Tape::addBlock() {
     if (blocks_.size() >= kMostBlocks || (textBytes_ > kMostTextBytes && blocks_.size() > 1)) {
         giveWay();
     } else {
-        // Not filled with zeros: each line is written before it is read.
-        blocks_.push_back(std::make_unique_for_overwrite<Block>());
+        blocks_.grow();
     }
-    last_ = blocks_.back().get();
     place_ = 0;
+}
+
+void Tape::take(const Tape& other) {
+    const std::uint64_t seen = std::max(revision_, other.revision_);
+    *this = other;
+    revision_ = seen + 1;
 }
 
 // The oldest block becomes the newest.
 void Tape::giveWay() {
+    const std::size_t bytes = blocks_[0].textBytes;
+    blocks_.turn();
+    blocks_.last().texts = {};
+    blocks_.last().textBytes = 0;
+    textBytes_ -= bytes;
     const std::uint64_t next = first_ + kBlock;
     gone_ += next - std::max(first_, dropped_);
     first_ = next;
     dropped_ = std::max(dropped_, next);
     longTexts_.erase(longTexts_.begin(), longTexts_.lower_bound(next));
-    textBytes_ -= blocks_.front()->textBytes;
-    std::rotate(blocks_.begin(), blocks_.begin() + 1, blocks_.end());
-    blocks_.back()->texts = {};
-    blocks_.back()->textBytes = 0;
 }
 
 void Tape::add(std::string_view text, const ValueCell& value) {
+    // What finds no memory is found out before the line counts.
     makePlace();
-    Block& block = append();
-    block.number[place_] = static_cast<double>(block.texts.size());
-    block.style[place_] = kText;
-    ++place_;
-    Text& line = block.texts.emplace_back();
+    Text line;
     if (text.size() <= kTapeWidth) {
         std::copy(text.begin(), text.end(), line.text.begin());
         line.length = static_cast<std::uint8_t>(text.size());
     } else {
         line.length = kLong;
-        longTexts_.emplace(added_ - 1, text);
+        longTexts_.insert_or_assign(added_, std::string(text));
     }
     line.value = value;
+    blocks_.last().texts.push_back(line);
+    Block& block = append();
+    block.number[place_] = static_cast<double>(block.texts.size() - 1);
+    block.style[place_] = kText;
+    ++place_;
     // A text lies in a block of its own with its count; so does one that is longer than a line.
     constexpr std::size_t kAround = 64;
     const std::size_t bytes = sizeof(Text) + (value.isText() ? value.textView().size() + kAround : 0) +

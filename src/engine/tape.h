@@ -20,6 +20,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tallyforge {
@@ -38,6 +39,50 @@ inline constexpr std::size_t kPackedLooks = 128;
             .digits = look >> 2 & 15,
             .decimal = (look >> 6 & 1) != 0 ? ',' : '.'};
 }
+
+/// Values side by side of which only the last is written; copies of the row share all others.
+template <typename Block>
+class SharedBlocks {
+public:
+    SharedBlocks() = default;
+    SharedBlocks(const SharedBlocks& other) : all_(other.all_) { ownLast(); }
+    SharedBlocks(SharedBlocks&& other) noexcept
+        : all_(std::move(other.all_)), last_(std::exchange(other.last_, nullptr)) {}
+    ~SharedBlocks() = default;
+    SharedBlocks& operator=(SharedBlocks other) noexcept {
+        std::swap(all_, other.all_);
+        std::swap(last_, other.last_);
+        return *this;
+    }
+    [[nodiscard]] std::size_t size() const { return all_.size(); }
+    [[nodiscard]] const Block& operator[](std::size_t index) const { return *all_[index]; }
+    [[nodiscard]] Block& last() { return *last_; }
+    void clear() { *this = SharedBlocks{}; }
+    /// Appends a block that is not filled with zeros: each line is written before it is read.
+    void grow() {
+        all_.push_back(std::make_shared_for_overwrite<Block>());
+        last_ = all_.back().get();
+    }
+    /// The first block goes, and makes the new last one where nobody else has it.
+    void turn() {
+        if (all_.front().use_count() != 1) {
+            all_.front() = std::make_shared_for_overwrite<Block>();
+        }
+        std::rotate(all_.begin(), all_.begin() + 1, all_.end());
+        last_ = all_.back().get();
+    }
+
+private:
+    void ownLast() {
+        if (!all_.empty()) {
+            all_.back() = std::make_shared<Block>(*all_.back());
+            last_ = all_.back().get();
+        }
+    }
+
+    std::vector<std::shared_ptr<Block>> all_;
+    Block* last_ = nullptr;
+};
 
 /// Number under which the tape knows a short label; 0 for the empty one.
 enum class LabelId : std::uint16_t { None = 0 };
@@ -108,6 +153,10 @@ public:
     [[nodiscard]] ValueCell value(std::size_t index) const;
     /// For a retrieval: rows read from a file, the first `fillers` of them filler lines.
     void setFillers(int fillers) { fillers_ = fillers; }
+    /// Takes the lines of another tape. A copy of a tape shares what is written, so that it costs little.
+    void take(const Tape& other);
+    /// Bytes that the lines take, about.
+    [[nodiscard]] std::size_t bytes() const { return blocks_.size() * sizeof(Block) + textBytes_; }
 
     /// Lines that have given way to newer ones. The first line tells how many, in place of its own
     /// text and value.
@@ -151,16 +200,15 @@ private:
     Block& append() {
         selected_ = added_++;
         ++revision_;
-        return *last_;
+        return blocks_.last();
     }
     void addBlock();
     void giveWay();
-    [[nodiscard]] const Block& blockOf(std::uint64_t line) const { return *blocks_[(line - first_) / kBlock]; }
+    [[nodiscard]] const Block& blockOf(std::uint64_t line) const { return blocks_[(line - first_) / kBlock]; }
     [[nodiscard]] const Text* textOf(std::uint64_t line) const;
 
     // Lines are numbered as they are added; those below dropped_ are gone.
-    std::vector<std::unique_ptr<Block>> blocks_;
-    Block* last_ = nullptr;
+    SharedBlocks<Block> blocks_;
     std::size_t place_ = kBlock;  ///< of the next line in the last block
     std::uint64_t first_ = 0;     ///< number of the first line in the first block
     std::uint64_t added_ = 0;

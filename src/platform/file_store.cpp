@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <utility>
 
 namespace tallyforge {
 
@@ -23,9 +24,9 @@ public:
     Descriptor& operator=(const Descriptor&) = delete;
     [[nodiscard]] int number() const { return number_; }
     [[nodiscard]] bool ok() const { return number_ >= 0; }
+    [[nodiscard]] int give() { return std::exchange(number_, -1); }
     bool close() {
-        const int open = number_;
-        number_ = -1;
+        const int open = give();
         return open < 0 || ::close(open) == 0;
     }
 
@@ -106,26 +107,97 @@ mode_t permissionsFor(const std::filesystem::path& path) {
     return kNewFile & ~mask;
 }
 
-}  // namespace
-
-void writeWhole(const std::filesystem::path& path, std::string_view bytes) {
-    const std::filesystem::path target = behindLinks(path);
-    const mode_t permissions = permissionsFor(target);
-    std::string temporary = target.string() + std::string(kTemporary) + "XXXXXX";
-    Descriptor file{::mkostemp(temporary.data(), O_CLOEXEC)};
+/// A plain file, open for reading. Without waiting: a pipe in the place of a file would keep the calculator for ever.
+int openToRead(const std::filesystem::path& path) {
+    Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
     if (!file.ok()) {
         throw FileError{problemOf(errno)};
     }
-    // A file system without permissions refuses, and the bytes count for more.
-    static_cast<void>(::fchmod(file.number(), permissions));
-    const bool written = writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 && file.close() &&
-                         std::rename(temporary.c_str(), target.c_str()) == 0;
-    if (!written) {
-        const FileProblem problem = problemOf(errno);
-        ::unlink(temporary.c_str());
-        throw FileError{problem};
+    struct stat opened {};
+    if (::fstat(file.number(), &opened) != 0 || !S_ISREG(opened.st_mode)) {
+        throw FileError{FileProblem::NoAccess};
     }
-    flushFolder(target.has_parent_path() ? target.parent_path() : std::filesystem::path("."));
+    return file.give();
+}
+
+}  // namespace
+
+std::size_t TextBytes::read(std::uint64_t at, std::span<char> into) const {
+    return at < text_.size() ? text_.copy(into.data(), into.size(), at) : 0;
+}
+
+FileBytes::FileBytes(const std::filesystem::path& path) : file_(openToRead(path)) {}
+
+FileBytes::~FileBytes() {
+    ::close(file_);
+}
+
+std::size_t FileBytes::read(std::uint64_t at, std::span<char> into) const {
+    for (;;) {
+        const ssize_t got = ::pread(file_, into.data(), into.size(), static_cast<off_t>(at));
+        if (got >= 0) {
+            return static_cast<std::size_t>(got);
+        }
+        if (errno != EINTR) {
+            throw FileError{problemOf(errno)};
+        }
+    }
+}
+
+WholeFile::WholeFile(const std::filesystem::path& path) : target_(behindLinks(path)) {
+    const mode_t permissions = permissionsFor(target_);
+    temporary_ = target_.string() + std::string(kTemporary) + "XXXXXX";
+    file_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
+    if (file_ < 0) {
+        throw FileError{problemOf(errno)};
+    }
+    // A file system without permissions refuses, and the bytes count for more.
+    static_cast<void>(::fchmod(file_, permissions));
+}
+
+WholeFile::~WholeFile() {
+    if (file_ >= 0) {
+        ::close(file_);
+    }
+    if (!temporary_.empty()) {
+        ::unlink(temporary_.c_str());
+    }
+}
+
+void WholeFile::write(std::string_view bytes) {
+    constexpr std::size_t kPiece = std::size_t{256} * 1024;
+    pending_ += bytes;
+    if (pending_.size() >= kPiece) {
+        flushPending();
+    }
+}
+
+void WholeFile::flushPending() {
+    if (!writeAll(file_, pending_)) {
+        throw FileError{problemOf(errno)};
+    }
+    pending_.clear();
+}
+
+FileBytes WholeFile::written() {
+    flushPending();
+    return FileBytes{temporary_};
+}
+
+void WholeFile::replace() {
+    flushPending();
+    Descriptor file{std::exchange(file_, -1)};
+    if (::fsync(file.number()) != 0 || !file.close() || std::rename(temporary_.c_str(), target_.c_str()) != 0) {
+        throw FileError{problemOf(errno)};
+    }
+    temporary_.clear();
+    flushFolder(target_.has_parent_path() ? target_.parent_path() : std::filesystem::path("."));
+}
+
+void writeWhole(const std::filesystem::path& path, std::string_view bytes) {
+    WholeFile file(path);
+    file.write(bytes);
+    file.replace();
 }
 
 GrowingFile::GrowingFile(const std::filesystem::path& path) {
@@ -184,15 +256,7 @@ FileLock::~FileLock() {
 }
 
 std::string readWhole(const std::filesystem::path& path, std::size_t limit) {
-    // Without waiting: a pipe in the place of a file would keep the calculator for ever.
-    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
-    if (!file.ok()) {
-        throw FileError{problemOf(errno)};
-    }
-    struct stat opened {};
-    if (::fstat(file.number(), &opened) != 0 || !S_ISREG(opened.st_mode)) {
-        throw FileError{FileProblem::NoAccess};
-    }
+    const Descriptor file{openToRead(path)};
     constexpr std::size_t kBlock = 65536;
     std::string bytes;
     for (;;) {

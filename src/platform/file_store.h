@@ -5,8 +5,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -27,9 +29,64 @@ private:
 /// Largest file that readWhole takes, bytes.
 inline constexpr std::size_t kLargestFile = std::size_t{512} * 1024 * 1024;
 
-/// Writes `bytes` to a temporary beside `path`, flushes it and renames it over `path`; the folder
-/// is flushed, too. The file keeps the permissions of the old one, and a link to it stays. On
-/// failure the old file is whole and the temporary gone. Raises FileError.
+/// Bytes at their places, of a file or a text that may be larger than what is kept of it in memory.
+class Bytes {
+public:
+    virtual ~Bytes() = default;
+    /// Reads from place `at` on, as many as there are and fit; how many, 0 at the end. Raises FileError.
+    [[nodiscard]] virtual std::size_t read(std::uint64_t at, std::span<char> into) const = 0;
+};
+
+class TextBytes : public Bytes {
+public:
+    explicit TextBytes(std::string_view text) : text_(text) {}
+    [[nodiscard]] std::size_t read(std::uint64_t at, std::span<char> into) const override;
+
+private:
+    std::string_view text_;
+};
+
+/// An open file. What is no plain file is refused, and a pipe is not waited for.
+class FileBytes : public Bytes {
+public:
+    /// Raises FileError.
+    explicit FileBytes(const std::filesystem::path& path);
+    ~FileBytes() override;
+    FileBytes(const FileBytes&) = delete;
+    FileBytes& operator=(const FileBytes&) = delete;
+    [[nodiscard]] std::size_t read(std::uint64_t at, std::span<char> into) const override;
+
+private:
+    int file_;
+};
+
+/// A file that is written piece by piece to a temporary beside `path`, and takes the place of the
+/// old file when it is whole. Until then, and where it never is, the old file stands; the temporary
+/// goes with this object. The file keeps the permissions of the old one, and a link to it stays.
+class WholeFile {
+public:
+    /// Raises FileError.
+    explicit WholeFile(const std::filesystem::path& path);
+    ~WholeFile();
+    WholeFile(const WholeFile&) = delete;
+    WholeFile& operator=(const WholeFile&) = delete;
+    /// Raises FileError.
+    void write(std::string_view bytes);
+    /// What has been written, to be read back. Raises FileError.
+    [[nodiscard]] FileBytes written();
+    /// Flushes the file and renames it over `path`; the folder is flushed, too. Raises FileError.
+    void replace();
+
+private:
+    void flushPending();
+
+    std::filesystem::path target_;
+    std::string temporary_;
+    std::string pending_;
+    int file_ = -1;
+};
+
+/// Writes `bytes` as a WholeFile. Raises FileError.
 void writeWhole(const std::filesystem::path& path, std::string_view bytes);
 
 /// A file that grows by what is written, each piece handed to the system at once. What is no plain

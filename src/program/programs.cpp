@@ -4,12 +4,14 @@
 #include "engine/engine.h"
 #include "platform/file_store.h"
 
+#include <new>
 #include <utility>
 
 namespace tallyforge {
 
 namespace {
 
+constexpr int kOutOfMemory = 7;
 constexpr std::size_t kLargestProgram = std::size_t{64} * 1024 * 1024;
 
 /// Keys that run a section, "init" apart.
@@ -32,7 +34,11 @@ public:
         calc.commit.wake();
         calc.unwatched = watched_;
         if (!calc.unwatched) {
-            calc.showPending();
+            try {
+                calc.showPending();
+            } catch (const std::bad_alloc&) {
+                // The marks and fields come with the next key.
+            }
         }
     }
     Running(const Running&) = delete;
@@ -111,7 +117,6 @@ std::shared_ptr<ProgramText> Programs::readProgram() {
         return text_;
     } catch (const FileError& error) {
         if (error.problem() == FileProblem::TooLarge) {
-            constexpr int kOutOfMemory = 7;
             throw ProgramFault(kOutOfMemory);
         }
         if (error.problem() == FileProblem::NotFound) {
@@ -150,6 +155,10 @@ void Programs::runSection(int index, const std::string& label) {
         report(index, fault.number, fault.text, line());
     } catch (const Failure& failure) {
         report(index, failure.code(), {}, line());
+    } catch (const std::bad_alloc&) {
+        calc.s.delivery = {};
+        calc.closeEmptyEntry();
+        report(index, kOutOfMemory, {}, line());
     }
     if (run) {
         run->restoreFormat();

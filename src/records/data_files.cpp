@@ -151,11 +151,16 @@ void tellLeftOut(Engine& calc, std::string_view title, const std::vector<std::st
 }
 
 bool saveOrReport(Engine& calc, std::string_view procedure, const std::filesystem::path& path,
-                  const std::function<std::string()>& makeText) {
+                  const std::function<void(WholeFile&)>& fill) {
     const auto report = [&](const Failure& failure) {
         calc.reportIn(procedure, failure.code(), description(failure.number()));
     };
-    return goOn(report, [&] { onFile([&] { writeWhole(path, makeText()); }); });
+    const auto write = [&] {
+        WholeFile file(path);
+        fill(file);
+        file.replace();
+    };
+    return goOn(report, [&] { onFile(write); });
 }
 
 std::string retrievalMessage(const Failure& failure) {

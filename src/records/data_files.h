@@ -5,6 +5,7 @@
 #pragma once
 
 #include "numbers/failure.h"
+#include "platform/file_store.h"
 
 #include <filesystem>
 #include <functional>
@@ -46,10 +47,10 @@ void rememberFileName(Engine& calc, SettingsFile& settings, DefaultName which, c
 /// Tells the user what a file that is about to be written cannot hold; nothing for an empty list.
 void tellLeftOut(Engine& calc, std::string_view title, const std::vector<std::string>& places);
 
-/// Writes the text that `makeText` gives, which may raise as well; a failure is reported as one of
-/// `procedure`. Returns whether the file was written.
+/// Writes what `fill` puts into the file, which may raise as well; a failure is reported as one of
+/// `procedure`, and the old file stands. Returns whether the file was written.
 bool saveOrReport(Engine& calc, std::string_view procedure, const std::filesystem::path& path,
-                  const std::function<std::string()>& makeText);
+                  const std::function<void(WholeFile&)>& fill);
 
 /// "File not found!" or "File error #" and the number.
 [[nodiscard]] std::string retrievalMessage(const Failure& failure);

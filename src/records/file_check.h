@@ -14,9 +14,7 @@
 
 namespace tallyforge {
 
-/// Whether a value that stands in a line of its own comes back from it as the same plain text.
-[[nodiscard]] bool fileHolds(const ValueCell& value, char decimal);
-/// The same for the line of a register. A register that is 0 comes back empty.
+/// Whether the line of a register comes back as the same plain text. A register that is 0 comes back empty.
 [[nodiscard]] bool fileHolds(const RegisterLine& line, char decimal);
 
 /// Puts nothing (0 on the stack, an empty register) in the place of what a file cannot hold, and
@@ -24,8 +22,8 @@ namespace tallyforge {
 [[nodiscard]] std::vector<std::string> leaveOutUnheld(std::span<RegisterLine> registers, char decimal);
 [[nodiscard]] std::vector<std::string> leaveOutUnheld(TapeFileContent& content, char decimal);
 
-/// Reads `text` back; raises 54 where it is not `content` again.
-void checkReadsBack(const TapeFileContent& content, std::string_view text, char decimal);
+/// Reads what has been written of a file back; raises 54 where it is not `content` again.
+void checkReadsBack(const TapeFileContent& content, const Bytes& file, char decimal);
 /// The same for the lines of a register file.
 void checkReadsBack(std::span<const RegisterLine> registers, std::string_view text, char decimal);
 

@@ -3,6 +3,7 @@
 
 #include "numbers/failure.h"
 #include "numbers/number_format.h"
+#include "records/number_lines.h"
 
 #include <algorithm>
 #include <charconv>
@@ -14,6 +15,10 @@ namespace {
 
 constexpr std::string_view kMarker = "ZAK";
 constexpr std::size_t kNameWidth = 4;
+/// Filler lines that a tape has at most: a list has fewer rows.
+constexpr std::size_t kMostFillers = 100;
+/// Bytes that the texts of a stack may take together; a file that has more was not written here.
+constexpr std::size_t kMostStackText = std::size_t{128} << 20U;
 /// Most characters of a register's value: 66 are a word in binary digits, and a number from the clipboard may have
 /// more.
 constexpr std::size_t kLongestValue = 255;
@@ -37,89 +42,18 @@ int readCount(std::string_view text) {
     return count;
 }
 
-/// Takes lines one after the other; running out of them is damage.
-class Reader {
-public:
-    explicit Reader(const std::vector<std::string_view>& lines) : lines_(lines) {}
-    [[nodiscard]] std::string_view next() {
-        if (at_ >= lines_.size()) {
-            damaged();
-        }
-        return lines_[at_++];
-    }
-    [[nodiscard]] std::size_t left() const { return lines_.size() - at_; }
-    void back() { --at_; }
-
-private:
-    const std::vector<std::string_view>& lines_;
-    std::size_t at_ = 0;
-};
-
-TapeFileKind readHeader(Reader& reader) {
-    const std::string_view header = reader.next();
-    if (header == "1") {
-        return TapeFileKind::Registers;
-    }
-    if (header == "2") {
-        return TapeFileKind::StackAndTape;
-    }
-    if (header == "3") {
-        return TapeFileKind::Everything;
-    }
-    if (header != "255") {
-        // A file without a header starts with its first register.
-        reader.back();
-    }
-    return TapeFileKind::SavedByUser;
-}
-
-void readStack(Reader& reader, TapeFileContent& content, char decimal) {
-    content.LastX = readValue(reader.next(), decimal);
-    content.Yreg = readValue(reader.next(), decimal);
-    content.StackPtr = readCount(reader.next());
-    content.Xreg = readValue(reader.next(), decimal);
-    if (content.StackPtr < 1 || static_cast<std::size_t>(content.StackPtr) > reader.left()) {
-        damaged();
-    }
-    for (int element = 1; element < content.StackPtr; ++element) {
-        content.stack.push_back(readValue(reader.next(), decimal));
-    }
-    if (!reader.next().empty()) {
-        damaged();
-    }
-}
-
-void readTape(Reader& reader, TapeFileContent& content, char decimal) {
-    for (std::string_view line = reader.next(); line != kMarker; line = reader.next()) {
-        content.lines.emplace_back(line);
-    }
-    content.fillers = readCount(reader.next());
-    if (static_cast<std::size_t>(content.fillers) > content.lines.size()) {
-        damaged();
-    }
-    const std::size_t shown = content.lines.size() - static_cast<std::size_t>(content.fillers);
-    if (reader.left() < content.lines.size()) {
-        damaged();
-    }
-    // The first value belongs to no line.
-    for (std::size_t i = 0; reader.left() > 0; ++i) {
-        ValueCell value = readValue(reader.next(), decimal);
-        if (i > 0 && i <= shown) {
-            content.values.push_back(std::move(value));
-        }
-    }
-    content.values.resize(shown);
-}
-
 /// In the registers section a comma ends the value, so its decimal character is a point there.
 std::string withDecimal(std::string text, char from, char to) {
     std::replace(text.begin(), text.end(), from, to);
     return text;
 }
 
-void putLine(std::string& out, std::string_view line) {
-    out += line;
-    out += '\n';
+/// A line of the tape as it stands in a file: one that reads as the marker would end the section, and with a blank it
+/// looks the same; a line break would be two lines.
+std::string fileRow(std::string row) {
+    std::replace_if(
+        row.begin(), row.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return row == kMarker ? row + " " : row.substr(0, kLongestLine);
 }
 
 }  // namespace
@@ -184,60 +118,191 @@ RegisterLine parseRegisterLine(std::string_view line, char decimal) {
     return parsed;
 }
 
-std::string formatTapeFile(const TapeFileContent& content, char decimal) {
-    std::string out;
-    putLine(out, std::to_string(static_cast<int>(content.kind)));
+bool fileHolds(const ValueCell& value, char decimal) {
+    if (value.asDouble() != nullptr) {
+        return true;
+    }
+    const std::string line = printedValue(value, decimal);
+    return line.size() <= kLongestLine && line.find_first_of("\r\n") == line.npos &&
+           value.text(decimal) == readValue(line, decimal).text(decimal);
+}
+
+ValueCell heldByFile(const ValueCell& value, char decimal) {
+    return fileHolds(value, decimal) ? value : ValueCell::zero();
+}
+
+void writeTapeFile(const TapeFileContent& content, char decimal, const Write& write) {
+    const auto put = [&](std::string line) { write(line += '\n'); };
+    put(std::to_string(static_cast<int>(content.kind)));
     if (content.hasRegisters()) {
         for (const RegisterLine& line : content.registers) {
-            putLine(out, registerLine(line, decimal));
+            put(registerLine(line, decimal));
         }
     }
     if (!content.hasStack()) {
-        return out;
+        return;
     }
-    putLine(out, printedValue(content.LastX, decimal));
-    putLine(out, printedValue(content.Yreg, decimal));
-    putLine(out, " " + std::to_string(content.StackPtr) + " ");
-    putLine(out, printedValue(content.Xreg, decimal));
+    put(printedValue(content.LastX, decimal));
+    put(printedValue(content.Yreg, decimal));
+    put(" " + std::to_string(content.StackPtr) + " ");
+    put(printedValue(content.Xreg, decimal));
     for (const ValueCell& element : content.stack) {
-        putLine(out, printedValue(element, decimal));
+        put(printedValue(element, decimal));
     }
-    putLine(out, "");
-    for (const std::string& line : content.lines) {
-        // A line that reads as the marker would end the section; with a blank it looks the same.
-        putLine(out, line == kMarker ? std::string(kMarker) + " " : line);
+    put("");
+    const Tape& tape = content.tape;
+    for (std::size_t row = 0; row < tape.count(); ++row) {
+        put(fileRow(tape.row(row)));
     }
-    putLine(out, kMarker);
-    putLine(out, " " + std::to_string(content.fillers) + " ");
+    put(std::string(kMarker));
+    put(" " + std::to_string(tape.fillers()) + " ");
     // One value for each line of the list, the first of them behind no line; where no filler line
     // is left that would leave the last line without its own.
-    const std::size_t count = std::max(content.lines.size(), content.values.size() + 1);
-    for (std::size_t i = 0; i < count; ++i) {
-        const bool behindLine = i > 0 && i <= content.values.size();
-        putLine(out, behindLine ? printedValue(content.values[i - 1], decimal) : "");
+    const auto fillers = static_cast<std::size_t>(tape.fillers());
+    put("");
+    for (std::size_t row = fillers; row < tape.count(); ++row) {
+        put(printedValue(heldByFile(tape.value(row), decimal), decimal));
     }
+    for (std::size_t row = 1; row < fillers; ++row) {
+        put("");
+    }
+}
+
+TapeFileReader::TapeFileReader(const Bytes& bytes, char decimal)
+    : bytes_(bytes), decimal_(decimal), rows_(bytes), values_(bytes) {}
+
+TapeFileContent TapeFileReader::readHead() {
+    TapeFileContent content;
+    content.kind = readKind();
+    if (content.hasRegisters()) {
+        for (RegisterLine& line : content.registers) {
+            line = parseRegisterLine(rows_.need(), decimal_);
+        }
+    }
+    if (content.hasStack()) {
+        readStack(content);
+        findValues();
+    } else {
+        values_ = rows_;
+    }
+    if (lines_ == 0) {
+        readToTheEnd();
+    }
+    return content;
+}
+
+TapeFileKind TapeFileReader::readKind() {
+    const std::string_view header = rows_.need();
+    if (header == "1") {
+        return TapeFileKind::Registers;
+    }
+    if (header == "2") {
+        return TapeFileKind::StackAndTape;
+    }
+    if (header == "3") {
+        return TapeFileKind::Everything;
+    }
+    if (header != "255") {
+        // A file without a header starts with its first register.
+        rows_ = FileLines{bytes_};
+    }
+    return TapeFileKind::SavedByUser;
+}
+
+void TapeFileReader::readStack(TapeFileContent& content) {
+    content.LastX = readValue(rows_.need(), decimal_);
+    content.Yreg = readValue(rows_.need(), decimal_);
+    content.StackPtr = readCount(rows_.need());
+    content.Xreg = readValue(rows_.need(), decimal_);
+    if (content.StackPtr < 1 || content.StackPtr > kMostElements + 1) {
+        damaged();
+    }
+    std::size_t texts = 0;
+    for (int element = 1; element < content.StackPtr; ++element) {
+        content.stack.push_back(readValue(rows_.need(), decimal_));
+        texts += content.stack.back().textView().size();
+        if (texts > kMostStackText) {
+            damaged();
+        }
+    }
+    if (!rows_.need().empty()) {
+        damaged();
+    }
+}
+
+// The values lie behind all texts, so the file is read at two places at once.
+void TapeFileReader::findValues() {
+    values_ = FileLines{bytes_, rows_.place()};
+    while (values_.need() != kMarker) {
+        ++lines_;
+    }
+    fillers_ = static_cast<std::size_t>(readCount(values_.need()));
+    if (fillers_ > lines_ || fillers_ > kMostFillers) {
+        damaged();
+    }
+    if (lines_ > 0) {
+        // The first value belongs to no line.
+        static_cast<void>(values_.need());
+    }
+}
+
+bool TapeFileReader::next() {
+    if (at_ == lines_) {
+        return false;
+    }
+    text_ = rows_.need();
+    value_ = ValueCell{};
+    if (at_ >= fillers_) {
+        const auto row = values_.next();
+        // Where there is no filler line, a file may end without the value behind its last line.
+        if (!row && (fillers_ > 0 || at_ + 1 < lines_)) {
+            damaged();
+        }
+        value_ = row ? readValue(*row, decimal_) : ValueCell{};
+    }
+    if (++at_ == lines_) {
+        readToTheEnd();
+    }
+    return true;
+}
+
+// One value for each line, filler lines too; more of them are read for the end of the last.
+void TapeFileReader::readToTheEnd() {
+    std::size_t left = 0;
+    while (values_.next()) {
+        ++left;
+    }
+    if (fillers_ > 0 && left + 1 < fillers_) {
+        damaged();
+    }
+}
+
+TapeFileContent readTapeFile(const Bytes& bytes, char decimal) {
+    TapeFileReader reader(bytes, decimal);
+    TapeFileContent content = reader.readHead();
+    NumberLines numbers(decimal);
+    content.tape.clear(0);
+    while (reader.next()) {
+        const double* const number = reader.value().asDouble();
+        const NumberLine* const line = number != nullptr ? numbers.find(reader.text(), *number) : nullptr;
+        if (line != nullptr) {
+            content.tape.addNumber(line->look, line->label, *number);
+        } else {
+            content.tape.add(reader.text(), reader.value());
+        }
+    }
+    content.tape.setFillers(static_cast<int>(reader.fillers()));
+    return content;
+}
+
+std::string formatTapeFile(const TapeFileContent& content, char decimal) {
+    std::string out;
+    writeTapeFile(content, decimal, [&](std::string_view piece) { out += piece; });
     return out;
 }
 
 TapeFileContent parseTapeFile(std::string_view text, char decimal) {
-    if (!text.ends_with('\n')) {
-        // Every line is written with its end, so this file was cut.
-        damaged();
-    }
-    const std::vector<std::string_view> lines = splitLines(text);
-    Reader reader{lines};
-    TapeFileContent content;
-    content.kind = readHeader(reader);
-    if (content.hasRegisters()) {
-        for (RegisterLine& line : content.registers) {
-            line = parseRegisterLine(reader.next(), decimal);
-        }
-    }
-    if (content.hasStack()) {
-        readStack(reader, content, decimal);
-        readTape(reader, content, decimal);
-    }
-    return content;
+    return readTapeFile(TextBytes{text}, decimal);
 }
 
 }  // namespace tallyforge

@@ -229,6 +229,7 @@ void Calculator::start() {
 void Calculator::tellFailure(const std::exception& failure) {
     EngineState& s = engine_.s;
     s.delivery = {};
+    engine_.closeEmptyEntry();
     const bool memory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr;
     engine_.errorBox(BoxKind::Stop, memory ? "Error: there is not enough memory for that!" : "Error");
 }

@@ -89,18 +89,22 @@ std::string htmlHead(const std::string& title) {
 }  // namespace
 
 std::string exportedTape(const Engine& calc, ExportFormat format) {
+    std::string text;
+    exportTape(calc, format, [&](std::string_view piece) { text += piece; });
+    return text;
+}
+
+void exportTape(const Engine& calc, ExportFormat format, const std::function<void(std::string_view)>& write) {
     const std::string title = htmlText(
         toUnicode("Tallyforge Running Tape Display  --  " + calc.platform.shortDate(calc.platform.now()), Face::Arial));
     const char decimal = calc.s.format.DecimalChar;
-    std::string out = format == ExportFormat::Csv    ? "label,value,shown\r\n"
-                      : format == ExportFormat::Html ? htmlHead(title)
-                                                     : std::string{};
-    constexpr std::size_t kUsualLine = 48;
-    out.reserve(out.size() + calc.tape.lines() * kUsualLine);
+    write(format == ExportFormat::Csv    ? "label,value,shown\r\n"
+          : format == ExportFormat::Html ? htmlHead(title)
+                                         : std::string{});
     for (auto row = static_cast<std::size_t>(calc.tape.fillers()); row < calc.tape.count(); ++row) {
         const std::string line = calc.tape.row(row);
         if (format == ExportFormat::Text) {
-            out += unicode(line) + "\n";
+            write(unicode(line) + "\n");
             continue;
         }
         const TapeColumns columns = columnsOf(line);
@@ -109,13 +113,15 @@ std::string exportedTape(const Engine& calc, ExportFormat format) {
         const std::string shown = unicode(columns.value);
         const std::string exact = exactValue(calc.tape.value(row), decimal);
         if (format == ExportFormat::Csv) {
-            out += csvField(label) + "," + csvField(exact) + "," + csvField(shown) + "\r\n";
+            write(csvField(label) + "," + csvField(exact) + "," + csvField(shown) + "\r\n");
         } else {
-            out += "<tr><td>" + htmlText(label) + "</td><td><data value=\"" + htmlText(exact) + "\">" +
-                   htmlText(shown) + "</data></td></tr>\n";
+            write("<tr><td>" + htmlText(label) + "</td><td><data value=\"" + htmlText(exact) + "\">" + htmlText(shown) +
+                  "</data></td></tr>\n");
         }
     }
-    return format == ExportFormat::Html ? out + "</table>\n</body>\n</html>\n" : out;
+    if (format == ExportFormat::Html) {
+        write("</table>\n</body>\n</html>\n");
+    }
 }
 
 std::string TapeExport::complaintAbout(const std::filesystem::path& path) const {
@@ -165,7 +171,9 @@ void TapeExport::write(ExportFormat format) {
     calc.ClearOptKeys();
     calc.keypads().RepaintKeypad();
     if (const auto path = askForFile(std::string(names.extension))) {
-        saveOrReport(calc, names.procedure, *path, [&] { return exportedTape(calc, format); });
+        saveOrReport(calc, names.procedure, *path, [&](WholeFile& file) {
+            exportTape(calc, format, [&](std::string_view piece) { file.write(piece); });
+        });
     }
     calc.focusEntry();
 }

@@ -5,8 +5,10 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tallyforge {
 
@@ -20,6 +22,8 @@ enum class ExportFormat { Text, Csv, Html };
 ///         number of a base as it stands), and value as shown; quoted where RFC 4180 wants it.
 ///   Html: a page with a table of labels and values.
 [[nodiscard]] std::string exportedTape(const Engine& calc, ExportFormat format);
+/// The same in pieces, for a tape that is longer than a text in memory should be.
+void exportTape(const Engine& calc, ExportFormat format, const std::function<void(std::string_view)>& write);
 
 class TapeExport {
 public:

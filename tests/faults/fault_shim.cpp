@@ -129,6 +129,17 @@ ssize_t write(int file, const void* bytes, size_t count) {
     return next<ssize_t (*)(int, const void*, size_t)>("write")(file, bytes, count);
 }
 
+ssize_t pread(int file, void* bytes, size_t count, off_t at) {
+    if (calls().failsOn(file)) {
+        return errno == 0 ? 0 : -1;
+    }
+    return next<ssize_t (*)(int, void*, size_t, off_t)>("pread")(file, bytes, count, at);
+}
+
+ssize_t pread64(int file, void* bytes, size_t count, off_t at) {
+    return pread(file, bytes, count, at);
+}
+
 ssize_t read(int file, void* bytes, size_t count) {
     if (calls().failsOn(file)) {
         return -1;

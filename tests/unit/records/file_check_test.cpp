@@ -44,15 +44,17 @@ TEST(FileCheck, WhatIsLeftOutIsNamedAndTheRestStands) {
     content.Xreg = ValueCell{"a\nb"};
     content.StackPtr = 3;
     content.stack = {ValueCell{1.0}, ValueCell{"c\nd"}};
-    content.lines = {"1.00", "ZAK"};
-    content.values = {ValueCell{1.0}, ValueCell{"e\rf"}};
+    content.tape.clear(0);
+    content.tape.add("1.00", ValueCell{1.0});
+    content.tape.add("ZAK", ValueCell{"e\rf"});
     EXPECT_EQ(leaveOutUnheld(content, '.'),
               (std::vector<std::string>{"Register 3", "X", "stack element 2", "the value of tape line 2"}));
-    EXPECT_TRUE(leaveOutUnheld(content, '.').empty());
+    EXPECT_EQ(leaveOutUnheld(content, '.'), std::vector<std::string>{"the value of tape line 2"});
     const std::string text = formatTapeFile(content, '.');
-    EXPECT_NO_THROW(checkReadsBack(content, text, '.'));
+    EXPECT_NO_THROW(checkReadsBack(content, TextBytes{text}, '.'));
     const TapeFileContent read = parseTapeFile(text, '.');
-    EXPECT_EQ(read.lines.size(), 2U) << "a line that looks like the end of its section is a line";
+    EXPECT_EQ(read.tape.value(1).text('.'), "0");
+    EXPECT_EQ(read.tape.count(), 2U) << "a line that looks like the end of its section is a line";
     EXPECT_EQ(read.registers[12].value.text('.'), "2.5");
     EXPECT_EQ(read.stack[0].text('.'), "1");
 }
@@ -63,10 +65,10 @@ TEST(FileCheck, ATextThatIsNotTheContentIsRefused) {
     content.StackPtr = 2;
     content.stack = {ValueCell{1.5}};
     const std::string text = formatTapeFile(content, '.');
-    EXPECT_NO_THROW(checkReadsBack(content, text, '.'));
+    EXPECT_NO_THROW(checkReadsBack(content, TextBytes{text}, '.'));
     content.stack = {ValueCell{2.5}};
-    EXPECT_THROW(checkReadsBack(content, text, '.'), Failure);
-    EXPECT_THROW(checkReadsBack(content, text.substr(0, text.size() / 2), '.'), Failure);
+    EXPECT_THROW(checkReadsBack(content, TextBytes{text}, '.'), Failure);
+    EXPECT_THROW(checkReadsBack(content, TextBytes{std::string_view{text}.substr(0, text.size() / 2)}, '.'), Failure);
 }
 
 }  // namespace

@@ -29,6 +29,14 @@ std::string joined(const std::vector<std::string>& lines) {
     return text;
 }
 
+std::vector<std::string> rowsOf(const Tape& tape) {
+    std::vector<std::string> all;
+    for (std::size_t row = 0; row < tape.count(); ++row) {
+        all.push_back(tape.row(row) + "=" + tape.value(row).text('.'));
+    }
+    return all;
+}
+
 /// A stack of two elements, and a tape of a filler and two lines, each line of the file by itself.
 std::vector<std::string> stackAndTape() {
     return {"2", " 7 ", " 1 ", " 3 ", " 2 ", " 1 ", " 2 ", "", "", "1.00", "2.00", "ZAK", " 1 ", "", " 1 ", " 2 "};
@@ -45,17 +53,17 @@ TEST(TapeFile, EachLineIsReadAsWhatItIs) {
     EXPECT_EQ(content.StackPtr, 3);
     EXPECT_EQ(content.Xreg, ValueCell{2.0});
     EXPECT_EQ(content.stack, (std::vector<ValueCell>{ValueCell{1.0}, ValueCell{2.0}}));
-    EXPECT_EQ(content.lines, (std::vector<std::string>{"", "1.00", "2.00"}));
-    EXPECT_EQ(content.fillers, 1);
-    EXPECT_EQ(content.values, (std::vector<ValueCell>{ValueCell{1.0}, ValueCell{2.0}}));
-    EXPECT_EQ(parseTapeFile(formatTapeFile(content, '.'), '.').values, content.values);
+    const std::vector<std::string> rows{"=", "1.00=1", "2.00=2"};
+    EXPECT_EQ(rowsOf(content.tape), rows);
+    EXPECT_EQ(content.tape.fillers(), 1);
+    EXPECT_EQ(rowsOf(parseTapeFile(formatTapeFile(content, '.'), '.').tape), rows);
 }
 
 TEST(TapeFile, ATapeOfFillersAloneIsWhole) {
     const auto content = parseTapeFile("2\n\n\n 1 \n\n\n\n\nZAK\n 2 \n\n\n", '.');
     EXPECT_EQ(content.StackPtr, 1);
-    EXPECT_EQ(content.fillers, 2);
-    EXPECT_TRUE(content.values.empty());
+    EXPECT_EQ(content.tape.fillers(), 2);
+    EXPECT_EQ(content.tape.count(), 2U);
 }
 
 TEST(TapeFile, ADamagedOneIsRefused) {
@@ -102,6 +110,85 @@ TEST(TapeFile, ARegistersLineHasANameAndAComma) {
     EXPECT_EQ(line.name, "12  ");
     EXPECT_EQ(line.value, ValueCell{2.5}) << "a point whatever the decimal character is";
     EXPECT_EQ(line.tip, "a tip, with a comma");
+}
+
+TapeFileContent withFillers(int fillers) {
+    TapeFileContent content;
+    content.kind = TapeFileKind::StackAndTape;
+    content.tape.clear(fillers);
+    return content;
+}
+
+TEST(TapeFile, LinesOfPlainNumbersComeBackAsThose) {
+    TapeFileContent content = withFillers(0);
+    const char* const labels[] = {"", "+", "x<>y", "sum of all", "1/x"};
+    const double values[] = {0.0, 1.5, -2.25, 1e10, 3.25e-7, 1.0 / 3.0, 123456.789};
+    std::size_t place = 0;
+    for (const DisplayMode mode : {DisplayMode::Fixed, DisplayMode::Scientific, DisplayMode::Engineering}) {
+        for (int digits = 0; digits <= kMaxDisplayDigits; ++digits) {
+            for (const double value : values) {
+                content.tape.addNumber({.mode = mode, .digits = digits}, labels[++place % 5], value);
+            }
+        }
+    }
+    const TapeFileContent read = parseTapeFile(formatTapeFile(content, '.'), '.');
+    ASSERT_EQ(read.tape.count(), content.tape.count());
+    for (std::size_t row = 0; row < read.tape.count(); ++row) {
+        EXPECT_EQ(read.tape.row(row), content.tape.row(row));
+        EXPECT_EQ(read.tape.value(row).text('.'), content.tape.value(row).text('.'));
+    }
+    EXPECT_EQ(read.tape.bytes(), content.tape.bytes()) << "a number takes no more room than it did";
+}
+
+TEST(TapeFile, FillersAndTextsComeBackInTheirPlaces) {
+    for (const int fillers : {0, 1, 6, 7}) {
+        TapeFileContent content = withFillers(fillers);
+        content.tape.add("typed", ValueCell{"12"});
+        content.tape.add("ZA", ValueCell{});
+        content.tape.add("two\nlines", ValueCell{3.0});
+        const TapeFileContent read = parseTapeFile(formatTapeFile(content, '.'), '.');
+        EXPECT_EQ(read.tape.fillers(), fillers);
+        auto expected = rowsOf(content.tape);
+        expected.back() = "two lines=3";
+        EXPECT_EQ(rowsOf(read.tape), expected);
+    }
+}
+
+TEST(TapeFile, EveryCutOfAFileIsDamage) {
+    TapeFileContent content = withFillers(3);
+    content.StackPtr = 3;
+    content.stack = {ValueCell{1.0}, ValueCell{"2"}};
+    content.tape.addNumber({}, "+", 4.0);
+    const std::string whole = formatTapeFile(content, '.');
+    EXPECT_NO_THROW(static_cast<void>(parseTapeFile(whole, '.')));
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        EXPECT_THROW(static_cast<void>(parseTapeFile(whole.substr(0, size), '.')), Failure) << size;
+    }
+}
+
+TEST(TapeFile, NoNumberInAFileAsksForMoreThanThereIs) {
+    const std::string endless(kLongestLine + 2, '7');
+    for (const std::string& text :
+         {"2\n 0 \n 0 \n 1048578 \n 0 \n", "2\n 0 \n 0 \n 99999999999 \n 0 \n", "2\n 0 \n 0 \n 1 \n 0 \n\nZAK\n 1 \n",
+          "2\n 0 \n 0 \n 1 \n 0 \n\na\nZAK\n 2 \n\n\n\n", "2\n 0 \n 0 \n 1 \n 0 \n\na\nZAK\n-1 \n\n\n\n"}) {
+        EXPECT_THROW(static_cast<void>(parseTapeFile(text, '.')), Failure) << text;
+    }
+    EXPECT_THROW(static_cast<void>(parseTapeFile("2\n" + endless + "\n", '.')), Failure);
+}
+
+TEST(TapeFile, ACopyOfATapeStaysAsItWas) {
+    Tape tape;
+    tape.clear(2);
+    for (int line = 0; line < 10'000; ++line) {
+        tape.addNumber({}, "", line);
+    }
+    const Tape copy = tape;
+    const auto before = rowsOf(copy);
+    for (int line = 0; line < 10'000; ++line) {
+        tape.addNumber({}, "+", -line);
+    }
+    tape.clear(1);
+    EXPECT_EQ(rowsOf(copy), before);
 }
 
 }  // namespace
