@@ -129,7 +129,6 @@ bool Dispatch::takeFromStack() {
     s.stack.Xreg = *x;
     s.stack.Yreg = *y;
     s.stack.LastX = *x;
-    s.stack.Xnum = *x;
     return true;
 }
 
