@@ -6,6 +6,7 @@
 #include "dialogs/calculator_dialog.h"
 #include "dialogs/dialog_hand_over.h"
 #include "dialogs/unit_choice.h"
+#include "engine/engine.h"
 #include "keypads/keypad_table.h"
 #include "platform/form_input.h"
 #include "support/test_platform.h"
@@ -19,7 +20,7 @@ namespace {
 void SolveInDialog(benchmark::State& state, const CalculatorTable& table) {
     TestPlatform platform;
     Engine calc{platform};
-    DialogHandOver handOver;
+    DialogHandOver handOver{calc};
     CalculatorDialog dialog(calc, handOver, {}, table);
     const auto strike = [&](int character) { pressKey(dialog, {.keyCode = character, .character = character}); };
     Control* const clear = dialog.find("cmdDefault");
