@@ -25,12 +25,6 @@ using namespace tallyforge;
 constexpr double kMaskLimit = 3.0;            ///< milliseconds, in the median
 constexpr double kResizeLimit = 1000.0 / 60;  ///< sixty frames a second
 
-/// Nobody is there to answer a hint.
-class Unasked final : public qt::QtPlatform {
-public:
-    Answer messageBox(const MessageBox& /*box*/) override { return Answer::Ok; }
-};
-
 struct Times {
     double median = 0.0;
     double slow = 0.0;  ///< 95 percent are below
@@ -61,7 +55,7 @@ bool report(const char* what, const Times& times, double limit) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    Unasked platform;
+    qt::QtPlatform platform;
     Calculator calculator(platform);
     calculator.load();
     MainForm& form = calculator.engine().form;
@@ -70,9 +64,10 @@ int main(int argc, char** argv) {
     window.show();
     QApplication::processEvents();
     bool held = true;
+    // Keypads that are shown without a hint, which would wait for its answer.
     for (const auto& [name, keypad] :
-         {std::pair{"mask, Standard", Keypad::Standard}, std::pair{"mask, Engineering", Keypad::Engineering},
-          std::pair{"mask, Magnetics", Keypad::Magnetics}}) {
+         {std::pair{"mask, Standard", Keypad::Standard}, std::pair{"mask, Trigonometry", Keypad::Trigonometry},
+          std::pair{"mask, Convert", Keypad::Convert}}) {
         calculator.engine().keypads().ShowKeypad(keypad);
         window.view().sync();
         QApplication::processEvents();
