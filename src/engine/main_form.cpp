@@ -296,9 +296,8 @@ void MainForm::dressRegisters() {
         const Look label{.kind = ControlKind::Label, .text = number, .font = kSmallCaption, .visible = false};
         const Look field{.kind = ControlKind::Field, .tip = tip, .spoken = tip, .font = kNumbers, .visible = false};
         put(lblErg_m.at(at), "lblErg_m", label, i);
-        lblErg_m.at(at).rightAligned = true;
         put(txtReg_m.at(at), "txtReg_m", field, i);
-        txtReg_m.at(at).rightAligned = true;
+        lblErg_m.at(at).rightAligned = txtReg_m.at(at).rightAligned = true;
     }
 }
 

@@ -2,14 +2,14 @@
 #include "desktops/headless/headless_platform.h"
 
 #include "platform/dialog_run.h"
-
+#include "platform/file_store.h"
 #include "platform/text.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <ctime>
-#include <fstream>
+#include <sstream>
 #include <thread>
 #include <utility>
 
@@ -139,9 +139,19 @@ bool HeadlessPlatform::hasOption(std::string_view key) const {
     return storedOption(key).has_value();
 }
 
+// What is no plain file, or larger than any options are, holds none.
+std::string HeadlessPlatform::storedOptions() const {
+    constexpr std::size_t kMost = 65536;
+    try {
+        return readWhole(optionFile(), kMost);
+    } catch (const FileError&) {
+        return {};
+    }
+}
+
 std::optional<bool> HeadlessPlatform::storedOption(std::string_view key) const {
-    std::ifstream file(optionFile());
-    for (std::string line; std::getline(file, line);) {
+    std::istringstream options(storedOptions());
+    for (std::string line; std::getline(options, line);) {
         if (line.starts_with(std::string(key) + "=")) {
             return line.ends_with("1");
         }
@@ -152,11 +162,15 @@ std::optional<bool> HeadlessPlatform::storedOption(std::string_view key) const {
 void HeadlessPlatform::writeOption(std::string_view key, bool value) {
     const std::string start = std::string(key) + "=";
     std::string kept;
-    std::ifstream before(optionFile());
+    std::istringstream before(storedOptions());
     for (std::string line; std::getline(before, line);) {
         kept += line.starts_with(start) ? "" : line + "\n";
     }
-    std::ofstream(optionFile()) << kept << start << (value ? '1' : '0') << '\n';
+    try {
+        writeWhole(optionFile(), kept + start + (value ? "1\n" : "0\n"));
+    } catch (const FileError&) {
+        // An option that cannot be kept lasts as long as the calculator, as on any desktop.
+    }
 }
 
 void HeadlessPlatform::print(const PrintJob& job) {

@@ -76,6 +76,7 @@ public:
 
 private:
     [[nodiscard]] std::filesystem::path optionFile() const;
+    [[nodiscard]] std::string storedOptions() const;
     [[nodiscard]] std::optional<bool> storedOption(std::string_view key) const;
 
     HeadlessOptions options_;

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <chrono>
 #include <filesystem>
 #include <string>
@@ -221,6 +223,22 @@ TEST_F(HeadlessPlatformTest, TheSettingsStoreOutlivesTheProgram) {
     EXPECT_FALSE(make().readOption("Show Tips at Startup", true));
     platform.writeOption("Show Tips at Startup", true);
     EXPECT_TRUE(make().readOption("Show Tips at Startup", false));
+}
+
+TEST_F(HeadlessPlatformTest, AnOptionFileOfAWrongShapeHoldsNoneAndStopsNothing) {
+    options.tips = true;
+    const std::filesystem::path file = folder.path / ".options.txt";
+    ASSERT_EQ(mkfifo(file.c_str(), S_IRUSR | S_IWUSR), 0);
+    HeadlessPlatform platform = make();
+    EXPECT_FALSE(platform.hasOption("A"));
+    platform.writeOption("A", true);
+    EXPECT_TRUE(std::filesystem::is_fifo(file));
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file);
+    EXPECT_TRUE(platform.readOption("A", true));
+    std::filesystem::remove(file);
+    platform.writeOption("A", false);
+    EXPECT_FALSE(platform.readOption("A", true));
 }
 
 TEST(InQuotes, EscapesLineBreaksQuotesAndBackslashes) {
