@@ -19,5 +19,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (s.format.DisplayDigits < 0 || s.format.DisplayDigits > 13 || s.format.WordSize < 4 || s.format.WordSize > 64) {
         std::abort();
     }
+    // What was read is worked with, saved and read again.
+    if (hand.form().open) {
+        hand.platform.answers.assign(2, tallyforge::Answer::Yes);
+        hand.enter("12.5");
+        hand.choose(hand.form().cmdFunctions.at(data == nullptr || size == 0 ? 0 : data[size - 1] % 24U));
+        hand.choose(hand.form().mnuSave);
+        hand.start();
+        if (!hand.form().open) {
+            std::abort();
+        }
+    }
+    hand.platform.answers.clear();
     return 0;
 }
