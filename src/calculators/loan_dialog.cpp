@@ -43,7 +43,8 @@ constexpr CalculatorLook kLook{.form = "frmCmpdInt",
                                .hasPicture = true,
                                .clearCaption = "Clear",
                                .clearTip = " Reset Values ",
-                               .symbolWidth = 1700};
+                               .symbolWidth = 1700,
+                               .unitWidth = 1400};
 
 constexpr double kPercent = 100.0;
 
@@ -146,7 +147,8 @@ void LoanDialog::showField(int field) {
     }
     if (field == Apr || field == PeriodRate) {
         // The field's pattern scales by 100; the plain rate stands beside it.
-        lblUnits(field).text = value ? plainText(*value, decimal) + " %" : "";
+        constexpr int kPlaces = 6;
+        lblUnits(field).text = value ? plainText(roundHalfEven(*value, kPlaces), decimal) + " %" : "";
     }
 }
 

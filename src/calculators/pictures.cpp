@@ -290,7 +290,7 @@ Drawing ladderPicture(std::span<const std::string> elements) {
     Sketch sketch("The network as it was entered, from its load on the right to its input on the left.");
     constexpr float kTop = 60.0F;
     constexpr float kBottom = 160.0F;
-    constexpr float kRight = 280.0F;
+    constexpr float kRight = 264.0F;
     constexpr float kLeast = 20.0F;
     const auto count = static_cast<float>(std::max<std::size_t>(elements.size(), 4));
     const float step = (kRight - kLeast) / count;

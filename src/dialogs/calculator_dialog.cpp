@@ -98,11 +98,13 @@ void CalculatorDialog::addAnswers() {
     for (std::size_t i = 0; i < most; ++i) {
         const int index = static_cast<int>(i);
         lblAns_.push_back(&addControl(ControlKind::Label, "lblAns", {}, index));
-        txtAns_.push_back(&addControl(ControlKind::Label, "txtAns", {}, index));
+        txtAns_.push_back(&addBeside(Column::Field, ControlKind::Label, "txtAns", index));
         txtAns_.back()->font.face = Face::Terminal;
+        txtAns_.back()->rightAligned = true;
     }
     if (most > 0) {
-        lblAns_.push_back(&addControl(ControlKind::Label, "lblAns", {}, static_cast<int>(most)));
+        // The unit of the answer that is an angle.
+        lblAns_.push_back(&addBeside(Column::Unit, ControlKind::Label, "lblAns", static_cast<int>(most)));
     }
     if (!table.hint.empty()) {
         addControl(ControlKind::Label, "lblInput", table.hint);

@@ -99,6 +99,7 @@ void CalculatorDialog::showAnswers(const Solution& solution, const Values& value
         txtAns_[i]->visible = true;
         if (answer.angle) {
             lblAns_.back()->text = AngleLabel(calc.s.format.Angle, true);
+            lblAns_.back()->place.top = lblAns_[i]->place.top;
             lblAns_.back()->visible = true;
         }
     }

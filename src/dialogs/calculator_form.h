@@ -16,6 +16,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,7 @@ struct CalculatorLook {
     std::string_view clearCaption = "&Clear";
     std::string_view clearTip = " Reset Calculator ";
     int symbolWidth = 900;       ///< of the fields' names, twips
+    int unitWidth = 800;         ///< of what stands behind the fields
     std::string_view exitTip{};  ///< where it differs from " Quit the " + name + " Calculator "
 };
 
@@ -59,6 +61,10 @@ protected:
     /// A control of the dialog's own below the fields, `lines` lines high.
     Control& addControl(ControlKind kind, std::string_view controlName, std::string_view caption, int index = kNoIndex,
                         int lines = 1);
+    /// Columns of the fields' rows.
+    enum class Column { Field, Unit };
+    /// The same in a column of the row that the last addControl() has begun.
+    Control& addBeside(Column column, ControlKind kind, std::string_view controlName, int index);
     /// Call once all is added: keys, places, size.
     void finish();
 
@@ -130,6 +136,7 @@ private:
     /// Ctrl+P: what the fields show, and the picture beside them.
     [[nodiscard]] bool printsPage(KeyEvent event);
     void arrange();
+    [[nodiscard]] int arrangeOwn(int top);
     [[nodiscard]] int arrangeFrames(int left);
     void exitCaption(Control& key);
 
@@ -140,7 +147,11 @@ private:
     std::deque<Control> optCalc_;
     std::deque<FieldRules> rules_;
     std::deque<OptionFrame> frames_;
-    std::deque<Control> own_;
+    struct OwnControl {
+        Control control;
+        std::optional<Column> beside;  ///< the row is that of the control before
+    };
+    std::deque<OwnControl> own_;
     Control lblUse_;
     Control picture_;
     DialogKeyFilter filter_;

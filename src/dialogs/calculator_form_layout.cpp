@@ -20,7 +20,6 @@ constexpr int kLine = 360;
 constexpr int kFieldHeight = 300;
 constexpr int kUseWidth = 260;
 constexpr int kFieldWidth = 2000;
-constexpr int kUnitWidth = 800;
 constexpr int kOptionLine = 260;
 constexpr int kFrameHead = 240;
 constexpr int kFrameWidth = 2600;
@@ -80,9 +79,15 @@ void CalculatorForm::addOptions(std::string_view options, std::string_view headi
 
 Control& CalculatorForm::addControl(ControlKind kind, std::string_view controlName, std::string_view caption, int index,
                                     int lines) {
-    Control& control = own_.emplace_back();
+    Control& control = own_.emplace_back().control;
     dress(control, kind, controlName, caption, index);
     control.place.height = kFieldHeight + (lines - 1) * kOptionLine;
+    return control;
+}
+
+Control& CalculatorForm::addBeside(Column column, ControlKind kind, std::string_view controlName, int index) {
+    Control& control = addControl(kind, controlName, {}, index);
+    own_.back().beside = column;
     return control;
 }
 
@@ -100,8 +105,8 @@ void CalculatorForm::finish() {
         enrol(lblUnits(i));
         hangField(i);
     }
-    for (Control& control : own_) {
-        enrol(control);
+    for (OwnControl& own : own_) {
+        enrol(own.control);
     }
     enrol(lblUse_);
     for (Control& option : optCalc_) {
@@ -138,13 +143,10 @@ void CalculatorForm::arrange() {
         put(optCalc(i), kUseWidth);
         put(lblVal_.at(static_cast<std::size_t>(i)), look.symbolWidth);
         put(txtVal(i), kFieldWidth);
-        put(lblUnits(i), kUnitWidth);
+        put(lblUnits(i), look.unitWidth);
     }
     top += kLine;
-    for (Control& control : own_) {
-        control.place = {.left = kMargin, .top = top, .width = 3 * kKeyWidth, .height = control.place.height};
-        top += control.place.height + kMargin / 2;
-    }
+    top = arrangeOwn(top);
     int left = kMargin;
     for (Control* key : {&cmdCalc, &cmdXreg, &cmdDefault}) {
         key->place = {.left = left, .top = top + kMargin, .width = kKeyWidth, .height = kKeyHeight};
@@ -163,6 +165,27 @@ void CalculatorForm::arrange() {
     for (const OptionFrame& frame : frames_) {
         place.height = std::max(place.height, frame.frame.place.top + frame.frame.place.height + kMargin);
     }
+}
+
+/// Returns where the rows end at the foot.
+int CalculatorForm::arrangeOwn(int top) {
+    constexpr int kGap = kMargin / 2;
+    const int fieldLeft = kMargin + kUseWidth + kGap + look.symbolWidth + kGap;
+    int row = top;
+    for (auto& [control, beside] : own_) {
+        const int height = control.place.height;
+        if (!beside) {
+            row = top;
+            control.place = {.left = kMargin, .top = row, .width = 3 * kKeyWidth, .height = height};
+            top += height + kGap;
+        } else if (*beside == Column::Field) {
+            control.place = {.left = fieldLeft, .top = row, .width = kFieldWidth, .height = height};
+        } else {
+            control.place = {
+                .left = fieldLeft + kFieldWidth + kGap, .top = row, .width = look.unitWidth, .height = height};
+        }
+    }
+    return top;
 }
 
 /// Returns where the frames end on the right.

@@ -168,7 +168,7 @@ TEST(TapeFile, EveryCutOfAFileIsDamage) {
 
 TEST(TapeFile, NoNumberInAFileAsksForMoreThanThereIs) {
     const std::string endless(kLongestLine + 2, '7');
-    for (const std::string& text :
+    for (const char* const text :
          {"2\n 0 \n 0 \n 1048578 \n 0 \n", "2\n 0 \n 0 \n 99999999999 \n 0 \n", "2\n 0 \n 0 \n 1 \n 0 \n\nZAK\n 1 \n",
           "2\n 0 \n 0 \n 1 \n 0 \n\na\nZAK\n 2 \n\n\n\n", "2\n 0 \n 0 \n 1 \n 0 \n\na\nZAK\n-1 \n\n\n\n"}) {
         EXPECT_THROW(static_cast<void>(parseTapeFile(text, '.')), Failure) << text;
