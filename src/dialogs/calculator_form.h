@@ -137,6 +137,7 @@ private:
     [[nodiscard]] bool printsPage(KeyEvent event);
     void arrange();
     [[nodiscard]] int arrangeOwn(int top);
+    [[nodiscard]] int frameWidth() const;
     [[nodiscard]] int arrangeFrames(int left);
     void exitCaption(Control& key);
 

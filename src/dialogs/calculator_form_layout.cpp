@@ -188,26 +188,39 @@ int CalculatorForm::arrangeOwn(int top) {
     return top;
 }
 
+/// Wide enough for the longest caption of a frame in its full size.
+int CalculatorForm::frameWidth() const {
+    constexpr int kCharacter = 90;
+    constexpr int kRingAndEdges = 500;
+    int width = kFrameWidth;
+    for (const OptionFrame& frame : frames_) {
+        for (const Control& option : frame.options) {
+            width = std::max(width, static_cast<int>(option.text.size()) * kCharacter + kRingAndEdges);
+        }
+    }
+    return width;
+}
+
 /// Returns where the frames end on the right.
 int CalculatorForm::arrangeFrames(int left) {
+    const int width = frameWidth();
     int top = kMargin;
     int right = left;
     for (OptionFrame& frame : frames_) {
         const int rows = static_cast<int>(frame.options.size());
         const int height = kFrameHead + rows * kOptionLine + kMargin / 2;
         if (top > kMargin && top + height > kColumn) {
-            left += kFrameWidth + kMargin;
+            left += width + kMargin;
             top = kMargin;
         }
-        frame.frame.place = {.left = left, .top = top, .width = kFrameWidth, .height = height};
+        frame.frame.place = {.left = left, .top = top, .width = width, .height = height};
         int line = top + kFrameHead;
         for (Control& option : frame.options) {
-            option.place = {
-                .left = left + kMargin, .top = line, .width = kFrameWidth - 2 * kMargin, .height = kOptionLine};
+            option.place = {.left = left + kMargin, .top = line, .width = width - 2 * kMargin, .height = kOptionLine};
             line += kOptionLine;
         }
         top += height + kMargin / 2;
-        right = left + kFrameWidth;
+        right = left + width;
     }
     return right;
 }

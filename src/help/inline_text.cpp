@@ -68,18 +68,16 @@ void read(std::string_view text, const InlineSpan& look, std::vector<InlineSpan>
         }
     };
     while (!text.empty()) {
-        std::size_t taken = 1;
-        if (look.code) {
-            plain += text.front();
-        } else if (text.size() > 1 && text.front() == '\\' && kEscapable.find(text[1]) != kEscapable.npos) {
-            plain += text[1];
-            taken = 2;
-        } else if (const auto piece = pieceAt(text, look)) {
+        const bool escaped =
+            !look.code && text.size() > 1 && text.front() == '\\' && kEscapable.find(text[1]) != kEscapable.npos;
+        const auto piece = look.code || escaped ? std::nullopt : pieceAt(text, look);
+        std::size_t taken = escaped ? 2 : 1;
+        if (piece) {
             putPlain();
             read(piece->inside, piece->look, spans);
             taken = piece->length;
         } else {
-            plain += text.front();
+            plain += text[taken - 1];
         }
         text.remove_prefix(taken);
     }

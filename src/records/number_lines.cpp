@@ -8,10 +8,14 @@ namespace tallyforge {
 
 namespace {
 
-/// What stands before the last word of a line, without the blanks around it.
-std::optional<ShortLabel> labelOf(std::string_view text) {
-    const auto blank = text.rfind(' ');
-    const auto end = blank == text.npos ? blank : text.find_last_not_of(' ', blank);
+/// What stands before `shown` at the end of `text`, without the blanks between them; none where
+/// `text` ends otherwise, or with a label that is too long.
+std::optional<ShortLabel> labelBefore(std::string_view shown, std::string_view text) {
+    if (!text.ends_with(shown)) {
+        return std::nullopt;
+    }
+    text.remove_suffix(shown.size());
+    const auto end = text.find_last_not_of(' ');
     const std::string_view label = end == text.npos ? std::string_view{} : text.substr(0, end + 1);
     return label.size() <= Tape::kLongestLabel ? std::optional{ShortLabel{label}} : std::nullopt;
 }
@@ -41,15 +45,17 @@ const NumberLine* NumberLines::find(std::string_view text, double value) {
 }
 
 std::optional<NumberLine> NumberLines::lookThrough(std::string_view text, double value) const {
-    const auto label = labelOf(text);
-    if (!label) {
-        return std::nullopt;
-    }
+    // A number is written in one of three ways: alone, beside a sign, beside a word.
+    constexpr std::size_t kLabels[] = {0, 1, 2};
     for (const DisplayMode mode : {DisplayMode::Fixed, DisplayMode::Scientific, DisplayMode::Engineering}) {
         for (int digits = 0; digits <= kMaxDisplayDigits; ++digits) {
-            const NumberLine line{.look = {.mode = mode, .digits = digits, .decimal = decimal_}, .label = *label};
-            if (line.gives(text, value)) {
-                return line;
+            const NumberLook look{.mode = mode, .digits = digits, .decimal = decimal_};
+            for (const std::size_t size : kLabels) {
+                const auto label = labelBefore(NumberDisplay::shownNumber(value, look, size), text);
+                const NumberLine line{.look = look, .label = label.value_or(ShortLabel{})};
+                if (label && line.gives(text, value)) {
+                    return line;
+                }
             }
         }
     }

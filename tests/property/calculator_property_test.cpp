@@ -323,8 +323,9 @@ TEST(Properties, WhatIsSavedIsThereAfterARestart) {
             hand.type(std::to_string(number));
             hand.clickWith(kShift, hand.form().cmdSTO);
         }
-        // A quiz lets nothing be saved before it ends.
-        RC_PRE(!hand.s().modes.QuizMode);
+        // A quiz lets nothing be saved before it ends, and a lent bank of keys is no setting.
+        const ModeState& modes = hand.s().modes;
+        RC_PRE(!modes.QuizMode && !modes.ProgramMode && !modes.MemoryArrayMode);
         save(hand, hand.form().mnuSave, "");
         const auto settings = settingsShown(hand);
         save(hand, hand.form().mnuSaveTape, "day.tape");
