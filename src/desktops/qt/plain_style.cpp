@@ -120,4 +120,11 @@ void PlainStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     painter->restore();
 }
 
+int PlainStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool ring = metric == PM_ExclusiveIndicatorWidth || metric == PM_ExclusiveIndicatorHeight ||
+                      metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
+    return ring && widget != nullptr ? std::max(usual, widget->fontMetrics().height() * 3 / 4) : usual;
+}
+
 }  // namespace tallyforge::qt

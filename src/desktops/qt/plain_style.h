@@ -15,6 +15,8 @@ public:
     PlainStyle();
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    /// The rings and boxes of options grow with their captions.
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };
 
 }  // namespace tallyforge::qt
