@@ -32,12 +32,12 @@ const UnitRange* rangeNamed(std::string_view name) {
 void append(std::string& text, std::string_view pattern, const UnitWords& words) {
     while (!pattern.empty()) {
         const auto open = pattern.find('{');
-        const auto close = pattern.find('}', open == pattern.npos ? 0 : open);
-        text += pattern.substr(0, open);
-        if (open == pattern.npos || close == pattern.npos) {
-            text += open == pattern.npos ? std::string_view{} : pattern.substr(open);
+        const auto close = pattern.find('}', open);
+        if (close == pattern.npos) {
+            text += pattern;
             return;
         }
+        text += pattern.substr(0, open);
         if (const UnitRange* range = rangeNamed(pattern.substr(open + 1, close - open - 1)); range != nullptr) {
             const UnitRow& unit = chosenUnit(*range, words);
             append(text, unit.inTip.empty() ? unit.label : unit.inTip, words);

@@ -198,11 +198,9 @@ void Dispatch::showMessage(FailureNumber number, int index) {
 void Dispatch::leaveKey() {
     EngineState& s = calc.s;
     calc.ClearOptKeys();
-    if (!s.modes.QuizMode) {
-        calc.form.setFocus(calc.form.cmdEnter);
-        if (s.modes.ActiveKeypad != Keypad::Convert && s.modes.ActiveKeypad != Keypad::Percent) {
-            model.repaint();
-        }
+    const bool repaints = s.modes.ActiveKeypad != Keypad::Convert && s.modes.ActiveKeypad != Keypad::Percent;
+    if (!s.modes.QuizMode && repaints) {
+        model.repaint();
     }
     s.modifiers.CtrlHeld = false;
     s.modifiers.ShiftCtrlHeld = false;
@@ -230,9 +228,6 @@ void Dispatch::commitResult() {
     calc.commit.deliverX();
     if (s.format.DisplaySaved && !s.modes.BaseMode && !s.modes.BaseSuspended) {
         calc.display.RestoreDisplay();
-    }
-    if (!calc.commit.quiet()) {
-        calc.focusEntry();
     }
 }
 

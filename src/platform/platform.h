@@ -59,7 +59,7 @@ struct LocalTime {
     int day = 1;     ///< 1 to 31
     int hour = 0;    ///< 0 to 23
     int minute = 0;  ///< 0 to 59
-    int second = 0;  ///< 0 to 59
+    int second = 0;  ///< 0 to 59, 60 in a leap second
 };
 
 /// How the user wants a running program ended: at once, or after a question.

@@ -221,7 +221,7 @@ LocalTime HeadlessPlatform::now() const {
             .day = local.tm_mday,
             .hour = local.tm_hour,
             .minute = local.tm_min,
-            .second = std::min(local.tm_sec, 59)};
+            .second = local.tm_sec};
 }
 
 double HeadlessPlatform::random() {

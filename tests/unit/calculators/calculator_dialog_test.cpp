@@ -280,6 +280,26 @@ TEST_F(OhmsLaw, CtrlTabLeavesTheFieldsAndComesBack) {
     });
 }
 
+TEST_F(OhmsLaw, CtrlTabComesBackToTheFirstFieldThatIsOpen) {
+    open(kOhmsLaw, [&](DialogAtHand hand) {
+        hand.enter("20");
+        hand.press(kKeyTab, 9, kCtrl);
+        hand.press(kKeyTab, 9, kCtrl);
+        EXPECT_EQ(hand.focus(), "txtVal(1)") << "the first is given";
+        hand.enter("2");
+        hand.press(kKeyTab, 9, kCtrl);
+        EXPECT_EQ(hand.focus(), "OptP(1)") << "all are given or found";
+    });
+    open(kArc, [&](DialogAtHand hand) {
+        hand.press(kKeyTab, 9, kCtrl);
+        EXPECT_EQ(hand.focus(), "cmdXreg") << "there are no options to go to";
+        hand.press(kKeyTab, 9, kCtrl | kShift);
+        EXPECT_EQ(hand.focus(), "txtVal(0)");
+        hand.press(kKeyTab, 9);
+        EXPECT_EQ(hand.focus(), "txtVal(1)");
+    });
+}
+
 TEST_F(OhmsLaw, ABaseNumberIsNoValueAndStaysOnTheStack) {
     openWith(kOhmsLaw, kShift, "#1Fh", [&](DialogAtHand hand) {
         expectBox("calcOhms Error!", "Error number 13");

@@ -199,6 +199,42 @@ TEST_F(ConversionDialogTest, TabWalksFromToAndKeysAndArrowsStayInTheBank) {
         UnitPair{0, 2, 5});
 }
 
+TEST_F(ConversionDialogTest, TabStopsAtTheChosenUnitOrAtTheFirstThatIsFound) {
+    const auto stops = [](const ConversionDialog& dialog) {
+        std::vector<std::string> names;
+        for (const Control* control : dialog.controls()) {
+            if (control->kind == ControlKind::Option && control->name == "OptForce" && control->tabStop) {
+                names.push_back(control->fullName());
+            }
+        }
+        return names;
+    };
+    using Names = std::vector<std::string>;
+    show(kForceTable, 1, [&](ConversionDialog& dialog) {
+        EXPECT_EQ(stops(dialog), (Names{"OptForce(0)", "OptForce(21)"})) << "nothing is chosen yet";
+        click(dialog, *dialog.find("OptForce", 2));
+        EXPECT_EQ(stops(dialog), (Names{"OptForce(2)", "OptForce(21)"}));
+        click(dialog, *dialog.find("OptForce", 16));
+        EXPECT_EQ(stops(dialog), (Names{"OptForce(2)", "OptForce(16)"}));
+        dialog.setFocus(dialog.txtFind);
+        typeIn(dialog, "kilo");
+        const auto found = visibleFrom(dialog);
+        ASSERT_FALSE(found.empty());
+        for (const std::string& name : stops(dialog)) {
+            const int index = std::stoi(name.substr(name.find('(') + 1));
+            EXPECT_TRUE(dialog.find("OptForce", index)->visible) << name;
+        }
+        EXPECT_NE(stops(dialog), (Names{"OptForce(2)", "OptForce(16)"}));
+        typeIn(dialog, " nothing");
+        for (int i = 0; i < 12; ++i) {
+            key(dialog, kKeyBackspace, 8);
+        }
+        EXPECT_EQ(stops(dialog), (Names{"OptForce(2)", "OptForce(16)"}));
+        click(dialog, dialog.cmdSwap);
+        EXPECT_EQ(stops(dialog), (Names{"OptForce(5)", "OptForce(19)"}));
+    });
+}
+
 TEST_F(ConversionDialogTest, EnterIsOkAndEscapeIsCancel) {
     const UnitPair pair{0, 2, 5};
     const auto enter = [](ConversionDialog& dialog) {

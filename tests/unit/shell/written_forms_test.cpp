@@ -3,6 +3,7 @@
 // How every form stands: places, fonts, captions, tips, order, and what each control hears. The
 // text of each is in tests/forms.
 #include "calculators/pictures.h"
+#include "engine/key_names.h"
 #include "reference/charts.h"
 #include "support/all_dialogs.h"
 #include "support/calculator_fixture.h"
@@ -121,6 +122,60 @@ TEST_F(WrittenForms, EachChartOpensAsItIsWritten) {
         showChart(calc(), id);
     }
     expectAsWritten("charts", lines);
+}
+
+class PrintedPages : public WrittenForms {
+protected:
+    void addPage() {
+        for (const PrintLine& line : platform.printed) {
+            lines.push_back(written::font(line.font) + " " + written::quoted(line.text, line.font.face));
+        }
+        for (const Drawing& picture : platform.printedPictures) {
+            writePicture(picture, lines);
+        }
+    }
+};
+
+TEST_F(PrintedPages, TheTapeAndTheRegistersArePrintedAsTheyAreWritten) {
+    for (const char* line : {"12.5", "-3", "1e30", "0"}) {
+        enter(line);
+    }
+    type("+");
+    type("7");
+    clickWith(kShift, form().cmdSTO);
+    calc().s.memory.Registers.at(24) = 1.5;
+    choose(form().mnuPrint);
+    addPage();
+    expectAsWritten("printed_tape", lines);
+}
+
+TEST_F(PrintedPages, ChartsArePrintedAsTheyAreWritten) {
+    std::filesystem::copy(std::filesystem::path(TALLYFORGE_SOURCE_ROOT) / "data/charts", platform.folder / "charts");
+    platform.inDialog = [this](Form& dialog) {
+        pressKey(dialog, {.keyCode = 'P', .shift = kCtrl, .character = 'P' - '@'});
+        platform.printedPictures.clear();
+        addPage();
+        closeForm(dialog);
+    };
+    for (const ChartId id : {ChartId::Nails, ChartId::PipeThreads, ChartId::Colours}) {
+        showChart(calc(), id);
+    }
+    expectAsWritten("printed_charts", lines);
+}
+
+TEST_F(PrintedPages, ADialogIsPrintedAsItIsWritten) {
+    platform.inDialog = [this](Form& dialog) {
+        for (const char* value : {"20", "2"}) {
+            strikeAll(dialog, value);
+            strike(dialog, kKeyEnter, 13, 0);
+        }
+        pressKey(dialog, {.keyCode = 'P', .shift = kCtrl, .character = 'P' - '@'});
+        addPage();
+        closeForm(dialog);
+    };
+    calc().keypads().ShowKeypad(Keypad::Engineering);
+    choose(form().cmdFunctions.at(key::OhmsLaw));
+    expectAsWritten("printed_dialog", lines);
 }
 
 TEST(WrittenPictures, TheNetworksRootsAndBalancesAreDrawnAsTheyAreWritten) {
