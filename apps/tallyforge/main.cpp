@@ -13,12 +13,13 @@
 #include "desktops/qt/printing_output.h"
 #include "desktops/qt/qt_platform.h"
 #include "help/help_file.h"
-#include "help/help_html.h"
 #include "platform/file_store.h"
 #include "platform/form_input.h"
 #include "platform/installed_file.h"
 #include "shell/about_dialog.h"
 #include "shell/calculator.h"
+
+#include "apps/tallyforge/example_trial.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -149,49 +150,6 @@ int printTo(const QString& pdf, const QString& script) {
         return 1;
     }
     return 0;
-}
-
-constexpr const char* kTrial = "Try it";
-
-/// Presses the keys; what went wrong, or nothing.
-std::string play(qt::QtPlatform& platform, Calculator& calculator, const HelpExample& example) {
-    const auto drop = [](std::string_view) {};
-    HeadlessPlatform hand({.decimal = platform.decimalCharacter()}, drop);
-    std::string complaint;
-    KeyScript script(calculator, hand, drop, [&complaint](std::string_view line) { complaint = line; });
-    platform.setStandIn(&hand);
-    std::istringstream keys(example.keys);
-    static_cast<void>(script.run(keys));
-    releaseModifiers(calculator.engine().form);
-    platform.setStandIn(nullptr);
-    return complaint;
-}
-
-/// Asks, and presses the example's keys. Nothing but a message while a program runs or a dialog is
-/// open, or where the example touches more than the calculator.
-void tryExample(qt::QtPlatform& platform, Calculator& calculator, qt::MainWindow& window, const HelpExample& example) {
-    const auto tell = [&platform](std::string text) {
-        platform.messageBox({.kind = BoxKind::Info, .title = kTrial, .text = std::move(text)});
-    };
-    if (platform.isBusy() || calculator.programs().running()) {
-        return tell("Close the dialog, or let the program end, before you try an example.");
-    }
-    if (!canBeTried(example)) {
-        return tell("This example uses files or settings and is only to be read.");
-    }
-    const Answer answer = platform.messageBox({.kind = BoxKind::Question,
-                                               .title = kTrial,
-                                               .text = "Press the keys of this example in your calculator?\n\nIts "
-                                                       "numbers go on your stack and your tape.",
-                                               .buttons = BoxButtons::YesNo});
-    if (answer != Answer::Yes) {
-        return;
-    }
-    const std::string complaint = play(platform, calculator, example);
-    window.view().sync();
-    if (!complaint.empty()) {
-        tell("The example cannot go on here: " + complaint);
-    }
 }
 
 /// Shows the calculator, and opens the file that it was started with.

@@ -15,7 +15,7 @@ namespace tallyforge {
 
 namespace {
 
-constexpr int kHelpTopic = 1400;
+constexpr int kHelpTopic = 1430;  ///< a page of its own, behind those of the keys
 
 int rankOf(Hit hit) {
     return static_cast<int>(hit);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The numbers that the pages repeat are those that the calculator computes with: each unit with its
-// captions, factor, definition and fault, each scale of temperature, each row of the lists.
+// captions, factor, definition and fault, each scale of temperature, each constant. (Lists and tables of sizes:
+// tools/check_help_tables.)
 #include "convert/conversion_tables.h"
 #include "dialogs/conversion.h"
 #include "help/help_book.h"
@@ -9,7 +10,6 @@
 #include "help_sources.h"
 #include "platform/text.h"
 #include "reference/codata.h"
-#include "reference/material_lists.h"
 #include "reference/physical_constants.h"
 
 #include <gtest/gtest.h>
@@ -253,50 +253,6 @@ TEST(HelpNumbers, EveryConstantStandsWithItsValueAndThatOfToday) {
         EXPECT_EQ(row.at(3), today) << row.at(0);
     }
     EXPECT_EQ(ofToday, codataRows().size()) << "a value of today that no constant has";
-}
-
-/// The rows of a list as its page tells them, where names and values may stand in two columns each.
-Rows inOneColumn(const Rows& table) {
-    Rows rows;
-    const std::size_t width = table.front().size();
-    for (std::size_t left = 0; left < width; left += 2) {
-        for (std::size_t at = 1; at < table.size(); ++at) {
-            if (!table[at].at(left).empty()) {
-                rows.push_back({table[at].at(left), table[at].at(left + 1)});
-            }
-        }
-    }
-    return rows;
-}
-
-TEST(HelpNumbers, EveryRowOfTheListsStandsWithItsValue) {
-    for (const ListTable* list : {&kGravityList, &kRhoList, &kAlphaList, &kPrefixList}) {
-        SCOPED_TRACE(list->title);
-        Rows told;
-        for (const HelpPage& page : helpSources()) {
-            for (const char* first : {"Material", "Name"}) {
-                const std::string second(list == &kGravityList ? "Specific gravity"
-                                         : list == &kRhoList   ? "Rho"
-                                         : list == &kAlphaList ? "Alpha"
-                                                               : "Value");
-                for (Rows& table : tablesOf(page, first, second)) {
-                    if (list != &kPrefixList) {
-                        told = inOneColumn(table);
-                    } else if (table.front().at(2) == "Symbol") {
-                        told.assign(table.begin() + 1, table.end());
-                    }
-                }
-            }
-        }
-        ASSERT_EQ(told.size(), list->rows.size());
-        for (std::size_t at = 0; at < told.size(); ++at) {
-            EXPECT_EQ(told[at].at(0), toUnicode(list->rows[at].name, list->face));
-            EXPECT_EQ(told[at].at(1), list->rows[at].value);
-            if (list == &kPrefixList) {
-                EXPECT_EQ(told[at].at(2), toUnicode(list->rows[at].unit, list->face));
-            }
-        }
-    }
 }
 
 }  // namespace
