@@ -17,6 +17,12 @@ std::string tag(std::string_view name, std::string_view contents) {
            ">";
 }
 
+/// A number or a name that shall stay on one line.
+bool isOneWord(std::string_view cell) {
+    constexpr std::size_t kLongest = 24;
+    return cell.size() <= kLongest && cell.find(' ') == cell.npos;
+}
+
 class PageWriter {
 public:
     PageWriter(const HelpPage& page, const HelpHtml& how) : page_(page), how_(how) {}
@@ -89,7 +95,7 @@ private:
         for (const auto& row : block.rows) {
             std::string cells;
             for (const std::string& cell : row) {
-                cells += tag(head ? "th align=\"left\"" : "td", inlined(cell));
+                cells += tag(head ? "th align=\"left\"" : isOneWord(cell) ? "td class=\"word\"" : "td", inlined(cell));
             }
             html_ += tag("tr", cells);
             head = false;

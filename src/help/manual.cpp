@@ -22,6 +22,7 @@ h2 { margin-top: 3rem; border-bottom: 1px solid #8888; }
 pre { padding: 0.5rem 0.75rem; overflow-x: auto; background: #8882; }
 pre, code { font-family: "DejaVu Sans Mono", "Noto Sans Mono", monospace; font-size: 0.9em; }
 table.rows { border-collapse: collapse; }
+.word { white-space: nowrap; }
 table.rows td, table.rows th { border: 1px solid #8888; padding: 0.2rem 0.6rem; text-align: left; }
 .label, .caption { opacity: 0.75; padding-right: 1rem; }
 .caption { margin-bottom: 0.25rem; font-size: 0.9em; }

@@ -65,6 +65,9 @@ struct LocalTime {
 /// How the user wants a running program ended: at once, or after a question.
 enum class Interruption { None, Break, Close };
 
+/// Characters of a clipboard that are looked at.
+inline constexpr std::size_t kLongestClipping = 65536;
+
 class Platform {
 public:
     virtual ~Platform() = default;
@@ -91,6 +94,8 @@ public:
     [[nodiscard]] virtual bool hasOption(std::string_view key) const = 0;
     virtual void writeOption(std::string_view key, bool value) = 0;
 
+    /// Eight-bit; empty where there is no text. No number is longer than `kLongestClipping`: a desktop
+    /// need not hand over more than that of a text, with "..." behind what it has cut.
     [[nodiscard]] virtual std::string clipboardText() const = 0;
     virtual void setClipboardText(std::string_view text) = 0;
 

@@ -66,7 +66,13 @@ void Clipboard::pasteLoosely() {
 
 void Clipboard::take(const std::string& clipped) {
     EngineState& s = calc.s;
-    const ValueCell before = std::exchange(s.stack.Xreg, withoutMargins(clipped));
+    const std::string_view text = withoutMargins(clipped);
+    if (text.empty()) {
+        // A picture, or nothing at all.
+        s.entry.EntryOpen = false;
+        return;
+    }
+    const ValueCell before = std::exchange(s.stack.Xreg, text);
     const auto report = [&](const Failure& failure) {
         if (failure.number() != FailureNumber::TypeMismatch) {
             calc.reportNumber(failure);

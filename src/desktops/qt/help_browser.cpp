@@ -27,9 +27,10 @@ QString styleFor(const Theme& theme) {
     return QString(R"(
 a { color: %1; }
 pre, code { font-family: "%2"; }
-pre { background-color: %3; margin-left: 8px; margin-top: 2px; margin-bottom: 8px; }
+pre { white-space: pre-wrap; background-color: %3; margin-left: 8px; margin-top: 2px; margin-bottom: 8px; }
 table { margin-top: 4px; margin-bottom: 4px; }
 td { padding-right: 12px; }
+.word { white-space: nowrap; }
 .mask { background-color: %4; }
 .label, .caption { color: %5; }
 )")

@@ -17,9 +17,10 @@ constexpr const char* kPaperStyle = R"(
 body { font-family: "DejaVu Sans"; font-size: 9pt; color: black; }
 a { color: black; text-decoration: none; }
 pre, code { font-family: "DejaVu Sans Mono"; font-size: 8pt; }
-pre { background-color: #eeeeee; margin-left: 8px; }
+pre { white-space: pre-wrap; background-color: #eeeeee; margin-left: 8px; }
 h2 { margin-top: 24px; }
 td { padding-right: 8px; }
+.word { white-space: nowrap; }
 .mask { background-color: #dddddd; }
 .label, .caption { color: #555555; }
 )";

@@ -97,6 +97,7 @@ void HelpWindow::arrange() {
     search_->setClearButtonEnabled(true);
     search_->installEventFilter(this);
     list_->setUniformItemSizes(true);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     back_->setEnabled(false);
     forward_->setEnabled(false);
     auto* bar = new QHBoxLayout;

@@ -226,8 +226,12 @@ void QtPlatform::writeOption(std::string_view key, bool value) {
 }
 
 std::string QtPlatform::clipboardText() const {
-    return standIn_ != nullptr ? standIn_->clipboardText()
-                               : fromUnicode(QGuiApplication::clipboard()->text().toStdString());
+    if (standIn_ != nullptr) {
+        return standIn_->clipboardText();
+    }
+    const QString text = QGuiApplication::clipboard()->text();
+    constexpr auto kLongest = static_cast<qsizetype>(kLongestClipping);
+    return fromUnicode((text.size() <= kLongest ? text : text.left(kLongest) + "...").toStdString());
 }
 
 void QtPlatform::setClipboardText(std::string_view text) {

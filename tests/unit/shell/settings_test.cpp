@@ -360,6 +360,40 @@ TEST_F(Settings, APasteTakesNumbersAndNumbersOfABase) {
     EXPECT_EQ(s().stack.depth(), 2);
 }
 
+TEST_F(Settings, APasteWithoutATextLeavesX) {
+    enter("2.500");
+    for (const char* nothing : {"", " ", "\r\n"}) {
+        platform.clipboard = nothing;
+        choose(form().mnuPaste);
+        pressKey(form(), {.keyCode = 'V', .shift = kCtrl | kShift, .character = 'V' - '@'});
+        EXPECT_EQ(x(), "2.500");
+        EXPECT_EQ(s().stack.depth(), 1);
+    }
+    type("7");
+    choose(form().mnuPaste);
+    EXPECT_EQ(x(), "7") << "what was typed is entered, as before any paste";
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(Settings, APasteOfNoiseOrOfALongTextIsRefused) {
+    enter("2.500");
+    std::string noise;
+    for (int byte = 0; byte < 1000; ++byte) {
+        noise += static_cast<char>(byte * 7919 % 256);
+    }
+    const std::string longText = std::string(kLongestClipping, '1') + "...";
+    for (const std::string& text : {noise, longText, std::string(kLongestClipping, ' ') + "...", "12" + longText}) {
+        platform.clipboard = text;
+        choose(form().mnuPaste);
+        EXPECT_EQ(s().stack.depth(), 1);
+        EXPECT_EQ(tape().size(), 1U);
+    }
+    EXPECT_TRUE(platform.boxes.empty());
+    enter("3");
+    choose(form().mnuCopy);
+    EXPECT_EQ(platform.clipboard, "3") << "it goes on";
+}
+
 TEST_F(Settings, CopyGivesTheNumberAsItWasTyped) {
     enter("2.500");
     choose(form().mnuCopy);
