@@ -10,7 +10,7 @@ namespace tallyforge {
 namespace {
 
 constexpr int kWidth = 5400;
-constexpr int kHeight = 3200;
+constexpr int kHeight = 3700;
 constexpr int kMargin = 180;
 constexpr int kLine = 400;
 constexpr int kKeyWidth = 1700;
@@ -33,10 +33,19 @@ AboutDialog::AboutDialog(Engine& calculator) : Form("frmAbout", "About Tallyforg
           line(1));
     dress(lblDescription, ControlKind::Label, "lblDescription", "Another Quality Application from Oakhollow", line(2));
     dress(lblLicence, ControlKind::Label, "lblLicence", "Free software under the GNU GPL, version 3 or later", line(3));
+    // Where there is no desktop, nothing but the language's library is in the program.
+    const std::string libraries = calc.platform.systemInformation();
+    Place lines = line(4);
+    lines.height = 2 * kLine;
+    dress(lblLibraries, ControlKind::Label, "lblLibraries",
+          libraries.empty() ? "Made with the C++ standard library alone"
+                            : libraries.substr(0, libraries.find_last_not_of('\n') + 1),
+          lines);
     const int keysTop = kHeight - kMargin - kLine;
     dress(cmdSysInfo, ControlKind::Key, "cmdSysInfo", "&System Info...", {kMargin, keysTop, kKeyWidth, kLine});
     dress(cmdOK, ControlKind::Key, "cmdOK", "OK", {kWidth - kMargin - kKeyWidth, keysTop, kKeyWidth, kLine});
-    for (Control* control : {&lblTitle, &lblVersion, &lblDescription, &lblLicence, &cmdOK, &cmdSysInfo}) {
+    for (Control* control :
+         {&lblTitle, &lblVersion, &lblDescription, &lblLicence, &lblLibraries, &cmdOK, &cmdSysInfo}) {
         enrol(*control);
     }
     defaultKey = &cmdOK;

@@ -18,7 +18,7 @@ class AboutDialog : public Form {
 public:
     explicit AboutDialog(Engine& calculator);
 
-    Control lblTitle, lblVersion, lblDescription, lblLicence, cmdOK, cmdSysInfo;
+    Control lblTitle, lblVersion, lblDescription, lblLicence, lblLibraries, cmdOK, cmdSysInfo;
 
 private:
     void cmdSysInfo_Click();

@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QProcess>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -236,6 +237,27 @@ TEST_F(PrintingTest, APrinterThatIsNotThereIsTold) {
     printer.setOutputFileName(folder.filePath("missing/page.pdf"));
     EXPECT_FALSE(preview.printOn(printer));
     EXPECT_TRUE(told.contains("does not answer")) << told.toStdString();
+}
+
+TEST_F(PrintingTest, ADesktopWithoutAPrinterIsToldSo) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
+        GTEST_SKIP() << "this desktop has a printer";
+    }
+    const PrintJob job = tapeOf(10);
+    qt::PrintPreview preview(job, nullptr);
+    preview.show();
+    QString told;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        told = box.text();
+        box.accept();
+    });
+    for (auto* key : preview.findChildren<QPushButton*>()) {
+        if (key->text() == "&Print...") {
+            key->click();
+        }
+    }
+    EXPECT_EQ(told, "This desktop knows no printer.\nThe pages can be saved as PDF.");
+    EXPECT_TRUE(preview.isVisible()) << "the pages are still there";
 }
 
 TEST_F(PrintingTest, PaperAndFileHaveTheSamePages) {
