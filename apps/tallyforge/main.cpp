@@ -6,6 +6,7 @@
 // --print FILE.pdf [SCRIPT] it writes the page that is printed then.
 #include "desktops/headless/key_script.h"
 #include "desktops/qt/control_interface.h"
+#include "desktops/qt/desktop_style.h"
 #include "desktops/qt/dialog_view.h"
 #include "desktops/qt/form_view.h"
 #include "desktops/qt/help_manual.h"
@@ -235,6 +236,7 @@ int main(int argc, char** argv) {
         return 0;
     }
     QApplication application(argc, argv);
+    qt::installStyle();
     QApplication::setApplicationName("Tallyforge");
     QApplication::setDesktopFileName("tallyforge");
     qt::installAccessibility();

@@ -2,6 +2,7 @@
 //
 // The calculator in its window, with as many lines on its tape as the first argument says.
 #include "desktops/qt/control_interface.h"
+#include "desktops/qt/desktop_style.h"
 #include "desktops/qt/main_window.h"
 #include "desktops/qt/qt_platform.h"
 #include "shell/calculator.h"
@@ -13,6 +14,7 @@
 int main(int argc, char** argv) {
     using namespace tallyforge;
     const QApplication application(argc, argv);
+    qt::installStyle();
     qt::installAccessibility();
     qt::QtPlatform platform;
     Calculator calculator(platform);

@@ -18,6 +18,7 @@ constexpr std::string_view kRegisterArithmetic =
     "contents of Register 2 as a constant! ";
 
 constexpr Font kCaption{.face = Face::Arial, .points = 8.0F};
+constexpr Font kHeadline{.face = Face::Arial, .points = 9.0F};
 constexpr Font kSmallCaption{.face = Face::SmallFonts, .points = 7.0F};
 constexpr Font kNumbers{.face = Face::Terminal, .points = 9.0F};
 constexpr Font kEntry{.face = Face::Terminal, .points = 12.0F, .bold = true};
@@ -128,7 +129,7 @@ void MainForm::dressLists() {
         {.kind = ControlKind::Field, .tip = " Entry Register ", .spoken = "Entry line", .font = kEntry});
     txtXreg.maxLength = 22;
     txtXreg.rightAligned = true;
-    put(lblName, "lblName", {.kind = ControlKind::Label, .spoken = "Mode", .font = kCaption});
+    put(lblName, "lblName", {.kind = ControlKind::Label, .spoken = "Mode", .font = kHeadline});
     put(lblBank, "lblBank",
         {.kind = ControlKind::Label, .text = "Bank             Stack", .spoken = "Keypad", .font = kCaption});
     put(lblLists, "lblLists",

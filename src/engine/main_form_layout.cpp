@@ -23,6 +23,7 @@ constexpr int kListHeight = 1400;
 constexpr int kStackLeft = 3420;
 constexpr int kMarkLeft = 3276;
 constexpr int kMarkHeight = 175;
+constexpr int kListPadding = 40;  ///< between a list's edge and its text
 constexpr int kEntryTop = 1700;
 constexpr int kUnderStack = 640;  ///< of the extended view: y and last x
 constexpr int kEntryHeight = 450;
@@ -82,7 +83,7 @@ void MainForm::placeLists(bool extended, int extra) {
     lblName.place = {.left = kMargin, .top = kNameTop, .width = 3080, .height = kNameHeight};
     lblBank.place = {.left = kMargin, .top = kNameTop, .width = 0, .height = kNameHeight};
     lblLists.place = {
-        .left = kStackLeft - 144, .top = kNameTop, .width = right() - kStackLeft + 144, .height = kNameHeight};
+        .left = kMarkLeft, .top = kNameTop, .width = right() - kMarkLeft - kListPadding, .height = kNameHeight};
     lblCnvrt.place = {.left = 1000, .top = kNameTop, .width = 2200, .height = kNameHeight};
     // The tape's width is its own: it grows once the filler lines are gone.
     const int tapeWidth = lstDisplayReg.place.width == 0 ? kNarrowTape : lstDisplayReg.place.width;

@@ -29,7 +29,7 @@ protected:
         }
         return found;
     }
-    const qt::Theme& theme() { return qt::Theme::forPalette(window.palette()); }
+    qt::Theme theme() { return qt::Theme::forPalette(window.palette()); }
 };
 
 TEST_F(WindowFace, ADroppedCharacterFlashesTheEdgeAndIsNamed) {

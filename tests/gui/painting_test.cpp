@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/window_fixture.h"
 
+#include <QMenu>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <array>
@@ -50,7 +52,7 @@ bool paintsOutside(const Control& control, double pixelsPerTwip) {
     QImage image((area.size() + QSizeF(2 * kRoom, 2 * kRoom)).toSize(), QImage::Format_RGB32);
     image.fill(Qt::magenta);
     const QRgb untouched = image.pixel(0, 0);
-    const qt::Theme& theme = qt::Theme::forPalette(kLightDesktop());
+    const qt::Theme theme = qt::Theme::forPalette(kLightDesktop());
     const qt::PaintState state{.pixelsPerTwip = pixelsPerTwip};
     QPainter painter(&image);
     if (control.kind == ControlKind::Key) {
@@ -216,7 +218,7 @@ TEST_F(WindowPainting, FollowsTheDesktopIntoTheDarkAndBack) {
 TEST(Theme, KeepsTextLegibleInLightAndDark) {
     constexpr double kLegible = 4.5;
     for (const QPalette& palette : {kLightDesktop(), kDarkDesktop()}) {
-        const qt::Theme& theme = qt::Theme::forPalette(palette);
+        const qt::Theme theme = qt::Theme::forPalette(palette);
         for (const QColor& ground : {theme.window, theme.keyPlain, theme.keyYellow, theme.keyBlue}) {
             EXPECT_GE(contrast(theme.text, ground), kLegible) << ground.name().toStdString();
         }
@@ -227,9 +229,76 @@ TEST(Theme, KeepsTextLegibleInLightAndDark) {
     }
 }
 
+QPalette withAccent(QPalette palette, const QColor& accent) {
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+TEST(Theme, ChoosesInTheDesktopsAccent) {
+    const QColor red(0xB0, 0x10, 0x20);
+    for (const QPalette& desktop : {kLightDesktop(), kDarkDesktop()}) {
+        for (const QColor& accent : {red, QColor(0x10, 0x70, 0x30), QColor(0xF0, 0xE0, 0x20), QColor(Qt::black)}) {
+            const qt::Theme theme = qt::Theme::forPalette(withAccent(desktop, accent));
+            EXPECT_GE(contrast(theme.fieldText, theme.selection), 4.5) << accent.name().toStdString();
+            EXPECT_GE(contrast(theme.secondary, theme.selection), 4.5) << accent.name().toStdString();
+        }
+        const QColor chosen = qt::Theme::forPalette(withAccent(desktop, red)).selection;
+        EXPECT_GT(chosen.red(), chosen.green() + 15);
+        EXPECT_GT(chosen.red(), chosen.blue() + 15);
+        EXPECT_EQ(qt::Theme::paletteFor(withAccent(desktop, red)).color(QPalette::Highlight), red);
+        // An accent on which its own text is hard to read is not taken.
+        EXPECT_NE(qt::Theme::paletteFor(withAccent(desktop, Qt::yellow)).color(QPalette::Highlight), Qt::yellow);
+    }
+}
+
+TEST(Theme, IsTheDesktopsOwnWhereThatIsOneOfHighContrast) {
+    for (const auto& [ground, ink] : {std::pair{Qt::black, Qt::white}, std::pair{Qt::white, Qt::black}}) {
+        QPalette desktop = paletteOf(ground, ink);
+        desktop.setColor(QPalette::Base, ground);
+        desktop.setColor(QPalette::Text, ink);
+        const qt::Theme theme = qt::Theme::forPalette(desktop);
+        for (const QColor& edge : {theme.keyEdge, theme.fieldEdge, theme.text, theme.secondary, theme.dimText}) {
+            EXPECT_EQ(edge, QColor(ink));
+        }
+        for (const QColor& face : {theme.window, theme.field, theme.keyPlain, theme.keyYellow, theme.keyBlue}) {
+            EXPECT_EQ(face, QColor(ground));
+        }
+        EXPECT_GE(contrast(theme.onAccent, theme.accent), 20.0);
+        EXPECT_EQ(qt::Theme::paletteFor(qt::Theme::paletteFor(desktop)), qt::Theme::paletteFor(desktop));
+    }
+    EXPECT_NE(qt::Theme::forPalette(kDarkDesktop()).keyEdge, QColor(Qt::white));
+}
+
+TEST(Theme, KeysAreSeenAgainstTheWindowAndDisabledCaptionsAreRead) {
+    for (const QPalette& desktop : {kLightDesktop(), kDarkDesktop()}) {
+        const qt::Theme theme = qt::Theme::forPalette(desktop);
+        EXPECT_GE(contrast(theme.keyEdge, theme.window), 3.0);
+        EXPECT_GE(contrast(theme.fieldEdge, theme.window), 3.0);
+        for (const QColor& face : {theme.keyPlain, theme.keyMode, theme.keyOperator, theme.well, theme.window}) {
+            EXPECT_GE(contrast(theme.dimText, face), 4.5) << face.name().toStdString();
+        }
+        EXPECT_GE(contrast(theme.secondary, theme.field), 4.5) << "X at rest";
+        EXPECT_GE(contrast(theme.secondary, theme.window), 4.5);
+        EXPECT_GE(contrast(theme.onAccent, theme.accent), 4.5) << "Enter";
+    }
+}
+
+TEST_F(WindowPainting, MenusAndToolTipsTakeTheColoursOfTheWindow) {
+    for (const QPalette& desktop : {kDarkDesktop(), kLightDesktop()}) {
+        QApplication::setPalette(desktop);
+        QApplication::processEvents();
+        const qt::Theme theme = qt::Theme::forPalette(desktop);
+        EXPECT_EQ(window.menuBar()->palette().color(QPalette::Window), theme.window);
+        EXPECT_EQ(window.menuBar()->actions().first()->menu()->palette().color(QPalette::Base), theme.field);
+        EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipBase), theme.field);
+        EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipText), theme.fieldText);
+    }
+}
+
 TEST(Theme, ShowsTheThreeKindsOfKeysApart) {
     for (const QPalette& palette : {kLightDesktop(), kDarkDesktop()}) {
-        const qt::Theme& theme = qt::Theme::forPalette(palette);
+        const qt::Theme theme = qt::Theme::forPalette(palette);
         const std::set<QRgb> faces{theme.keyPlain.rgb(), theme.keyYellow.rgb(), theme.keyBlue.rgb()};
         EXPECT_EQ(faces.size(), 3U);
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/window_fixture.h"
 
+#include "desktops/qt/desktop_style.h"
+
 #include <QMenu>
 #include <QScreen>
 
@@ -143,6 +145,40 @@ TEST_F(Window, EndsByTheMenu) {
 TEST_F(Window, EndsByItsCloseButton) {
     EXPECT_TRUE(window.close());
     EXPECT_FALSE(form().open);
+}
+
+// A form that is fitted to one size before it is shown and to another one then makes its fonts twice.
+TEST_F(Window, HasItsSizeBeforeItIsShown) {
+    qt::MainWindow another(form(), '.');
+    another.fitsScreen = false;
+    another.present();
+    const QSize before = another.view().size();
+    EXPECT_EQ(another.scale(), qt::FormView::kUsualScale);
+    another.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&another));
+    EXPECT_EQ(another.view().size(), before);
+    EXPECT_EQ(another.scale(), qt::FormView::kUsualScale);
+}
+
+TEST_F(Window, GetsItsIconOnceItIsPainted) {
+    QTest::qWait(1);
+    EXPECT_FALSE(window.windowIcon().isNull());
+    EXPECT_EQ(window.windowIcon().availableSizes().size(), 7);
+}
+
+TEST(DesktopStyle, DrawsThePictureOfTheMenuBarsOwnButton) {
+    const qt::DesktopStyle style;
+    const QIcon icon = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
+    const QImage picture = icon.pixmap(16, 16).toImage();
+    int ink = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ink += picture.pixelColor(x, y).alpha() > 128 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(ink, 10);
+    EXPECT_LT(ink, 100);
+    EXPECT_FALSE(style.standardIcon(QStyle::SP_MessageBoxWarning, nullptr, nullptr).isNull());
 }
 
 TEST_F(Window, TellsTheFormWhereItStands) {

@@ -16,7 +16,7 @@ namespace {
 /// The sizes of captions, in points. A size is tried in a condensed face before a smaller one is.
 constexpr std::array kCaptionPoints{9.0, 7.0, 5.5};
 constexpr double kUsualPoints = 10.0;  ///< larger captions (digits, Enter) are as they are
-constexpr std::array kStretches{100, 88, 80};
+constexpr std::array kStretches{100, kCondensed};
 constexpr double kRaisedShare = 0.7;  ///< size of a raised exponent
 constexpr double kRaisedBy = 0.32;    ///< and how much of the height it is raised
 constexpr double kSmallestPixels = 6.0;
@@ -101,37 +101,45 @@ QString plainCaption(const Control& control) {
     return hasMark ? text.remove('&') : text;
 }
 
-FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTwip) {
-    QString caption = withSigns(shownText(control));
+namespace {
+
+FittedCaption fitWays(const QList<QStringList>& ways, const Font& font, QSizeF size, double pixelsPerTwip) {
     FittedCaption fitted;
-    const qsizetype mark = caption.indexOf('&');
-    const QChar access = mark >= 0 && mark + 1 < caption.size() ? caption.at(mark + 1) : QChar();
-    caption.remove('&');
-    const QList<QStringList> ways = breaks(caption);
     for (const double points : kCaptionPoints) {
-        if (points > std::max(static_cast<double>(control.font.points), kCaptionPoints.back())) {
+        if (points > std::max(static_cast<double>(font.points), kCaptionPoints.back())) {
             continue;
         }
-        const bool last = points == kCaptionPoints.back();
-        const double wished = control.font.points > kUsualPoints ? control.font.points : points;
+        const double wished = font.points > kUsualPoints ? font.points : points;
         for (const int stretch : kStretches) {
-            fitted.font = faceFont(control.font, fontPixels({.points = static_cast<float>(wished)}, pixelsPerTwip));
+            fitted.font = faceFont(font, fontPixels({.points = static_cast<float>(wished)}, pixelsPerTwip));
             fitted.font.setStretch(stretch);
-            const bool must = last && stretch == kStretches.back();
             const auto way = std::find_if(ways.begin(), ways.end(),
                                           [&](const QStringList& lines) { return fits(lines, fitted.font, size); });
-            if (way != ways.end() || must) {
-                fitted.lines = way != ways.end() ? *way : ways.back();
-                break;
+            if (way != ways.end()) {
+                fitted.lines = *way;
+                return fitted;
             }
         }
-        if (!fitted.lines.isEmpty()) {
-            break;
-        }
     }
+    fitted.lines = ways.back();
     while (!fits(fitted.lines, fitted.font, size) && fitted.font.pixelSize() > kSmallestPixels) {
         fitted.font.setPixelSize(fitted.font.pixelSize() - 1);
     }
+    return fitted;
+}
+
+}  // namespace
+
+FittedCaption fitText(const QString& text, const Font& font, QSizeF size, double pixelsPerTwip) {
+    return fitWays({text.split('\n')}, font, size, pixelsPerTwip);
+}
+
+FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTwip) {
+    QString caption = withSigns(shownText(control));
+    const qsizetype mark = caption.indexOf('&');
+    const QChar access = mark >= 0 && mark + 1 < caption.size() ? caption.at(mark + 1) : QChar();
+    caption.remove('&');
+    FittedCaption fitted = fitWays(breaks(caption), control.font, size, pixelsPerTwip);
     if (!access.isNull()) {
         for (int line = 0; line < fitted.lines.size() && fitted.accessLine < 0; ++line) {
             fitted.accessAt = static_cast<int>(fitted.lines.at(line).indexOf(access));

@@ -13,6 +13,9 @@
 
 namespace tallyforge::qt {
 
+/// How narrow the condensed face of captions is, percent of the usual one.
+inline constexpr int kCondensed = 80;
+
 /// A control's text as it reads on screen, access mark and all.
 [[nodiscard]] QString shownText(const Control& control);
 /// The same without the access mark.
@@ -28,6 +31,8 @@ struct FittedCaption {
 /// Breaks `caption` at a blank where one line does not fit `size`, and makes the font smaller
 /// until it does.
 [[nodiscard]] FittedCaption fitCaption(const Control& control, QSizeF size, double pixelsPerTwip);
+/// The same for a text whose lines stay as they are.
+[[nodiscard]] FittedCaption fitText(const QString& text, const Font& font, QSizeF size, double pixelsPerTwip);
 
 /// Width of a caption's line with what is raised in it.
 [[nodiscard]] double lineWidth(const QString& line, const QFont& font);

@@ -2,6 +2,7 @@
 #include "desktops/qt/control_painter.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <QPolygonF>
 
 #include <algorithm>
@@ -15,9 +16,7 @@ namespace {
 constexpr double kRowTwips = 200.0;
 constexpr double kListFontShare = 0.86;
 constexpr double kStackRowTwips = 175.0;
-constexpr double kNextSmaller = 0.92;
-constexpr double kRadius = 40.0;  ///< of keys, fields and lists, twips
-constexpr double kSmallestPixels = 6.0;
+constexpr double kRadius = 40.0;       ///< of keys, fields and lists, twips
 constexpr double kFieldMargin = 60.0;  ///< twips
 
 QString unicode(std::string_view bytes, Face face) {
@@ -101,6 +100,14 @@ QFont fieldFont(const Control& control, double height, double pixelsPerTwip) {
     return faceFont(control.font, std::min(fontPixels(control.font, pixelsPerTwip), height * 0.72));
 }
 
+namespace {
+
+double advance(const QString& text, const QFont& font) {
+    return text.isEmpty() ? 0.0 : QFontMetricsF(font).horizontalAdvance(text);
+}
+
+}  // namespace
+
 QString fittedFieldText(const Control& control, double width, const QFont& font) {
     return QFontMetricsF(font).elidedText(shownText(control), Qt::ElideMiddle, width);
 }
@@ -118,38 +125,44 @@ void paintField(QPainter& painter, const QRectF& area, const Control& control, c
     const QString text = resting        ? state.note
                          : state.typing ? shownText(control)
                                         : fittedFieldText(control, room, font);
-    if (const double needed = QFontMetricsF(font).horizontalAdvance(text); needed > room) {
+    // An empty field does not need the font, which takes its time at a start.
+    if (const double needed = advance(text, font); needed > room) {
         font.setPixelSize(std::max(static_cast<int>(font.pixelSize() * room / needed), 1));
     }
-    const QFontMetricsF metrics(font);
-    const double width = metrics.horizontalAdvance(text);
+    const double width = advance(text, font);
     const double left = control.rightAligned ? area.right() - margin - width : area.left() + margin;
-    const double baseline = area.center().y() - metrics.height() / 2.0 + metrics.ascent();
-    painter.setFont(font);
-    painter.setPen(resting ? theme.secondary : theme.fieldText);
-    painter.drawText(QPointF(left, baseline), text);
+    if (!text.isEmpty()) {
+        const QFontMetricsF metrics(font);
+        const double baseline = area.center().y() - metrics.height() / 2.0 + metrics.ascent();
+        painter.setFont(font);
+        painter.setPen(resting ? theme.secondary : theme.fieldText);
+        painter.drawText(QPointF(left, baseline), text);
+    }
     if (state.focused) {
+        constexpr double kHalfCaret = 0.49;  // of the font's size
         const auto typed = static_cast<qsizetype>(std::min(control.caret, control.text.size()));
-        const qsizetype caret = resting ? text.size() : typed;
-        const double at = left + metrics.horizontalAdvance(text.left(caret)) + 1.0;
+        const double at = left + advance(resting ? text : text.left(typed), font) + 1.0;
+        const QPointF half(0.0, font.pixelSize() * kHalfCaret);
+        const QPointF middle(at, area.center().y());
         painter.setPen(QPen(theme.fieldText, std::max(1.0, 12.0 * state.pixelsPerTwip)));
-        painter.drawLine(QPointF(at, baseline - metrics.ascent() * 0.9),
-                         QPointF(at, baseline + metrics.descent() * 0.6));
+        painter.drawLine(middle - half, middle + half);
     }
 }
 
 void paintLabel(QPainter& painter, const QRectF& area, const Control& control, const QString& text, const Theme& theme,
                 const PaintState& state) {
-    const double lineHeight = area.height() / static_cast<double>(text.count('\n') + 1);
-    double pixels = std::min(fontPixels(control.font, state.pixelsPerTwip), lineHeight * kListFontShare);
-    while (pixels > kSmallestPixels &&
-           QFontMetricsF(faceFont(control.font, pixels)).size(0, text).width() > area.width()) {
-        pixels *= kNextSmaller;
+    painter.setFont(fitText(text, control.font, area.size(), state.pixelsPerTwip).font);
+    constexpr int kRight = Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip;
+    constexpr int kLeft = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip;
+    // Headings of columns stand over both their ends.
+    if (const qsizetype gap = text.indexOf("   "); gap > 0) {
+        painter.setPen(theme.secondary);
+        painter.drawText(area, kLeft, text.left(gap));
+        painter.drawText(area, kRight, text.mid(gap).trimmed());
+        return;
     }
-    painter.setFont(faceFont(control.font, pixels));
     painter.setPen(theme.text);
-    const Qt::Alignment side = control.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
-    painter.drawText(area, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip, text);
+    painter.drawText(area, control.rightAligned ? kRight : kLeft, text);
 }
 
 void paintOption(QPainter& painter, const QRectF& area, const Control& control, const Theme& theme,
@@ -168,8 +181,7 @@ void paintOption(QPainter& painter, const QRectF& area, const Control& control, 
     const QRectF textArea = area.adjusted(size + kBesideRing * state.pixelsPerTwip, 0, 0, 0);
     FittedCaption caption = fitCaption(control, textArea.size(), state.pixelsPerTwip);
     // All options alike, and narrow enough for the longest.
-    constexpr int kNarrow = 80;
-    caption.font.setStretch(kNarrow);
+    caption.font.setStretch(kCondensed);
     painter.setFont(caption.font);
     painter.setPen(control.enabled ? theme.text : theme.dimText);
     painter.drawText(textArea, Qt::AlignLeft | Qt::AlignVCenter, caption.lines.join(' '));
@@ -216,13 +228,22 @@ QString fittedRow(const Control& list, std::size_t row, double width, const QFon
 
 namespace {
 
-/// A line of a log is a label and a value behind at least two blanks, a value alone, or words.
-struct LogLine {
+/// A row's left side, in a paler ink, and its right side, at the right edge.
+struct RowParts {
     QString label;
     QString value;
 };
 
-LogLine parted(const QString& line) {
+/// A row of the stack is its number and, behind blanks, its value.
+RowParts numbered(const QString& line) {
+    const QString text = line.trimmed();
+    const qsizetype gap = text.indexOf(' ');
+    return gap < 0 ? RowParts{.label = {}, .value = text}
+                   : RowParts{.label = text.left(gap), .value = text.mid(gap).trimmed()};
+}
+
+/// A line of a log is a label and a value behind at least two blanks, a value alone, or words.
+RowParts parted(const QString& line) {
     const QString text = line.trimmed();
     const qsizetype gap = text.lastIndexOf("  ");
     if (gap >= 0) {
@@ -231,11 +252,10 @@ LogLine parted(const QString& line) {
     static const QString kOfNumbers = "0123456789.,:-+#eEABCDFabcdho ";
     const bool number = !text.isEmpty() && (text.front().isDigit() || QString("-#.,").contains(text.front())) &&
                         std::all_of(text.begin(), text.end(), [](QChar c) { return kOfNumbers.contains(c); });
-    return number ? LogLine{.label = {}, .value = text} : LogLine{.label = line, .value = {}};
+    return number ? RowParts{.label = {}, .value = text} : RowParts{.label = line, .value = {}};
 }
 
-void paintLogLine(QPainter& painter, const QRectF& place, double baseline, const QString& line, const Theme& theme) {
-    const LogLine parts = parted(line);
+void paintParts(QPainter& painter, const QRectF& place, double baseline, const RowParts& parts, const Theme& theme) {
     const QFontMetricsF metrics(painter.font());
     painter.setPen(parts.value.isEmpty() ? theme.fieldText : theme.secondary);
     painter.drawText(QPointF(place.left(), baseline), parts.label);
@@ -243,10 +263,22 @@ void paintLogLine(QPainter& painter, const QRectF& place, double baseline, const
     painter.drawText(QPointF(place.right() - metrics.horizontalAdvance(parts.value), baseline), parts.value);
 }
 
-void paintFirstSteps(QPainter& painter, const QRectF& area, const Control& list, const Theme& theme,
-                     const PaintState& state) {
-    QFont font = faceFont({.face = Face::Arial}, fontPixels(list.font, state.pixelsPerTwip) * 0.85);
-    painter.setFont(font);
+void paintRow(QPainter& painter, const QRectF& place, const Control& list, std::size_t row, const Theme& theme,
+              const PaintState& state) {
+    const double margin = 40.0 * state.pixelsPerTwip;
+    const QRectF inside = place.adjusted(margin, 0.0, -margin - state.scrollBar, 0.0);
+    const QString text = fittedRow(list, row, inside.width(), painter.font());
+    if (text.isEmpty()) {
+        return;  // nor is the font needed, which takes its time at a start
+    }
+    const QFontMetricsF metrics(painter.font());
+    const double baseline = place.center().y() - metrics.height() / 2.0 + metrics.ascent();
+    paintParts(painter, inside, baseline, list.fromBottom ? parted(text) : numbered(text), theme);
+}
+
+void paintFirstSteps(QPainter& painter, const QRectF& area, const Theme& theme, const PaintState& state) {
+    const Font caption{.face = Face::Arial, .points = 7.0F};
+    painter.setFont(faceFont(caption, fontPixels(caption, state.pixelsPerTwip)));
     painter.setPen(theme.secondary);
     painter.drawText(area, Qt::AlignCenter, state.note);
 }
@@ -261,30 +293,22 @@ void paintList(QPainter& painter, const QRectF& area, const Control& list, std::
         return;
     }
     if (!state.note.isEmpty()) {
-        paintFirstSteps(painter, area, list, theme, state);
+        paintFirstSteps(painter, area, theme, state);
     }
     const ListMetrics rows = listMetrics(list, area.height(), state.pixelsPerTwip);
-    const QFont font = listFont(list, rows, state.pixelsPerTwip);
-    const QFontMetricsF metrics(font);
-    painter.setFont(font);
-    painter.setClipRect(area.adjusted(1, 1, -1, -1));
+    painter.setFont(listFont(list, rows, state.pixelsPerTwip));
+    // The row that is chosen keeps off the round corners.
+    QPainterPath inside;
+    inside.addRoundedRect(area.adjusted(1, 1, -1, -1), radius, radius);
+    painter.setClipPath(inside);
     const std::size_t last = std::min(list.rows->count(), first + rows.visibleRows);
-    const double margin = 40.0 * state.pixelsPerTwip;
     for (std::size_t row = first; row < last; ++row) {
         const QRectF place(area.left(), area.top() + rows.top + static_cast<double>(row - first) * rows.rowHeight,
                            area.width(), rows.rowHeight);
         if (row == list.rows->selected()) {
-            painter.fillRect(place.adjusted(1, 1, -1, 0), theme.selection);
+            painter.fillRect(place, theme.selection);
         }
-        painter.setPen(theme.fieldText);
-        const double baseline = place.center().y() - metrics.height() / 2.0 + metrics.ascent();
-        const QRectF inside = place.adjusted(margin, 0.0, -margin - state.scrollBar, 0.0);
-        const QString text = fittedRow(list, row, inside.width(), font);
-        if (list.fromBottom) {
-            paintLogLine(painter, inside, baseline, text, theme);
-        } else {
-            painter.drawText(QPointF(inside.left(), baseline), text);
-        }
+        paintRow(painter, place, list, row, theme, state);
     }
     painter.setClipping(false);
     if (state.focused) {

@@ -4,6 +4,7 @@
 #include "desktops/qt/form_view.h"
 #include "desktops/qt/main_window.h"
 #include "desktops/qt/theme.h"
+#include "desktops/qt/window_place.h"
 #include "platform/dialog_run.h"
 #include "platform/form_input.h"
 #include "platform/text.h"
@@ -18,9 +19,6 @@
 namespace tallyforge::qt {
 
 namespace {
-
-/// What a window manager puts around a window, where it has not said so yet.
-constexpr QSize kUsualFrame(2, 34);
 
 QScreen* screenOf(const QWidget* widget) {
     return widget == nullptr ? QGuiApplication::primaryScreen() : widget->screen();
@@ -65,8 +63,7 @@ void DialogWindow::place(const MainWindow* mainWindow) {
     const QSize size = view_->usualSize() + kUsualFrame;
     const QPoint wish = mainWindow->pos() + QPoint(pixels(form_.place.left - mainWindow->form().place.left),
                                                    pixels(form_.place.top - mainWindow->form().place.top));
-    move(std::clamp(wish.x(), room.left(), std::max(room.left(), room.right() + 1 - size.width())),
-         std::clamp(wish.y(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height())));
+    move(placeInside(room, wish, size));
 }
 
 void DialogWindow::run() {

@@ -3,6 +3,7 @@
 
 #include "desktops/qt/app_icon.h"
 #include "desktops/qt/theme.h"
+#include "desktops/qt/window_place.h"
 #include "help/inline_text.h"
 
 #include <QApplication>
@@ -222,13 +223,13 @@ void HelpWindow::recallPlace() {
 void HelpWindow::standBeside(const QWidget* calculator) {
     const QScreen* screen = calculator == nullptr ? QGuiApplication::primaryScreen() : calculator->screen();
     const QRect room = screen->availableGeometry();
-    resize(kUsualSize.boundedTo(room.size()));
+    resize(kUsualSize.boundedTo(room.size() - kUsualFrame));
     if (calculator != nullptr) {
         const QRect taken = calculator->frameGeometry();
         const bool right = room.right() - taken.right() >= taken.left() - room.left();
-        const int left = right ? taken.right() + 1 : taken.left() - width();
-        move(std::clamp(left, room.left(), std::max(room.left(), room.right() + 1 - width())),
-             std::clamp(taken.top(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+        const QSize outer = size() + kUsualFrame;
+        const int left = right ? taken.right() + 1 : taken.left() - outer.width();
+        move(placeInside(room, QPoint(left, taken.top()), outer));
     }
 }
 

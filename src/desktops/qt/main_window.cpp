@@ -2,18 +2,22 @@
 #include "desktops/qt/main_window.h"
 
 #include "desktops/qt/app_icon.h"
+#include "desktops/qt/theme.h"
+#include "desktops/qt/window_place.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMoveEvent>
 #include <QScreen>
 #include <QSettings>
 #include <QTimer>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -40,8 +44,8 @@ QString caption(const Control& control) {
 
 MainWindow::MainWindow(Form& form, char decimal)
     : form_(form), view_(new FormView(form, decimal, this)), wish_(FormView::kUsualScale) {
+    followTheme();
     setWindowTitle(QString::fromStdString(toUnicode(form.title, Face::Arial)));
-    setWindowIcon(appIcon());
     setCentralWidget(view_);
     buildMenus();
     view_->formChanged = [this] { syncWindow(); };
@@ -152,9 +156,8 @@ void MainWindow::syncWindow() {
 
 // The window manager's frame is unknown until the window stands; until then it is taken as usual.
 QSize MainWindow::frame() const {
-    constexpr QSize kUsual(4, 36);
     const QSize around = frameGeometry().size() - size();
-    return knownFrame_.isValid() || !around.isNull() ? around : kUsual;
+    return knownFrame_.isValid() || !around.isNull() ? around : kUsualFrame;
 }
 
 // The largest scale at which the whole form stands on the screen.
@@ -173,6 +176,8 @@ void MainWindow::takeSize(double scale) {
         const bool outer = !std::exchange(sizing_, true);
         const QSize contents = view_->sizeAt(std::min(scale, limit));
         resize(contents.width(), contents.height() + menuBar()->sizeHint().height());
+        // The view has its size now, and not only when the window is shown: everything is fitted once.
+        layout()->activate();
         sizing_ = !outer;
         keepOnScreen();
     }
@@ -187,8 +192,7 @@ void MainWindow::keepOnScreen() {
     const QRect room = screen()->availableGeometry();
     const QSize outer = size() + frame();
     const QPoint wished = home_ && pos() == away_ ? *home_ : pos();
-    const QPoint kept(std::clamp(wished.x(), room.left(), std::max(room.left(), room.right() + 1 - outer.width())),
-                      std::clamp(wished.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outer.height())));
+    const QPoint kept = placeInside(room, wished, outer);
     if (kept != pos()) {
         home_ = kept == wished ? std::nullopt : std::optional(wished);
         away_ = kept;
@@ -222,6 +226,17 @@ void MainWindow::storeSize() const {
     QSettings("Oakhollow", "Tallyforge").setValue(kZoomKey, wish_ / FormView::kUsualScale);
 }
 
+// What a first look does not need comes after it.
+void MainWindow::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (!std::exchange(seen_, true)) {
+        QTimer::singleShot(0, this, [this] {
+            setWindowIcon(appIcon());
+            colourPopups();
+        });
+    }
+}
+
 void MainWindow::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     // Frames come some time after the window.
@@ -247,6 +262,29 @@ void MainWindow::moveEvent(QMoveEvent* event) {
     }
     QMainWindow::moveEvent(event);
     noteFrame();
+}
+
+void MainWindow::followTheme() {
+    if (const QPalette wanted = Theme::paletteFor(QApplication::palette()); wanted != palette()) {
+        setPalette(wanted);
+        colourPopups();
+    }
+}
+
+// Menus are windows of their own.
+void MainWindow::colourPopups() {
+    QToolTip::setPalette(palette());
+    for (QMenu* menu : findChildren<QMenu*>()) {
+        menu->setPalette(palette());
+    }
+}
+
+bool MainWindow::event(QEvent* event) {
+    const bool done = QMainWindow::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) {
+        followTheme();
+    }
+    return done;
 }
 
 void MainWindow::changeEvent(QEvent* event) {

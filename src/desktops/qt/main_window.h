@@ -41,7 +41,9 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -59,6 +61,9 @@ private:
     void storeSize() const;
     void leaveMenus();
     void choose(Control& entry);
+    /// Takes the theme's colours for menus and tool tips, too.
+    void followTheme();
+    void colourPopups();
 
     struct MenuAction {
         Control* entry;
@@ -76,6 +81,7 @@ private:
     int shownHeight_ = 0;
     bool onTop_ = false;
     bool presented_ = false;
+    bool seen_ = false;  ///< it has been painted once
 };
 
 }  // namespace tallyforge::qt

@@ -15,7 +15,7 @@ namespace {
 constexpr double kRadius = 3.0;
 
 /// The theme of the window that holds the widget: it may be disabled, and still stands on its colours.
-const Theme& themeOf(const QStyleOption& option) {
+Theme themeOf(const QStyleOption& option) {
     return Theme::forPalette(option.palette);
 }
 

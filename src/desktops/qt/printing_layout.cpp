@@ -160,7 +160,7 @@ void PrintLayout::paintHead(QPainter& painter, int page) const {
 void PrintLayout::paintPiece(QPainter& painter, const Piece& piece) const {
     const Flow& flow = flows_[piece.flow];
     if (flow.picture != nullptr) {
-        const Theme& onPaper = Theme::forPalette(QPalette(Qt::white, Qt::white));
+        const Theme onPaper = Theme::forPalette(QPalette(QColor(Qt::lightGray)));
         paintDrawing(painter, QRectF(0.0, piece.top, width_, flow.height), *flow.picture, onPaper);
         return;
     }

@@ -23,7 +23,7 @@ struct Theme {
     QColor field;
     QColor fieldText;
     QColor fieldEdge;
-    QColor selection;
+    QColor selection{};  ///< under the row that is chosen, with the desktop's accent in it
     QColor lamp;
     QColor secondary;  ///< labels on the tape, X at rest, first steps
     QColor accent;     ///< Enter, the focus
@@ -37,11 +37,18 @@ struct Theme {
     [[nodiscard]] const QColor& keyFace(const Control& key) const;
     /// Ink on it; dim for a key that is disabled, or idle under the modifiers that are held.
     [[nodiscard]] const QColor& keyText(const Control& key, bool idle = false) const;
-    /// The theme for a desktop of this palette: dark where its windows are.
-    [[nodiscard]] static const Theme& forPalette(const QPalette& palette);
-    /// The desktop's palette with this theme's colours, for Qt's own widgets in a dialog.
+    /// The theme for a desktop of this palette: dark where its windows are, its accent for what is
+    /// chosen, and all colours its own where it is one of high contrast.
+    [[nodiscard]] static Theme forPalette(const QPalette& palette);
+    /// The desktop's palette with this theme's colours, for Qt's own widgets, menus and tool tips.
     [[nodiscard]] static QPalette paletteFor(const QPalette& desktop);
+
+private:
+    void takeOver(const QPalette& palette);
 };
+
+/// Contrast of two colours as the accessibility guidelines for the web define it, 1 to 21.
+[[nodiscard]] double contrast(const QColor& one, const QColor& other);
 
 /// The font for `font` with text `pixels` high.
 [[nodiscard]] QFont faceFont(const Font& font, double pixels);
