@@ -64,9 +64,6 @@ ParameterDialog::ParameterDialog(Engine& engine, const ParameterTable& parameter
 
 void ParameterDialog::ask() {
     calc.platform.showDialog(*this);
-    if (valuesAsked_) {
-        owner.showValues();
-    }
 }
 
 void ParameterDialog::makeGroups() {
@@ -138,10 +135,7 @@ void ParameterDialog::hangKeys() {
     cmdOk.click = [this] { cmdOk_Click(); };
     cmdCancel.click = [this] { open = false; };
     cmdDefault.click = [this] { cmdDefault_Click(); };
-    cmdValues.click = [this] {
-        valuesAsked_ = true;
-        open = false;
-    };
+    cmdValues.click = [this] { owner.showValues(); };
     defaultKey = cmdOk.visible ? &cmdOk : nullptr;
     cancelKey = &cmdCancel;
 }

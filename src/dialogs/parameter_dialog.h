@@ -64,7 +64,7 @@ struct ParameterOwner {
     double* number = nullptr;                   ///< of the field
     /// Asks whether the units in force of these ranges are to be the default; whether they are now.
     std::function<bool(std::span<const UnitRange* const>)> saveUnits{};
-    /// Typical values; the key is disabled where there are none. The dialog is closed before.
+    /// Opens a list of typical values over the dialog; the key is disabled where there is none.
     std::function<void()> showValues{};
 };
 
@@ -105,7 +105,6 @@ private:
     ParameterChoice chosen_;
     std::deque<Group> groups_;
     Control tick_, lblField_, field_, lblNote_, lblFormula_;
-    bool valuesAsked_ = false;
 };
 
 }  // namespace tallyforge

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypads/constants_key.h"
 
+#include "dialogs/parameter_dialog.h"
+#include "electrical/parameter_tables.h"
 #include "engine/results.h"
 #include "keypads/keys.h"
 #include "reference/material_lists.h"
 #include "reference/physical_constants.h"
+
+#include <optional>
+#include <utility>
 
 namespace tallyforge {
 
@@ -66,8 +71,15 @@ void pickSpecificGravity(Keys& keys) {
     keys.lists.specificGravity();
 }
 
-void pickResistivity(Keys& keys) {
-    if (const auto taken = keys.lists.resistivity(); taken && keys.calc.commit.FetchX()) {
+void chooseResistivity(Keys& keys) {
+    std::optional<ListChoice> taken;
+    const auto pick = [&] {
+        if (auto chosen = keys.lists.resistivity()) {
+            taken = std::move(chosen);
+        }
+    };
+    ParameterDialog(keys.calc, kResistivityTable, {.saveUnits = keys.saveUnits, .showValues = pick}).ask();
+    if (taken && keys.calc.commit.FetchX()) {
         pushAtOnce(keys.calc, {ValueCell{taken->value}, kRhoUnit}, true);
     }
     keys.calc.focusEntry();

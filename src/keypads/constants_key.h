@@ -20,7 +20,8 @@ void pickAndKeepConstant(Keys& keys);
 void pickPrefix(Keys& keys);
 void pickSpecificGravity(Keys& keys);
 
-/// A resistivity picked from the list of materials goes on the stack under its unit.
-void pickResistivity(Keys& keys);
+/// The units of the resistivity key; a resistivity that is picked from the list of materials
+/// meanwhile goes on the stack under its unit when their dialog closes.
+void chooseResistivity(Keys& keys);
 
 }  // namespace tallyforge

@@ -197,12 +197,7 @@ const KeypadTable kEngineeringKeypad{
          .silentOperand = true,
          .helpTopic = 1120,
          .does = [](Keys& keys) { keys.electrical.resistors.resistivity(); },
-         .choose =
-             [](Keys& keys) {
-                 ParameterDialog(keys.calc, kResistivityTable,
-                                 {.saveUnits = keys.saveUnits, .showValues = [&keys] { pickResistivity(keys); }})
-                     .ask();
-             }},
+         .choose = chooseResistivity},
         {.key = key::ResistanceByTemperature,
          .caption = "rT",
          .tip = " Change in resistance vs temperature: Click: Calculator | Shift+Click: TC | Ctrl+: R1 | Alt+: R2 | "
