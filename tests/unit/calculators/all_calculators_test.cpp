@@ -237,7 +237,10 @@ TEST_F(AllCalculators, CtrlPPrintsThePictureAndWhatTheFieldsShow) {
         platform.printedPictures.clear();
         openWith(*table, 0, 7.0, [&](DialogAtHand hand) {
             hand.clickOn("txtVal", 0);
+            const std::string clears = table->units.empty() ? "cmdClear" : "cmdDefault";
+            const std::string caption = hand.at(clears).text;
             pressKey(hand.form, {.keyCode = 'P', .shift = kCtrl, .character = 'P' - '@'});
+            EXPECT_EQ(hand.at(clears).text, caption) << "nothing was typed";
             EXPECT_TRUE(hand.form.open);
             closeForm(hand.form);
         });

@@ -174,6 +174,49 @@ TEST_F(LoanTest, PeriodsAndYearsTellThePaymentsAYear) {
     });
 }
 
+TEST_F(LoanTest, OfYearsPaymentsAYearAndPeriodsTheThirdFollowsInAnyOrder) {
+    enum { kYears = 1, kPpy, kPeriods };
+    const auto given = [&](int first, const char* one, int second, const char* other) {
+        std::vector<std::string> fields;
+        openLoan([&](DialogAtHand hand) {
+            hand.clickOn("txtVal", first);
+            hand.enter(one);
+            hand.clickOn("txtVal", second);
+            hand.enter(other);
+            fields = {hand.field(kYears), hand.field(kPpy), hand.field(kPeriods)};
+        });
+        platform.boxes.clear();
+        return fields;
+    };
+    const std::vector<std::string> all{"5", "12", "60"};
+    EXPECT_EQ(given(kYears, "5", kPpy, "12"), all);
+    EXPECT_EQ(given(kPpy, "12", kYears, "5"), all);
+    EXPECT_EQ(given(kYears, "5", kPeriods, "60"), all);
+    EXPECT_EQ(given(kPeriods, "60", kYears, "5"), all);
+    EXPECT_EQ(given(kPpy, "12", kPeriods, "60"), all);
+    EXPECT_EQ(given(kPeriods, "60", kPpy, "12"), all);
+}
+
+TEST_F(LoanTest, InterestsOfAYearAndOfAPeriodFollowFromEachOther) {
+    enum { kPpy = 2, kApr = 4, kRate = 5 };
+    const auto given = [&](int first, const char* one, int second, const char* other) {
+        std::vector<std::string> fields;
+        openLoan([&](DialogAtHand hand) {
+            hand.clickOn("txtVal", first);
+            hand.enter(one);
+            hand.clickOn("txtVal", second);
+            hand.enter(other);
+            fields = {hand.at("lblUnits", kApr).text, hand.at("lblUnits", kRate).text};
+        });
+        return fields;
+    };
+    const std::vector<std::string> all{"6 %", "0.5 %"};
+    EXPECT_EQ(given(kPpy, "12", kApr, "6"), all);
+    EXPECT_EQ(given(kApr, "6", kPpy, "12"), all);
+    EXPECT_EQ(given(kPpy, "12", kRate, "0.5"), all);
+    EXPECT_EQ(given(kRate, "0.5", kPpy, "12"), all);
+}
+
 TEST_F(LoanTest, ANegativeInterestIsRefused) {
     openLoan([&](DialogAtHand hand) {
         hand.enter("1000");

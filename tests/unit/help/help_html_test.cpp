@@ -51,6 +51,19 @@ TEST(HelpHtml, APageHasItsTitleSectionsAndExamples) {
     EXPECT_EQ(shown.find("color"), std::string::npos);
 }
 
+TEST(HelpHtml, ATableHasAHeadAndRowsAndAListItsItems) {
+    HelpPage page{.title = "Units", .name = "units"};
+    page.body = "| A | `b` |\n|---|---|\n| 1 | 2 < 3 |\n| 4 | |\n\n- one\n- *two*\n\n```text\na <b>\n```\n";
+    const std::string shown = helpPageHtml(page, {});
+    EXPECT_NE(shown.find("<tr><th align=\"left\">A</th><th align=\"left\"><code>b</code></th></tr>"
+                         "<tr><td class=\"word\">1</td><td>2 &lt; 3</td></tr><tr><td class=\"word\">4</td><td "
+                         "class=\"word\"></td></tr></table>"),
+              std::string::npos)
+        << shown;
+    EXPECT_NE(shown.find("<ul><li>one</li><li><i>two</i></li></ul>"), std::string::npos) << shown;
+    EXPECT_NE(shown.find("<pre class=\"text\">a &lt;b&gt;</pre>"), std::string::npos) << shown;
+}
+
 TEST(HelpHtml, AnExampleThatTouchesFilesOrSettingsIsNotOffered) {
     EXPECT_TRUE(canBeTried({.keys = "menu mnuTrig\ntype 2\nclick cmdEnter\nshow x\n", .out = {}}));
     EXPECT_FALSE(canBeTried({.keys = "type 2\nmenu mnuSave\n", .out = {}}));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/form_drawing.h"
 
+#include "platform/row_texts.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -74,6 +76,69 @@ TEST(FormDrawing, WhatIsHiddenIsNotDrawn) {
     sheet.label.visible = false;
     sheet.picture.visible = false;
     EXPECT_EQ(textsOf(drawnForm(sheet)).size(), 2U);
+}
+
+/// A dialog of a list, a frame and a box.
+class Furnished : public Form {
+public:
+    Furnished() : Form("frmFurnished", "Furnished") {
+        place = {.width = 3000, .height = 2000};
+        list.kind = ControlKind::List;
+        list.rows = &rows;
+        list.font.points = 10.0F;
+        list.place = {.left = 100, .top = 100, .width = 1000, .height = 800};
+        frame.kind = ControlKind::Frame;
+        frame.text = "&Units";
+        frame.place = {.left = 1200, .top = 100, .width = 1000, .height = 600};
+        box.kind = ControlKind::Check;
+        box.text = "&Copper";
+        box.checked = true;
+        box.place = {.left = 1200, .top = 1000, .width = 1000, .height = 200};
+        for (Control* control : {&list, &frame, &box}) {
+            enrol(*control);
+        }
+    }
+    RowTexts rows{{"one\ttwo", "three", "four", "five"}};
+    Control list, frame, box;
+};
+
+TEST(FormDrawing, AListShowsTheRowsThatItHasRoomFor) {
+    const Furnished form;
+    const auto texts = textsOf(drawnForm(form));
+    ASSERT_EQ(texts.size(), 5U);
+    EXPECT_EQ(texts[0].text, "one two");
+    EXPECT_EQ(texts[2].text, "four");
+    // Ten points are 200 twips, a line a quarter more, and the base line 0.35 below its middle.
+    EXPECT_FLOAT_EQ(texts[0].at.x, 160.0F);
+    EXPECT_FLOAT_EQ(texts[0].at.y, 100.0F + 125.0F + 70.0F);
+    EXPECT_FLOAT_EQ(texts[1].at.y, texts[0].at.y + 250.0F);
+    EXPECT_FLOAT_EQ(texts[2].at.y, texts[0].at.y + 500.0F) << "800 twips are three lines";
+}
+
+TEST(FormDrawing, FramesHaveTheirHeadingAndBoxesTheirMark) {
+    Furnished form;
+    const Drawing drawing = drawnForm(form);
+    const auto texts = textsOf(drawing);
+    EXPECT_EQ(texts[3].text, "Units");
+    EXPECT_FLOAT_EQ(texts[3].at.x, 1260.0F);
+    EXPECT_FLOAT_EQ(texts[3].at.y, 100.0F + 0.7F * 200.0F + 70.0F);
+    EXPECT_EQ(texts[4].text, "Copper");
+    std::vector<DrawnRectangle> boxes;
+    for (const DrawnShape& shape : drawing.shapes) {
+        if (const auto* one = std::get_if<DrawnRectangle>(&shape)) {
+            boxes.push_back(*one);
+        }
+    }
+    ASSERT_EQ(boxes.size(), 4U) << "list, frame, box and its mark";
+    EXPECT_EQ(boxes[1].topLeft, (DrawnPoint{1200.0F, 100.0F}));
+    EXPECT_EQ(boxes[2].topLeft, (DrawnPoint{1210.0F, 1010.0F}));
+    EXPECT_EQ(boxes[2].width, 180.0F);
+    EXPECT_EQ(boxes[3].topLeft, (DrawnPoint{1255.0F, 1055.0F}));
+    EXPECT_EQ(boxes[3].fill.ink, Ink::Plain);
+    form.box.checked = false;
+    EXPECT_EQ(std::get<DrawnRectangle>(drawnForm(form).shapes.at(drawing.shapes.size() - 2)).fill.ink, Ink::None);
+    form.list.rows = nullptr;
+    EXPECT_EQ(textsOf(drawnForm(form)).size(), 2U);
 }
 
 TEST(FormDrawing, ALongLabelIsBrokenAtBlanksAndKeepsItsWords) {

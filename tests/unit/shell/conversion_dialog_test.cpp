@@ -334,6 +334,49 @@ TEST_F(ConversionDialogTest, CtrlFFindsAUnitOnAnyKeypadAndConvertsWithIt) {
     EXPECT_EQ(x(), "0.142613030540856");
 }
 
+TEST_F(ConversionDialogTest, ArrowsWalkTheFoundUnitsWhileTheLettersStay) {
+    platform.inDialog = [&](Form& dialog) {
+        dialog.open = true;
+        const ListRows& rows = *dialog.find("lstUnits")->rows;
+        typeIn(dialog, "inch");
+        ASSERT_GT(rows.count(), 2U);
+        EXPECT_EQ(rows.selected(), 0U);
+        key(dialog, kKeyUp);
+        EXPECT_EQ(rows.selected(), 0U);
+        key(dialog, kKeyDown);
+        EXPECT_EQ(rows.selected(), 1U);
+        key(dialog, kKeyDown);
+        key(dialog, kKeyUp);
+        EXPECT_EQ(rows.selected(), 1U);
+        for (std::size_t row = 0; row < rows.count() + 2; ++row) {
+            key(dialog, kKeyDown);
+        }
+        EXPECT_EQ(rows.selected(), rows.count() - 1);
+        EXPECT_EQ(dialog.find("txtFind")->text, "inch");
+        EXPECT_EQ(focused(dialog), "txtFind");
+        key(dialog, kKeyEscape, 27);
+    };
+    put({"4"});
+    press('F', 6, kCtrl);
+    EXPECT_EQ(x(), "4");
+}
+
+TEST_F(ConversionDialogTest, LeftAndRightGoFromColumnToColumn) {
+    show(kAreaTable, 1, [](ConversionDialog& dialog) {
+        Control& first = *dialog.find("OptArea", 0);
+        click(dialog, first);
+        key(dialog, kKeyRight);
+        ASSERT_NE(dialog.focus, &first);
+        EXPECT_EQ(dialog.focus->place.top, first.place.top);
+        EXPECT_GT(dialog.focus->place.left, first.place.left);
+        EXPECT_TRUE(dialog.focus->checked);
+        key(dialog, kKeyLeft);
+        EXPECT_EQ(dialog.focus, &first);
+        key(dialog, kKeyLeft);
+        EXPECT_EQ(dialog.focus, &first) << "there is none to the left";
+    });
+}
+
 TEST_F(ConversionDialogTest, CtrlFLeftWithEscapeChangesNothing) {
     platform.inDialog = [&](Form& dialog) {
         dialog.open = true;

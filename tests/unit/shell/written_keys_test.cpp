@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -51,7 +52,7 @@ protected:
             text += " | " + toUnicode(line, Face::Terminal);
         }
         for (const MessageBox& box : platform.boxes) {
-            text += " [" + box.title + ": " + box.text.substr(0, 60) + "]";
+            text += " [" + toUnicode(box.title + ": " + box.text.substr(0, 60), Face::Arial) + "]";
         }
         for (const std::string& dialog : platform.dialogs) {
             text += " (" + dialog + ")";
@@ -92,6 +93,32 @@ TEST_F(WrittenKeys, EachLeavesWhatIsWritten) {
         }
     }
     expectAsWritten("key_presses", all_);
+}
+
+// The keys that take several numbers, one under each modifier: all of them but one, in turn.
+TEST_F(WrittenKeys, EachSetOfInputsLeavesWhatIsWritten) {
+    constexpr std::array kNumbers{"12", "8", "3", "5", "2", "30", "0.5", "1.5"};
+    for (const KeypadTable* table : keypadTables()) {
+        start();
+        for (std::size_t key = 0; key < kBankKeys; ++key) {
+            for (std::uint8_t without = 0; without < 8; ++without) {
+                prepare(table->id, {});
+                for (std::uint8_t mask = 0; mask < 8; ++mask) {
+                    const KeyRow& row = table->rows.at(key);
+                    if (mask == without || row.functionUnder(mask) == nullptr) {
+                        continue;
+                    }
+                    type(kNumbers.at(mask));
+                    clickWith(mask, form().cmdFunctions.at(key));
+                }
+                std::string line = std::string(table->name) + " " + std::to_string(key) + " without " +
+                                   std::to_string(without) + ": " + left();
+                std::replace(line.begin(), line.end(), '\n', '\\');
+                all_.push_back(line);
+            }
+        }
+    }
+    expectAsWritten("key_sets", all_);
 }
 
 TEST_F(WrittenKeys, AFactorialShowsAllItsDigitsUpToThatOfSixteen) {
