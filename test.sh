@@ -70,6 +70,7 @@ step_asan() {
 step_lint() {
     tools/build debug
     tools/lint build/debug
+    tests/tools/lint_test
 }
 
 # The same inputs each time, so that what fails here fails again; tools/fuzz looks for new ones.
