@@ -18,7 +18,8 @@ case "${1:-run}" in
         ;;
     test)
         wanted+=(ccache python3 libgtest-dev librapidcheck-dev libbenchmark-dev
-                 clang libclang-rt-14-dev clang-format clang-tidy)
+                 clang libclang-rt-14-dev clang-format clang-tidy
+                 poppler-utils units xvfb xauth dbus-daemon at-spi2-core python3-dbus)
         ;;
     bench)
         wanted+=(libbenchmark-dev)

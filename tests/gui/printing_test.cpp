@@ -59,6 +59,14 @@ QStringList pagesOf(const QString& pdf) {
 
 class PrintingTest : public testing::Test {
 protected:
+    /// Puts the text of the next message box into `told` and closes the box.
+    void readNextBox(QString& told) {
+        whenOpen<QMessageBox>([&told](QMessageBox& box) {
+            told = box.text();
+            box.accept();
+        });
+    }
+
     /// Runs as soon as a modal window of that kind is open.
     template <typename Window>
     void whenOpen(std::function<void(Window&)> act) {
@@ -205,11 +213,7 @@ TEST_F(PrintingTest, AFileThatCannotBeWrittenIsTold) {
     const PrintJob job = tapeOf(10);
     qt::PrintPreview preview(job, nullptr);
     QString told;
-    const auto read = [&](QMessageBox& box) {
-        told = box.text();
-        box.accept();
-    };
-    whenOpen<QMessageBox>(read);
+    readNextBox(told);
     EXPECT_FALSE(preview.savePdf(folder.filePath("missing/tape.pdf")));
     EXPECT_TRUE(told.contains("missing/tape.pdf cannot be written")) << told.toStdString();
     qt::PrintEnd onFullDisk = qt::PrintEnd::Done;
@@ -227,11 +231,7 @@ TEST_F(PrintingTest, APrinterThatIsNotThereIsTold) {
     const PrintJob job = tapeOf(10);
     qt::PrintPreview preview(job, nullptr);
     QString told;
-    const auto read = [&](QMessageBox& box) {
-        told = box.text();
-        box.accept();
-    };
-    whenOpen<QMessageBox>(read);
+    readNextBox(told);
     QPrinter printer;
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(folder.filePath("missing/page.pdf"));

@@ -62,10 +62,14 @@ protected:
     }
     /// 1000 for a year in twelve payments at 12 percent.
     static void example(const DialogAtHand& hand) {
+        giveAThousandForAYear(hand);
+        hand.enter("12");
+    }
+    /// The same, but for the interest.
+    static void giveAThousandForAYear(const DialogAtHand& hand) {
         for (const char* value : {"1000", "1", "12"}) {
             hand.enter(value);
         }
-        hand.enter("12");
     }
 };
 
@@ -130,9 +134,7 @@ TEST_F(LoanTest, EachOfTheFourIsFoundFromTheOthers) {
         EXPECT_EQ(hand.field(0), "$1,000.01");
     });
     openLoan([&](DialogAtHand hand) {
-        hand.enter("1000");
-        hand.enter("1");
-        hand.enter("12");
+        giveAThousandForAYear(hand);
         hand.clickOn("txtVal", 6);
         hand.enter("88.8487886783");
         hand.enter();
@@ -219,9 +221,7 @@ TEST_F(LoanTest, InterestsOfAYearAndOfAPeriodFollowFromEachOther) {
 
 TEST_F(LoanTest, ANegativeInterestIsRefused) {
     openLoan([&](DialogAtHand hand) {
-        hand.enter("1000");
-        hand.enter("1");
-        hand.enter("12");
+        giveAThousandForAYear(hand);
         hand.clickOn("txtVal", 6);
         hand.enter("50");
         expectBox("", "Negative Interest!");
@@ -251,9 +251,7 @@ TEST_F(LoanTest, APaymentBelowTheInterestShowsItsBox) {
 
 TEST_F(LoanTest, AZeroAmountStartsAnewAndAZeroRateIsANumber) {
     openLoan([&](DialogAtHand hand) {
-        hand.enter("1000");
-        hand.enter("1");
-        hand.enter("12");
+        giveAThousandForAYear(hand);
         hand.enter("0");
         EXPECT_EQ(hand.field(6), "$83.33");
         hand.clickOn("cmdClear");
@@ -288,9 +286,7 @@ TEST_F(LoanTest, UseGivesOneValueAnewAndSolvesTheSameAgain) {
 
 TEST_F(LoanTest, EnterOnABlankFieldAsksForWhatIsNeeded) {
     openLoan([&](DialogAtHand hand) {
-        hand.enter("1000");
-        hand.enter("1");
-        hand.enter("12");
+        giveAThousandForAYear(hand);
         platform.answers.push_back(Answer::Ok);
         hand.enter();
         EXPECT_EQ(platform.boxes.at(0).buttons, BoxButtons::OkCancel);
