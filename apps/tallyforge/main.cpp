@@ -207,6 +207,9 @@ int printManual(const QString& pdf) {
     return 0;
 }
 
+constexpr double kLeastScale = 0.25;
+constexpr double kMostScale = 8.0;
+
 constexpr const char* kUsage =
     "usage: tallyforge [FILE.rec|FILE.tape] [--dark]\n"
     "       tallyforge --render FILE.png [SCRIPT] [--scale N] [--dark]\n"
@@ -250,7 +253,8 @@ int main(int argc, char** argv) {
         scale = words.at(at + 1).toDouble();
         words.remove(at, 2);
     }
-    if (renders && words.size() >= 2 && words.front() == "--render" && scale > 0.0) {
+    const bool canBeDrawn = scale >= kLeastScale && scale <= kMostScale;
+    if (renders && canBeDrawn && words.size() >= 2 && words.size() <= 3 && words.front() == "--render") {
         return render(words.at(1), words.value(2), scale);
     }
     if (words.size() >= 2 && words.size() <= 3 && words.front() == "--print") {
