@@ -28,10 +28,12 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWindow>
 #include <csignal>
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <sstream>
 #include <utility>
@@ -153,6 +155,32 @@ int printTo(const QString& pdf, const QString& script) {
     return 0;
 }
 
+/// Runs `act` once, when the window is on the screen: what opens then stands over it and not where
+/// it would have been.
+class OnScreen : public QObject {
+public:
+    OnScreen(QWindow& window, std::function<void()> act) : QObject(&window), act_(std::move(act)) {
+        window.installEventFilter(this);
+        standsOn(window);
+    }
+    bool eventFilter(QObject* window, QEvent* event) override {
+        if (event->type() == QEvent::Expose) {
+            standsOn(*static_cast<QWindow*>(window));
+        }
+        return false;
+    }
+
+private:
+    void standsOn(QWindow& window) {
+        if (window.isExposed()) {
+            window.removeEventFilter(this);
+            QTimer::singleShot(0, &window, std::exchange(act_, {}));
+        }
+    }
+
+    std::function<void()> act_;
+};
+
 /// Shows the calculator, and opens the file that it was started with.
 int showWindow(const QString& file) {
     qt::QtPlatform platform;
@@ -181,11 +209,14 @@ int showWindow(const QString& file) {
     show();
     QTimer::singleShot(0, &window, [&] {
         calculator.activate();
-        if (!file.isEmpty()) {
-            calculator.openFile(file.toStdString());
-        }
         window.view().sync();
     });
+    if (!file.isEmpty()) {
+        new OnScreen(*window.windowHandle(), [&] {
+            calculator.openFile(file.toStdString());
+            window.view().sync();
+        });
+    }
     return QApplication::exec();
 }
 
