@@ -293,6 +293,7 @@ void LifeCycle::writeOptions(SettingsRecords& records) const {
     records.set(Setting::Tall, s.window.TallForm);
     records.set(Setting::YField, s.window.ShowYField);
     records.set(Setting::LastxField, s.window.ShowLastxField);
+    records.setText(Setting::WordSize, zeroPadded(s.format.WordSize, rowOf(Setting::WordSize).width));
 }
 
 void LifeCycle::mnuSave_Click() {
@@ -305,9 +306,6 @@ void LifeCycle::mnuSave_Click() {
             s.format.DisplayDigits = s.format.SavedDigits;
         }
         changeSettings([&](SettingsRecords& records) { writeOptions(records); });
-        changeSettings([&](SettingsRecords& records) {
-            records.setText(Setting::WordSize, zeroPadded(s.format.WordSize, rowOf(Setting::WordSize).width));
-        });
         if (saveMore) {
             saveMore();
         }

@@ -14,6 +14,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyforge {
 
@@ -30,6 +31,11 @@ std::optional<std::filesystem::file_time_type> changeOf(const std::filesystem::p
 }
 
 }  // namespace
+
+TapeKeys::TapeKeys(Engine& calculator, SettingsFile& settingsFile, MemoryRegisters& memory, MachineReset& machine)
+    : calc(calculator), settings(settingsFile), registers(memory), reset(machine) {
+    calc.tape.beforeGrowing([this](std::size_t bytes) { makeRoom(bytes); });
+}
 
 void TapeKeys::lstDisplayReg_DblClick() {
     EngineState& s = calc.s;
@@ -89,6 +95,7 @@ void TapeKeys::saveTo(const std::filesystem::path& path) {
     TapeFileContent content = present(calc.s.files.UndoKind);
     const bool byUser = content.kind == TapeFileKind::SavedByUser;
     if (!byUser) {
+        undoFile_.reset();
         cleared_ = content;
         hasReset_ = true;
     }
@@ -96,12 +103,15 @@ void TapeKeys::saveTo(const std::filesystem::path& path) {
     if (byUser) {
         tellLeftOut(calc, "Save Running Tape", leftOut);
     }
+    std::optional<FileBytes> written;
     const bool saved = saveOrReport(calc, "mnuSaveTape_Click", path, [&](WholeFile& file) {
         writeTapeFile(content, decimal, [&](std::string_view line) { file.write(line); });
-        checkReadsBack(content, file.written(), decimal);
+        written.emplace(file.written());
+        checkReadsBack(content, *written, decimal);
     });
-    if (!byUser && saved) {
-        leaveToUndoFile();
+    if (!byUser && saved && written) {
+        // Stays open, so that it is this file that is read, whatever another calculator puts in its place.
+        undoFile_.emplace(std::move(*written));
     }
 }
 
@@ -123,12 +133,17 @@ void TapeKeys::mnuSaveTape_Click() {
     s.files.UndoKind = TapeFileKind::None;
 }
 
-// What Reset clears is kept in memory, so that no full disk and no file of another calculator comes
-// between; the file serves the next start. What takes much room beside the next tape lies in the file alone.
-void TapeKeys::leaveToUndoFile() {
-    constexpr std::size_t kMostBytes = std::size_t{128} << 20U;
-    if (cleared_->tape.bytes() + cleared_->stack.size() * sizeof(ValueCell) > kMostBytes) {
+// What Reset clears is kept in memory, so that no full disk comes between. Where the tapes that follow,
+// of `bytes`, leave no room for it, it lies in its file alone; without a file its oldest lines give way.
+void TapeKeys::makeRoom(std::size_t bytes) {
+    constexpr std::size_t kAllTapes = Tape::kMostBytes + (std::size_t{40} << 20U);
+    if (!cleared_ || cleared_->tape.bytes() + bytes <= kAllTapes) {
+        return;
+    }
+    if (undoFile_) {
         cleared_.reset();
+    } else {
+        cleared_->tape.shrinkTo(kAllTapes - std::min(bytes, kAllTapes));
     }
 }
 
@@ -140,6 +155,8 @@ void TapeKeys::undo() {
     const std::filesystem::path path = calc.AppDataDir / kUndoFile;
     if (cleared_) {
         restore(*cleared_);
+    } else if (undoFile_) {
+        restore(read(*undoFile_));
     } else if (!hasReset_ && changeOf(path) != undoFileAtStart_) {
         // Another calculator has reset since this one was started; that is its undo.
         throw Failure{FailureNumber::FileNotFound};
@@ -191,7 +208,12 @@ void TapeKeys::mnuTape_Click() {
 
 void TapeKeys::retrieve(const std::filesystem::path& path) {
     const auto file = onFile([&] { return std::make_unique<FileBytes>(path); });
-    restore(readTapeFile(*file, calc.s.format.DecimalChar));
+    restore(read(*file));
+}
+
+TapeFileContent TapeKeys::read(const Bytes& file) {
+    return readTapeFile(file, calc.s.format.DecimalChar,
+                        [this](std::size_t bytes) { makeRoom(calc.tape.bytes() + bytes); });
 }
 
 void TapeKeys::restore(const TapeFileContent& content) {

@@ -6,6 +6,7 @@
 
 #include "records/tape_file.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 
@@ -18,8 +19,7 @@ class SettingsFile;
 
 class TapeKeys {
 public:
-    TapeKeys(Engine& calculator, SettingsFile& settingsFile, MemoryRegisters& memory, MachineReset& machine)
-        : calc(calculator), settings(settingsFile), registers(memory), reset(machine) {}
+    TapeKeys(Engine& calculator, SettingsFile& settingsFile, MemoryRegisters& memory, MachineReset& machine);
 
     /// Pushes the value behind the selected tape line, under the label at the line's end.
     void lstDisplayReg_DblClick();
@@ -44,8 +44,9 @@ private:
     void retrieve(const std::filesystem::path& path);
     [[nodiscard]] bool mayReplaceAll();
     void retrieveOrReport(const std::filesystem::path& path);
+    [[nodiscard]] TapeFileContent read(const Bytes& file);
     void restore(const TapeFileContent& content);
-    void leaveToUndoFile();
+    void makeRoom(std::size_t bytes);
     void undo();
     [[nodiscard]] TapeFileContent present(TapeFileKind kind) const;
     void take(const TapeFileContent& content);
@@ -56,6 +57,7 @@ private:
     MemoryRegisters& registers;
     MachineReset& reset;
     std::optional<TapeFileContent> cleared_;  ///< by the last Reset of this run
+    std::optional<FileBytes> undoFile_;       ///< that the last Reset of this run has written
     bool hasReset_ = false;
     std::optional<std::filesystem::file_time_type> undoFileAtStart_;
 };

@@ -35,6 +35,11 @@ void Commit::commit(Manner manner) {
     wake();
     EngineState& s = calc.s;
     s.stack.makeRoom(placeOfX(manner.fromEntry));
+    if (const std::string& typed = calc.entryText(); manner.fromEntry && !typed.empty()) {
+        s.stack.expectText(typed.size());
+    } else if (s.stack.Xreg.isText()) {
+        s.stack.expectText(s.stack.Xreg.textView().size());
+    }
     s.CurrentProc = "cmdEnter";
     s.entry.BaseTagDue = false;
     if (s.stack.Xreg.isEmptyText() && s.stack.depth() > 0) {

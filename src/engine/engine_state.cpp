@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/engine_state.h"
 
+#include <algorithm>
+
 namespace tallyforge {
 
 namespace {
@@ -25,6 +27,30 @@ const ValueCell& StackState::noCell() {
 ValueCell StackState::operand(int slotNumber) const {
     const ValueCell& held = slot(slotNumber);
     return held.isEmpty() ? ValueCell::zero() : held;
+}
+
+void StackState::expectText(std::size_t size) {
+    const std::size_t bytes = ValueCell::bytesOfText(size);
+    if (bytes > untilCount_) {
+        countTexts();
+    }
+    untilCount_ -= std::min(bytes, untilCount_);
+}
+
+// Rarely, as it walks the stack: many bytes may come before the next count.
+void StackState::countTexts() {
+    constexpr std::size_t kLeastBetweenCounts = kMostTextBytes / 8;
+    const auto top = static_cast<std::size_t>(StackPtr);
+    // What lies above the stack is left over from what stood there.
+    std::fill(Stack.begin() + static_cast<std::ptrdiff_t>(std::min(top + 1, Stack.size())), Stack.end(), ValueCell{});
+    std::size_t all = 0;
+    for (const ValueCell& cell : Stack) {
+        all += cell.textShare();
+    }
+    if (all > kMostTextBytes) {
+        throw std::bad_alloc{};
+    }
+    untilCount_ = std::max(kMostTextBytes - all, kLeastBetweenCounts);
 }
 
 int registerOfKey(int keyIndex) {

@@ -77,6 +77,9 @@ inline constexpr int kMostElements = 1 << 20;
 
 /// Registers X and Y, last x, and the stack.
 struct StackState {
+    /// Most bytes that the texts on the stack take together, about.
+    static constexpr std::size_t kMostTextBytes = std::size_t{40} << 20U;
+
     ValueCell Xreg;
     ValueCell Yreg = ValueCell::zero();
     ValueCell LastX;
@@ -109,11 +112,18 @@ struct StackState {
         }
     }
 
+    /// Before a text of `size` characters goes on the stack. Raises std::bad_alloc where the texts on
+    /// it take all that they may.
+    void expectText(std::size_t size);
+
     /// The same as an operand: an empty one counts as 0.
     [[nodiscard]] ValueCell operand(int slotNumber) const;
 
 private:
     [[nodiscard]] static const ValueCell& noCell();
+    void countTexts();
+
+    std::size_t untilCount_ = kMostTextBytes;  ///< bytes of texts that may come before they are counted again
 };
 
 /// How the coming number is written, where the format is a fixed one.

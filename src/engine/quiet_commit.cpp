@@ -39,7 +39,7 @@ void Commit::settle() {
 bool Commit::commitQuietly(bool fromEntry) {
     EngineState& s = calc.s;
     const double* const x = s.stack.Xreg.asDouble();
-    const int place = s.stack.StackPtr - (s.entry.EntryOpen ? 0 : 1) + (fromEntry ? 1 : 0);
+    const int place = placeOfX(fromEntry);
     const auto label = calc.tape.known(s.delivery.FnLabel);
     if (x == nullptr || place < 0 || s.delivery.writtenAs != WrittenAs::Number || !label || !put(*x, place, *label)) {
         return false;

@@ -67,12 +67,16 @@ void refuseModifiers(Engine& calc) {
 }
 
 void leaveNothing(Engine& calc) {
+    // A number of a base that a key had no use for is still X.
+    if (calc.s.stack.Xreg.isTagged()) {
+        calc.s.stack.KeepX = calc.s.stack.Xreg;
+    }
     calc.s.stack.Xreg = kNothingDone;
 }
 
 void leaveX(Engine& calc) {
     calc.s.stack.KeepX = calc.s.stack.Xreg;
-    leaveNothing(calc);
+    calc.s.stack.Xreg = kNothingDone;
 }
 
 }  // namespace tallyforge

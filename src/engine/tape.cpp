@@ -23,7 +23,10 @@ void Tape::clear(int rows) {
 }
 
 void Tape::addBlock() {
-    if (blocks_.size() >= kMostBlocks || (textBytes_ > kMostTextBytes && blocks_.size() > 1)) {
+    if (beforeGrowing_) {
+        beforeGrowing_(bytes() + sizeof(Block));
+    }
+    if (blocks_.size() >= kMostBlocks || (bytes() + sizeof(Block) > kMostBytes && blocks_.size() > 1)) {
         giveWay();
     } else {
         blocks_.grow();
@@ -31,19 +34,33 @@ void Tape::addBlock() {
     place_ = 0;
 }
 
+void Tape::shrinkTo(std::size_t most) {
+    while (bytes() > most && blocks_.size() > 1) {
+        forgetOldest();
+        blocks_.dropFirst();
+        ++revision_;
+    }
+}
+
 void Tape::take(const Tape& other) {
     const std::uint64_t seen = std::max(revision_, other.revision_);
+    auto own = std::move(beforeGrowing_);
     *this = other;
+    beforeGrowing_ = std::move(own);
     revision_ = seen + 1;
 }
 
 // The oldest block becomes the newest.
 void Tape::giveWay() {
-    const std::size_t bytes = blocks_[0].textBytes;
+    forgetOldest();
     blocks_.turn();
     blocks_.last().texts = {};
     blocks_.last().textBytes = 0;
-    textBytes_ -= bytes;
+}
+
+// The lines of the oldest block are gone; the block itself is to go.
+void Tape::forgetOldest() {
+    textBytes_ -= blocks_[0].textBytes;
     const std::uint64_t next = first_ + kBlock;
     gone_ += next - std::max(first_, dropped_);
     first_ = next;
@@ -71,9 +88,13 @@ void Tape::add(std::string_view text, const ValueCell& value) {
     // A text lies in a block of its own with its count; so does one that is longer than a line.
     constexpr std::size_t kAround = 64;
     const std::size_t bytes = sizeof(Text) + (value.isText() ? value.textView().size() + kAround : 0) +
-                              (line.length == kLong ? text.size() + kAround : 0);
+                              (line.length == kLong ? text.size() + 2 * kAround : 0);
     block.textBytes += bytes;
     textBytes_ += bytes;
+    shrinkTo(kMostBytes);
+    if (beforeGrowing_) {
+        beforeGrowing_(this->bytes());
+    }
 }
 
 void Tape::addNumber(const NumberLook& look, const TapeLabel& label, double value) {

@@ -3,7 +3,8 @@
 // The running tape: the lines as shown and the exact value behind each. Lines live in blocks, so
 // that appending the ten-millionth costs what the first did. A plain number takes 10 bytes and is
 // formatted when it is looked at; any other line is fixed-width text of 40 bytes and the text behind
-// its value. The tape has a bound: the oldest block gives way where a new one finds no room.
+// its value. The tape has a bound in lines and one in bytes: the oldest block gives way where a new
+// one finds no room.
 #pragma once
 
 #include "engine/engine_state.h"
@@ -15,6 +16,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -71,6 +73,8 @@ public:
         std::rotate(all_.begin(), all_.begin() + 1, all_.end());
         last_ = all_.back().get();
     }
+    /// The first block goes, where it is not the last one.
+    void dropFirst() { all_.erase(all_.begin()); }
 
 private:
     void ownLast() {
@@ -157,6 +161,13 @@ public:
     void take(const Tape& other);
     /// Bytes that the lines take, about.
     [[nodiscard]] std::size_t bytes() const { return blocks_.size() * sizeof(Block) + textBytes_; }
+    /// Most bytes that the lines of a tape take: ten million plain ones, and some texts among them.
+    static constexpr std::size_t kMostBytes = std::size_t{120} << 20U;
+    /// The oldest lines give way until the tape takes no more than `most`, or is its newest block.
+    void shrinkTo(std::size_t most);
+    /// `act` is called with the bytes to come before the tape grows, to make room elsewhere. It belongs
+    /// to this tape: a tape that takes the lines of another one keeps its own.
+    void beforeGrowing(std::function<void(std::size_t)> act) { beforeGrowing_ = std::move(act); }
 
     /// Lines that have given way to newer ones. The first line tells how many, in place of its own
     /// text and value.
@@ -193,8 +204,6 @@ private:
     static constexpr std::size_t kMostLabels = 0xFFFF / kPackedLooks;
     /// Twice as many places as labels, so that a search ends soon.
     static constexpr std::size_t kLabelPlaces = 1024;
-    /// Bytes that the texts may take together; beyond it the oldest block gives way.
-    static constexpr std::size_t kMostTextBytes = std::size_t{64} << 20U;
 
     /// The block whose line `place_` is the next one, which counts and is selected.
     Block& append() {
@@ -204,6 +213,7 @@ private:
     }
     void addBlock();
     void giveWay();
+    void forgetOldest();
     [[nodiscard]] const Block& blockOf(std::uint64_t line) const { return blocks_[(line - first_) / kBlock]; }
     [[nodiscard]] const Text* textOf(std::uint64_t line) const;
 
@@ -222,6 +232,7 @@ private:
     int fillers_ = 0;
     std::uint64_t selected_ = 0;
     std::uint64_t revision_ = 0;
+    std::function<void(std::size_t)> beforeGrowing_;
 };
 
 }  // namespace tallyforge

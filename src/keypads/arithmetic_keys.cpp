@@ -159,6 +159,8 @@ std::optional<FailureNumber> ArithmeticKeys::compute(int index, const Operands& 
             calc.errorBox(BoxKind::Stop, kOutOfRange);
         } else if (failure.number() == FailureNumber::BaseRange) {
             calc.errorBox(BoxKind::Stop, failureMessage(failure.number(), index, s));
+        } else if (failure.number() == FailureNumber::TypeMismatch) {
+            calc.errorBox(BoxKind::Stop, "Error number " + std::to_string(failure.code()));
         }
     };
     const bool tagged = operands.left->isTagged() || operands.right->isTagged();

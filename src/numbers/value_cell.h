@@ -70,6 +70,12 @@ public:
     [[nodiscard]] std::string_view textView() const {
         return isText() ? std::string_view{held_.text->text} : std::string_view{};
     }
+    /// Bytes of memory that a text of `size` characters takes, about.
+    [[nodiscard]] static constexpr std::size_t bytesOfText(std::size_t size) { return size + sizeof(SharedText) + 24; }
+    /// Bytes that the held text takes, divided by the cells that share it; 0 for anything but a text.
+    [[nodiscard]] std::size_t textShare() const {
+        return isText() ? bytesOfText(held_.text->text.size()) / held_.text->cells : 0;
+    }
     /// True for the text "" and nothing else (an Empty cell is not the empty text).
     [[nodiscard]] bool isEmptyText() const { return isText() && held_.text->text.empty(); }
     /// True for a text that starts with "#".

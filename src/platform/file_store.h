@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyforge {
 
@@ -52,6 +53,7 @@ public:
     /// Raises FileError.
     explicit FileBytes(const std::filesystem::path& path);
     ~FileBytes() override;
+    FileBytes(FileBytes&& other) noexcept : file_(std::exchange(other.file_, -1)) {}
     FileBytes(const FileBytes&) = delete;
     FileBytes& operator=(const FileBytes&) = delete;
     [[nodiscard]] std::size_t read(std::uint64_t at, std::span<char> into) const override;

@@ -87,7 +87,7 @@ std::vector<ProgramFinding> Checker::findings() {
     checkDeclaration();
     collectCalls();
     for (int line = firstLabel_; line <= text_.count(); ++line) {
-        const std::string& written = text_.line(line).text;
+        const std::string_view written = text_.line(line).text;
         if (text_.line(line).skipped()) {
             continue;
         }
@@ -116,7 +116,7 @@ void Checker::checkDeclaration() {
         add(firstLabel_, "no declaration: a line that begins with \"#\" stands before the first label");
         return;
     }
-    const std::string& written = text_.line(declaration).text;
+    const std::string_view written = text_.line(declaration).text;
     variables_.declare(std::string_view{written}.substr(std::min(kFirstName, written.size())), [](const auto&) {});
     for (const std::string_view name : splitAtBlanks(std::string_view{written}.substr(1))) {
         checkName(declaration, std::string(name));
@@ -149,12 +149,12 @@ void Checker::collectCalls() {
     constexpr std::size_t kCaptionAt = 7;
     std::set<char> renamed;
     for (int line = firstLabel_; line <= text_.count(); ++line) {
-        const std::string& written = text_.line(line).text;
+        const std::string_view written = text_.line(line).text;
         const Statement statement = statementOf(written);
         if ((statement == Statement::Gsb || statement == Statement::Glb) && written.size() > kOperand) {
-            called_.insert(written.substr(kOperand));
+            called_.emplace(written.substr(kOperand));
         } else if (statement == Statement::Name && written.size() > kCaptionAt) {
-            called_.insert(written.substr(kCaptionAt));
+            called_.emplace(written.substr(kCaptionAt));
             renamed.insert(written[kKeyAt]);
         }
     }
@@ -167,7 +167,7 @@ void Checker::collectCalls() {
 }
 
 void Checker::checkLabel(int line) {
-    const std::string label = text_.line(line).text.substr(kLabelWord.size());
+    const std::string label{text_.line(line).text.substr(kLabelWord.size())};
     if (line == text_.count()) {
         add(line, "label " + quoted(label) + " stands on the last line and is not found");
     } else if (!labels_.insert(label).second) {

@@ -179,7 +179,7 @@ void Programs::readDeclarations(const ProgramText& text) {
             fail(loadFaultText(static_cast<int>(ProgramFaultNumber::PastEndOfFile)));
             break;
         }
-        const std::string& line = text.line(number).text;
+        const std::string_view line = text.line(number).text;
         if (line.starts_with("lbl")) {
             break;
         }

@@ -12,10 +12,14 @@ namespace tallyforge {
 void ProgramRun::run(const std::string& label) {
     findLabel(label);
     while (!over()) {
-        const ProgramLine& line = nextLine();
+        const WrittenLine line = nextLine();
         tick();
         if (line.skipped()) {
             continue;
+        }
+        if (text->full() && tools.control.running == 1) {
+            // No line is under way, here or in a run around this one.
+            text->forgetPrepared();
         }
         const ProgramLine& ready = text->prepared(position_, state.variables);
         if (std::exchange(behindIf_, false)) {
@@ -26,7 +30,7 @@ void ProgramRun::run(const std::string& label) {
     }
 }
 
-const ProgramLine& ProgramRun::nextLine() {
+WrittenLine ProgramRun::nextLine() {
     if (position_ >= text->count()) {
         throw ProgramFault(ProgramFaultNumber::PastEndOfFile);
     }

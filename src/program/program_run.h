@@ -60,7 +60,7 @@ private:
     };
     using Words = std::vector<ProgramWord>;
 
-    const ProgramLine& nextLine();
+    WrittenLine nextLine();
     void runLine(const ProgramLine& line);
     void runBehindIf(const ProgramLine& line);
     void runIf(const ProgramLine& line);

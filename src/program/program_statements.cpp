@@ -130,7 +130,7 @@ void ProgramRun::mark(const ProgramWord& word, bool bold) {
 
 void ProgramRun::showMessage() {
     constexpr std::string_view kGoesOn = "#_";
-    std::string last = nextLine().asWritten();
+    std::string last{nextLine().asWritten};
     if (!last.starts_with('\\')) {
         throw ProgramFault(ProgramFaultNumber::MessageWithoutBackslash,
                            "; First character not \"\\\"! In program" + nearLine());
@@ -138,7 +138,7 @@ void ProgramRun::showMessage() {
     std::string whole = last;
     while (whole.ends_with(kGoesOn)) {
         whole.resize(whole.size() - kGoesOn.size());
-        last = nextLine().asWritten();
+        last = nextLine().asWritten;
         whole += last;
     }
     calc.message(BoxKind::Info, "Attention!",

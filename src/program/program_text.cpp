@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 namespace tallyforge {
 
@@ -249,10 +250,12 @@ ProgramText::ProgramText(std::string_view file) {
         rest.remove_prefix(end);
         rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(rest.size(), 1));
     }
+    small_ = smallLetters(written_);
+    prepared_.resize(lines_.size());
     constexpr std::string_view kLabel = "lbl ";
     for (std::size_t i = 0; i + 1 < lines_.size(); ++i) {
-        if (lines_[i].text.starts_with(kLabel)) {
-            labels_.emplace(lines_[i].text.substr(kLabel.size()), static_cast<int>(i) + 1);
+        if (const std::string_view text = at(i).text; text.starts_with(kLabel)) {
+            labels_.emplace(text.substr(kLabel.size()), static_cast<int>(i) + 1);
         }
     }
 }
@@ -260,23 +263,39 @@ ProgramText::ProgramText(std::string_view file) {
 void ProgramText::addLine(std::string_view line) {
     std::string written{line};
     std::replace(written.begin(), written.end(), '\t', ' ');
-    ProgramLine& added = lines_.emplace_back();
     const std::string_view kept = trimmed(written);
-    added.text = smallLetters(kept);
-    if (added.text != kept) {
-        added.raw = kept;
+    lines_.push_back({static_cast<std::uint32_t>(written_.size()), static_cast<std::uint32_t>(kept.size())});
+    written_ += kept;
+}
+
+void ProgramText::forgetPrepared() {
+    for (auto& line : prepared_) {
+        line.reset();
     }
+    words_ = 0;
 }
 
 const ProgramLine& ProgramText::prepared(int number, const Variables& variables) {
-    ProgramLine& line = lines_[static_cast<std::size_t>(number) - 1];
-    if (line.prepared) {
-        return line;
+    auto& line = prepared_[static_cast<std::size_t>(number) - 1];
+    if (!line) {
+        line = std::make_unique<ProgramLine>(takenApart(at(static_cast<std::size_t>(number) - 1).text, variables));
+        // A line takes as much as some words, whatever stands in it.
+        constexpr std::size_t kLineItself = 5;
+        words_ += line->words.size() + kLineItself;
     }
-    line.prepared = true;
+    return *line;
+}
+
+ProgramLine ProgramText::takenApart(std::string_view text, const Variables& variables) {
+    ProgramLine line;
+    line.text = text;
     line.whole = wordOf(line.text, variables);
     const auto tokens = splitAtBlanks(line.text);
+    if (tokens.size() > kMostWords) {
+        throw std::bad_alloc{};
+    }
     line.words.reserve(tokens.size());
+    line.joined.reserve(tokens.size());
     for (const std::string_view token : tokens) {
         line.words.push_back(wordOf(token, variables));
         line.assigns = line.assigns || token == "=";
@@ -303,23 +322,26 @@ void ProgramText::setTarget(ProgramWord& word) const {
     }
 }
 
-std::optional<int> ProgramText::label(const std::string& label) const {
+std::optional<int> ProgramText::label(std::string_view label) const {
     const auto found = labels_.find(label);
     return found == labels_.end() ? std::nullopt : std::optional{found->second};
 }
 
 int ProgramText::endifOf(int number) {
-    int& known = lines_[static_cast<std::size_t>(number) - 1].endifLine;
-    if (known != 0) {
-        return known;
+    ProgramLine* const known = prepared_[static_cast<std::size_t>(number) - 1].get();
+    if (known != nullptr && known->endifLine != 0) {
+        return known->endifLine;
     }
     int nested = 0;
     for (int at = number + 1; at <= count(); ++at) {
-        const std::string& text = line(at).text;
+        const std::string_view text = line(at).text;
         if (text.starts_with("if")) {
             nested += continues(line(at - 1).text) ? 0 : 1;
         } else if (text == "endif" && nested-- == 0) {
-            return known = at;
+            if (known != nullptr) {
+                known->endifLine = at;
+            }
+            return at;
         }
     }
     return 0;
@@ -327,24 +349,24 @@ int ProgramText::endifOf(int number) {
 
 ProgramCounts ProgramText::counts() const {
     ProgramCounts counts;
-    std::size_t at = 0;
-    while (at < lines_.size()) {
-        if (lines_[at].text.starts_with('\\') && continues(lines_[at].text)) {
+    std::size_t line = 0;
+    while (line < lines_.size()) {
+        if (at(line).text.starts_with('\\') && continues(at(line).text)) {
             // The text that goes on is no program.
             do {
-                ++at;
-            } while (at < lines_.size() && continues(lines_[at].text));
-            ++at;
-            if (at >= lines_.size()) {
+                ++line;
+            } while (line < lines_.size() && continues(at(line).text));
+            ++line;
+            if (line >= lines_.size()) {
                 break;
             }
         }
-        const std::string& text = lines_[at].text;
+        const std::string_view text = at(line).text;
         counts.endifs += text.starts_with("endif") ? 1 : 0;
         counts.ifs += text.starts_with("if ") ? 1 : 0;
         counts.labels += text.starts_with("lbl") ? 1 : 0;
         counts.ends += text.starts_with("end") ? 1 : 0;
-        ++at;
+        ++line;
     }
     return counts;
 }

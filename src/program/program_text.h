@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // A program file, read once: its lines, where its labels stand, and each line taken apart when it
-// is first run. A jump costs a look into the index, never a scan of the file.
+// is first run. A jump costs a look into the index, never a scan of the file. Of a long program no
+// more is kept taken apart than has a bound.
 #pragma once
 
 #include "program/program_words.h"
 #include "program/variables.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,12 +46,17 @@ struct ProgramTest {
     std::vector<ProgramWord> right;
 };
 
-struct ProgramLine {
-    std::string text;  ///< small letters, no blanks at the ends
-    std::string raw;   ///< as written, no blanks at the ends; empty where it does not differ
+/// A line without the blanks at its ends.
+struct WrittenLine {
+    std::string_view text;       ///< in small letters
+    std::string_view asWritten;  ///< with its capitals
 
-    // From prepare() on.
-    bool prepared = false;
+    [[nodiscard]] bool skipped() const { return text.empty() || text.front() == '\''; }
+};
+
+/// A line that has been taken apart.
+struct ProgramLine {
+    std::string_view text;            ///< small letters, no blanks at the ends
     ProgramWord whole;                ///< the line as one word
     std::vector<ProgramWord> words;   ///< split at blanks
     std::vector<ProgramWord> joined;  ///< words from the third on, "rcl" and "sto" joined with the next
@@ -59,9 +67,6 @@ struct ProgramLine {
     int variable = -1;                ///< index of the variable that the first word names
     bool isIf = false;
     int endifLine = 0;  ///< line of the "endif" of this "if", 0 while it is not known
-
-    [[nodiscard]] bool skipped() const { return text.empty() || text.front() == '\''; }
-    [[nodiscard]] const std::string& asWritten() const { return raw.empty() ? text : raw; }
 };
 
 /// How often the words that open and close stand at the head of a line.
@@ -77,24 +82,48 @@ public:
     /// Takes the file apart at LF, CR LF or CR; UTF-8 (with or without a mark) becomes eight-bit, a
     /// file that is no UTF-8 is eight-bit already. A tab counts as a blank.
     explicit ProgramText(std::string_view file);
+    ~ProgramText() = default;
+    ProgramText(const ProgramText&) = delete;
+    ProgramText& operator=(const ProgramText&) = delete;
 
     [[nodiscard]] int count() const { return static_cast<int>(lines_.size()); }
     /// Line `number`, 1 to count().
-    [[nodiscard]] const ProgramLine& line(int number) const { return lines_[static_cast<std::size_t>(number) - 1]; }
-    /// The same, taken apart with the names of `variables`.
+    [[nodiscard]] WrittenLine line(int number) const { return at(static_cast<std::size_t>(number) - 1); }
+    /// The same, taken apart with the names of `variables`. Raises std::bad_alloc for a line of more words
+    /// than are kept.
     [[nodiscard]] const ProgramLine& prepared(int number, const Variables& variables);
+    /// Whether as many lines have been taken apart as are kept.
+    [[nodiscard]] bool full() const { return words_ >= kMostWords; }
+    /// No line is taken apart any more; none that prepared() gave may be in use.
+    void forgetPrepared();
     /// Line of the first "lbl `label`"; none for a label on the last line of the file.
-    [[nodiscard]] std::optional<int> label(const std::string& label) const;
+    [[nodiscard]] std::optional<int> label(std::string_view label) const;
     /// Line of the "endif" that closes the "if" of line `number`; 0 where there is none.
     [[nodiscard]] int endifOf(int number);
     [[nodiscard]] ProgramCounts counts() const;
 
 private:
+    struct Place {
+        std::uint32_t begin;
+        std::uint32_t length;
+    };
+    static constexpr std::size_t kMostWords = 50'000;
+
     void addLine(std::string_view line);
+    [[nodiscard]] WrittenLine at(std::size_t index) const {
+        const Place place = lines_[index];
+        return {.text = std::string_view(small_).substr(place.begin, place.length),
+                .asWritten = std::string_view(written_).substr(place.begin, place.length)};
+    }
+    [[nodiscard]] ProgramLine takenApart(std::string_view text, const Variables& variables);
     void setTarget(ProgramWord& word) const;
 
-    std::vector<ProgramLine> lines_;
-    std::unordered_map<std::string, int> labels_;
+    std::string written_;  ///< the lines without the blanks at their ends, one behind the other
+    std::string small_;    ///< the same in small letters
+    std::vector<Place> lines_;
+    std::unordered_map<std::string_view, int> labels_;
+    std::vector<std::unique_ptr<ProgramLine>> prepared_;
+    std::size_t words_ = 0;  ///< of the prepared lines, about
 };
 
 /// `text` in small letters, Latin-1 letters too.

@@ -4,6 +4,8 @@
 #include "engine/engine.h"
 #include "platform/file_store.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <new>
 #include <utility>
 
@@ -12,7 +14,9 @@ namespace tallyforge {
 namespace {
 
 constexpr int kOutOfMemory = 7;
-constexpr std::size_t kLargestProgram = std::size_t{64} * 1024 * 1024;
+// Far beyond what a hand writes; a larger file is hardly a program.
+constexpr std::size_t kLargestProgram = std::size_t{4} << 20U;
+constexpr std::ptrdiff_t kMostLines = 300'000;
 
 /// Keys that run a section, "init" apart.
 bool runsSection(int index) {
@@ -110,6 +114,10 @@ std::shared_ptr<ProgramText> Programs::readProgram() {
     }
     try {
         std::string bytes = readWhole(state.programPath(), kLargestProgram);
+        if (std::max(std::count(bytes.begin(), bytes.end(), '\n'), std::count(bytes.begin(), bytes.end(), '\r')) >=
+            kMostLines) {
+            throw ProgramFault(kOutOfMemory);
+        }
         if (!text_ || bytes != bytes_) {
             bytes_ = std::move(bytes);
             text_ = std::make_shared<ProgramText>(bytes_);

@@ -28,6 +28,9 @@ std::optional<std::string_view> FileLines::next() {
     while (line.ends_with('\r')) {
         line.remove_suffix(1);
     }
+    if (line.size() > kLongestLine) {
+        throw Failure{FailureNumber::DamagedFile};
+    }
     return line;
 }
 

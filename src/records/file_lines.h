@@ -15,7 +15,7 @@
 namespace tallyforge {
 
 /// Characters that a line of a file has at most.
-inline constexpr std::size_t kLongestLine = std::size_t{1} << 20;
+inline constexpr std::size_t kLongestLine = std::size_t{1} << 13;
 
 class FileLines {
 public:

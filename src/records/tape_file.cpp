@@ -18,7 +18,7 @@ constexpr std::size_t kNameWidth = 4;
 /// Filler lines that a tape has at most: a list has fewer rows.
 constexpr std::size_t kMostFillers = 100;
 /// Bytes that the texts of a stack may take together; a file that has more was not written here.
-constexpr std::size_t kMostStackText = std::size_t{128} << 20U;
+constexpr std::size_t kMostStackText = StackState::kMostTextBytes / 4 * 5;
 /// Most characters of a register's value: 66 are a word in binary digits, and a number from the clipboard may have
 /// more.
 constexpr std::size_t kLongestValue = 255;
@@ -220,7 +220,7 @@ void TapeFileReader::readStack(TapeFileContent& content) {
     std::size_t texts = 0;
     for (int element = 1; element < content.StackPtr; ++element) {
         content.stack.push_back(readValue(rows_.need(), decimal_));
-        texts += content.stack.back().textView().size();
+        texts += content.stack.back().textShare();
         if (texts > kMostStackText) {
             damaged();
         }
@@ -277,10 +277,11 @@ void TapeFileReader::readToTheEnd() {
     }
 }
 
-TapeFileContent readTapeFile(const Bytes& bytes, char decimal) {
+TapeFileContent readTapeFile(const Bytes& bytes, char decimal, std::function<void(std::size_t)> beforeGrowing) {
     TapeFileReader reader(bytes, decimal);
     TapeFileContent content = reader.readHead();
     NumberLines numbers(decimal);
+    content.tape.beforeGrowing(std::move(beforeGrowing));
     content.tape.clear(0);
     while (reader.next()) {
         const double* const number = reader.value().asDouble();

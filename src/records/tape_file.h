@@ -98,8 +98,10 @@ private:
     ValueCell value_;
 };
 
-/// The whole file. A line of a plain number becomes one again.
-[[nodiscard]] TapeFileContent readTapeFile(const Bytes& bytes, char decimal);
+/// The whole file. A line of a plain number becomes one again. `beforeGrowing` is told the bytes of
+/// the tape to come, before each of its blocks.
+[[nodiscard]] TapeFileContent readTapeFile(const Bytes& bytes, char decimal,
+                                           std::function<void(std::size_t)> beforeGrowing = {});
 
 /// The same for a text in memory.
 [[nodiscard]] std::string formatTapeFile(const TapeFileContent& content, char decimal);

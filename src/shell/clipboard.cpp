@@ -20,6 +20,9 @@ std::string_view withoutMargins(std::string_view text) {
     return first == text.npos ? std::string_view{} : text.substr(first, text.find_last_not_of(kMargin) - first + 1);
 }
 
+/// Most characters of a text that X takes: what is on the stack and on the tape lies in memory.
+constexpr std::size_t kLongestText = 4096;
+
 bool isBaseNumber(std::string_view text) {
     return text.starts_with('#') && std::string_view{"bdho"}.find(text.back()) != std::string_view::npos;
 }
@@ -71,6 +74,11 @@ void Clipboard::take(const std::string& clipped) {
         // A picture, or nothing at all.
         s.entry.EntryOpen = false;
         return;
+    }
+    if (text.size() > kLongestText) {
+        s.entry.EntryOpen = false;
+        calc.message(BoxKind::Notice, "Paste", "The text on the clipboard is too long for a number.");
+        return calc.focusEntry();
     }
     const ValueCell before = std::exchange(s.stack.Xreg, text);
     const auto report = [&](const Failure& failure) {

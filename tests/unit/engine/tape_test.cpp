@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace tallyforge {
@@ -113,10 +114,66 @@ TEST(Tape, LongTextsGiveWaySooner) {
     for (int i = 0; i < kLines; ++i) {
         tape.add("#1010b", ValueCell{std::string(100, '1')});
     }
-    EXPECT_GT(tape.count(), 250'000U);
-    EXPECT_LT(tape.count(), 500'000U);
+    EXPECT_GT(tape.count(), 500'000U);
+    EXPECT_LT(tape.count(), 750'000U);
     EXPECT_EQ(tape.gone() + tape.count(), static_cast<std::size_t>(kLines));
     EXPECT_EQ(tape.row(tape.count() - 1), "#1010b");
+}
+
+TEST(Tape, TextsBehindTenMillionPlainLinesStayWithinItsBytes) {
+    constexpr std::size_t kPlain = 10'000'000;
+    constexpr std::size_t kTexts = 900'000;
+    Tape tape;
+    tape.clear(0);
+    const LineStyle plain = Tape::style(packed({}), LabelId::None);
+    for (std::size_t i = 0; i < kPlain; ++i) {
+        tape.addNumber(plain, 1.0);
+    }
+    EXPECT_EQ(tape.gone(), 0U);
+    std::size_t most = 0;
+    for (std::size_t i = 0; i < kTexts; ++i) {
+        tape.add("#1010b", ValueCell{std::string(66, '1')});
+        most = std::max(most, tape.bytes());
+    }
+    EXPECT_LE(most, Tape::kMostBytes);
+    EXPECT_GT(most, Tape::kMostBytes - (std::size_t{1} << 20U)) << "no line goes before it must";
+    EXPECT_EQ(tape.gone() + tape.count(), kPlain + kTexts);
+    EXPECT_EQ(tape.row(0), std::to_string(tape.gone() + 1) + " older lines");
+    EXPECT_EQ(tape.value(tape.count() - 1), ValueCell{std::string(66, '1')});
+}
+
+TEST(Tape, TheLongestTextsStayWithinItsBytesToo) {
+    Tape tape;
+    tape.clear(0);
+    for (int i = 0; i < 40'000; ++i) {
+        tape.add("text", ValueCell{std::string(8192, 'x')});
+        ASSERT_LE(tape.bytes(), Tape::kMostBytes);
+    }
+    EXPECT_GT(tape.count(), 10'000U);
+}
+
+TEST(Tape, GivesWayOnRequestAndAsksForRoomBeforeItGrows) {
+    Tape tape;
+    std::size_t asked = 0;
+    tape.beforeGrowing([&](std::size_t bytes) { asked = bytes; });
+    tape.clear(0);
+    for (int i = 0; i < 10'000; ++i) {
+        tape.addNumber({}, {}, i);
+    }
+    EXPECT_EQ(asked, tape.bytes());
+    const Tape copy = tape;
+    tape.shrinkTo(0);
+    EXPECT_EQ(tape.gone(), 8192U);
+    EXPECT_EQ(tape.row(0), "8193 older lines");
+    EXPECT_EQ(tape.value(tape.count() - 1), ValueCell{9999.0});
+    EXPECT_EQ(copy.count(), 10'000U) << "a copy keeps what it shared";
+    asked = 0;
+    tape.take(copy);
+    EXPECT_EQ(tape.count(), 10'000U);
+    for (int i = 0; i < 4096; ++i) {
+        tape.addNumber({}, {}, i);
+    }
+    EXPECT_EQ(asked, tape.bytes()) << "it goes on asking where it always did";
 }
 
 TEST(Tape, MoreLabelsThanItKnowsAreWrittenOut) {

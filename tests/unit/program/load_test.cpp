@@ -192,6 +192,30 @@ TEST_F(Load, AProgramWithoutLabelsIsSaidSoOnce) {
     EXPECT_EQ(said().size(), 2U);
 }
 
+TEST_F(Load, AFileThatIsTooLargeForAProgramIsToldAndTheOldOneStays) {
+    const std::string sections = "#\nlbl a\nend\n";
+    const std::size_t room = (std::size_t{4} << 20U) - sections.size();
+    writeProgram(sections + std::string(room, '\''), "largest.rec");
+    writeProgram(sections + std::string(room + 1, '\''), "larger.rec");
+    const std::size_t lines = 299'999 - 3;
+    writeProgram(sections + std::string(lines, '\n'), "longest.rec");
+    writeProgram(sections + std::string(lines + 1, '\n'), "longer.rec");
+    platform.answers = {Answer::Yes};
+    fileFor("largest");
+    EXPECT_EQ(programState().ProgramFile, "largest.rec");
+    platform.answers = {Answer::Yes, Answer::No};
+    fileFor("larger");
+    EXPECT_EQ(platform.boxes.back().text, "Error 7 (Out of memory)");
+    EXPECT_EQ(programState().ProgramFile, "largest.rec");
+    platform.answers = {Answer::Yes, Answer::No};
+    fileFor("longest");
+    EXPECT_EQ(programState().ProgramFile, "longest.rec");
+    platform.answers = {Answer::Yes, Answer::No};
+    fileFor("longer");
+    EXPECT_EQ(platform.boxes.back().text, "Error 7 (Out of memory)");
+    EXPECT_EQ(programState().ProgramFile, "longest.rec");
+}
+
 TEST_F(Load, AnEmptyFileIsNoProgram) {
     writeProgram("");
     platform.texts.push_back("test");

@@ -17,7 +17,7 @@ namespace {
 
 std::string firstLine(std::string_view file) {
     const ProgramText text(file);
-    return text.count() == 0 ? "" : text.line(1).asWritten();
+    return std::string(text.count() == 0 ? "" : text.line(1).asWritten);
 }
 
 TEST(ProgramText, CharactersOfAnyLengthBecomeOneByteEach) {
@@ -62,7 +62,7 @@ TEST(ProgramText, LinesEndInAnyOfThreeWays) {
         const ProgramText text(file);
         std::vector<std::string> all;
         for (int line = 1; line <= text.count(); ++line) {
-            all.push_back(text.line(line).asWritten());
+            all.emplace_back(text.line(line).asWritten);
         }
         return all;
     };

@@ -388,10 +388,26 @@ TEST_F(Settings, APasteOfNoiseOrOfALongTextIsRefused) {
         EXPECT_EQ(s().stack.depth(), 1);
         EXPECT_EQ(tape().size(), 1U);
     }
-    EXPECT_TRUE(platform.boxes.empty());
+    ASSERT_EQ(platform.boxes.size(), 2U);
+    for (const MessageBox& box : platform.boxes) {
+        EXPECT_EQ(box.text, "The text on the clipboard is too long for a number.");
+    }
     enter("3");
     choose(form().mnuCopy);
     EXPECT_EQ(platform.clipboard, "3") << "it goes on";
+}
+
+TEST_F(Settings, APasteTakesNoTextThatIsTooLong) {
+    enter("7");
+    platform.clipboard = std::string(4096, '1');
+    choose(form().mnuPaste);
+    EXPECT_EQ(x(), platform.clipboard) << "no number of the calculator's range, but a text that X may hold";
+    enter("7");
+    platform.clipboard += '1';
+    choose(form().mnuPaste);
+    EXPECT_EQ(platform.boxes.back().text, "The text on the clipboard is too long for a number.");
+    EXPECT_EQ(x(), "7");
+    EXPECT_EQ(s().stack.depth(), 2);
 }
 
 TEST_F(Settings, CopyGivesTheNumberAsItWasTyped) {
