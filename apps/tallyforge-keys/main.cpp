@@ -6,6 +6,7 @@
 #include "desktops/headless/key_script.h"
 #include "electrical/lookup_tables.h"
 #include "keypads/keypad_table.h"
+#include "platform/file_store.h"
 #include "program/program_check.h"
 #include "shell/about_dialog.h"
 
@@ -22,7 +23,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -222,12 +222,13 @@ void listUnfinished() {
 
 /// Lists what is wrong with a program, a line each: "FILE:LINE: what". Returns the exit status.
 int checkFile(const std::string& name) {
-    std::ifstream file(name, std::ios::binary);
-    if (!file || !std::filesystem::is_regular_file(name)) {
+    std::string text;
+    try {
+        text = readWhole(name);
+    } catch (const FileError&) {
         std::fprintf(stderr, "tallyforge-keys: cannot read %s\n", name.c_str());
         return kWrongCall;
     }
-    const std::string text{std::istreambuf_iterator<char>(file), {}};
     const auto findings = checkProgram(text);
     for (const ProgramFinding& finding : findings) {
         std::printf("%s:%d: %s\n", name.c_str(), finding.line, toUnicode(finding.text, Face::Arial).c_str());
@@ -335,10 +336,6 @@ int runScript(Call& call) {
         complain("tallyforge-keys: the script cannot be read to its end");
         return kWrongCall;
     }
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        complain("tallyforge-keys: what the script shows cannot be written");
-        return kWrongCall;
-    }
     return static_cast<int>(end);
 }
 
@@ -354,16 +351,12 @@ bool answers(std::string_view word) {
     return true;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    // A limit on the size of files is a failure of the write, told like a full disk.
-    std::signal(SIGXFSZ, SIG_IGN);
-    std::ios::sync_with_stdio(false);
-    if (argc == 2 && answers(argv[1])) {
+/// Does what is asked for; the exit status.
+int perform(const std::vector<std::string>& words) {
+    if (words.size() == 1 && answers(words.front())) {
         return 0;
     }
-    auto call = readCall({argv + 1, argv + argc});
+    auto call = readCall(words);
     if (!call) {
         std::fputs(kUsage, stderr);
         return kWrongCall;
@@ -383,4 +376,18 @@ int main(int argc, char** argv) {
         return checkFile(call->program);
     }
     return call->table ? printTable(*call->table) : runScript(*call);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // A limit on the size of files is a failure of the write, told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::ios::sync_with_stdio(false);
+    const int status = perform({argv + 1, argv + argc});
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain("tallyforge-keys: what is to be shown cannot be written");
+        return kWrongCall;
+    }
+    return status;
 }

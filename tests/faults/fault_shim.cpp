@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Loaded in front of the C library, it lets one system call fail that concerns a file of the folder
-// FAULT_FOLDER: call number FAULT_AT, counted from 1, with the error number FAULT_ERROR. How many
-// such calls there were goes to the file FAULT_COUNT at the end. A call on any other file is handed
-// on uncounted.
+// FAULT_FOLDER: call number FAULT_AT, counted from 1, with the error number FAULT_ERROR; with 0 a write
+// takes nothing, and any other call goes well. How many such calls there were goes to the file
+// FAULT_COUNT at the end. A call on any other file is handed on uncounted.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -41,18 +41,18 @@ struct Calls {
         }
     }
     /// Counts a call; true where it is the one that fails.
-    bool fails() {
-        if (++made != failing) {
+    bool fails(bool writes) {
+        if (++made != failing || (error == 0 && !writes)) {
             return false;
         }
         errno = error;
         return true;
     }
     bool failsOn(const char* path) {
-        return *folder != '\0' && std::strncmp(path, folder, std::strlen(folder)) == 0 && fails();
+        return *folder != '\0' && std::strncmp(path, folder, std::strlen(folder)) == 0 && fails(false);
     }
-    bool failsOn(int file) {
-        return file >= 0 && file < kMostFiles && watched.at(static_cast<unsigned>(file)) && fails();
+    bool failsOn(int file, bool writes = false) {
+        return file >= 0 && file < kMostFiles && watched.at(static_cast<unsigned>(file)) && fails(writes);
     }
     int watch(int file, const char* path) {
         if (file >= 0 && file < kMostFiles) {
@@ -123,7 +123,7 @@ int mkostemp(char* pattern, int flags) {
 }
 
 ssize_t write(int file, const void* bytes, size_t count) {
-    if (calls().failsOn(file)) {
+    if (calls().failsOn(file, true)) {
         return errno == 0 ? 0 : -1;
     }
     return next<ssize_t (*)(int, const void*, size_t)>("write")(file, bytes, count);
@@ -131,7 +131,7 @@ ssize_t write(int file, const void* bytes, size_t count) {
 
 ssize_t pread(int file, void* bytes, size_t count, off_t at) {
     if (calls().failsOn(file)) {
-        return errno == 0 ? 0 : -1;
+        return -1;
     }
     return next<ssize_t (*)(int, void*, size_t, off_t)>("pread")(file, bytes, count, at);
 }
