@@ -29,6 +29,17 @@ TEST_F(ProgramModeKeys, WithoutNamesTheKeysCarryTheirLetters) {
     EXPECT_EQ(s().modes.ActiveKeypad, Keypad::Program);
 }
 
+TEST_F(ProgramModeKeys, AKeyLeavesTheKeyboardWithTheEntryLine) {
+    loadProgram("# aa\nlbl init\nend\nlbl a\nend\nlbl b\naa = 1\nend\n");
+    for (const std::size_t key : {kKeyA, kKeyB}) {
+        type("~");
+        form().setFocus(form().cmdEnter);
+        run(key);
+        EXPECT_EQ(form().focus, &form().txtXreg);
+        EXPECT_EQ(s().entry.Dropped, '\0') << "a character that was dropped before is forgotten";
+    }
+}
+
 TEST_F(ProgramModeKeys, EnteringAndLeavingChangesMenuKeysAndTips) {
     calc().keypads().ShowKeypad(Keypad::Trigonometry);
     choose(form().cmdF11);
