@@ -19,6 +19,13 @@ namespace tallyforge {
 
 namespace {
 
+/// The beginning of a text that is too long for a line.
+std::string shortened(const std::string& text) {
+    constexpr std::size_t kLongest = 40;
+    constexpr std::string_view kGoesOn = "...";
+    return text.size() <= kLongest ? text : text.substr(0, kLongest - kGoesOn.size()) + std::string(kGoesOn);
+}
+
 /// X as the display shows numbers; nothing before the first one.
 std::string restingX(const Engine& calc) {
     const ValueCell& x = calc.s.stack.Xreg;
@@ -28,7 +35,7 @@ std::string restingX(const Engine& calc) {
     const auto number = x.isTagged() ? std::nullopt : x.tryNumber(calc.s.format.DecimalChar);
     if (!number) {
         const std::string text = calc.text(x);
-        return x.isTagged() ? text : '"' + text + '"';
+        return x.isTagged() ? text : '"' + shortened(text) + '"';
     }
     const NumberLook look{
         .mode = calc.s.format.Mode, .digits = calc.s.format.DisplayDigits, .decimal = calc.s.format.DecimalChar};
@@ -70,7 +77,8 @@ std::string refusedText(const Engine& calc) {
         return {};
     }
     const std::vector<std::string> readings = looseReadings(text, calc.s.format.DecimalChar);
-    return '"' + text + "\" is no number" + (readings.empty() ? "" : "; Shift+Ctrl+V reads " + readings.front());
+    return '"' + shortened(text) + "\" is no number" +
+           (readings.empty() ? "" : "; Shift+Ctrl+V reads " + shortened(readings.front()));
 }
 
 /// Why the line did not take what was typed.

@@ -387,6 +387,8 @@ TEST_F(Settings, APasteOfNoiseOrOfALongTextIsRefused) {
         choose(form().mnuPaste);
         EXPECT_EQ(s().stack.depth(), 1);
         EXPECT_EQ(tape().size(), 1U);
+        EXPECT_LT(form().lineFor(nullptr).size(), 150U) << "what is said of it fits a line";
+        EXPECT_LT(form().txtXreg.resting().size(), 50U);
     }
     ASSERT_EQ(platform.boxes.size(), 2U);
     for (const MessageBox& box : platform.boxes) {
