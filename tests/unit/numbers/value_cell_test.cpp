@@ -16,6 +16,11 @@ TEST(Cell, ReadsAsANumberWhateverItHolds) {
     EXPECT_EQ(ValueCell{std::int16_t{7}}.number('.'), 7.0);
     EXPECT_EQ(ValueCell{0.5F}.number('.'), 0.5);
     EXPECT_EQ(ValueCell{true}.number('.'), -1.0);
+    EXPECT_EQ(ValueCell{false}.number('.'), 0.0);
+    EXPECT_EQ(ValueCell{2.5}.number('.'), 2.5);
+    EXPECT_EQ(ValueCell{}.tryNumber('.'), 0.0);
+    EXPECT_EQ(ValueCell{2.5}.tryNumber('.'), 2.5);
+    EXPECT_EQ(ValueCell{"x"}.tryNumber('.'), std::nullopt);
     EXPECT_EQ(ValueCell{"2,5"}.number(','), 2.5);
     EXPECT_THROW((void)ValueCell{"#1b"}.number('.'), Failure);
     EXPECT_THROW((void)ValueCell{""}.number('.'), Failure);
@@ -60,6 +65,13 @@ TEST(Cell, EqualsWhatIsOfTheSameKindAndValue) {
     EXPECT_NE(ValueCell{"1"}, ValueCell{1.0});
     EXPECT_NE(ValueCell{1.0}, ValueCell{std::int16_t{1}});
     EXPECT_EQ(ValueCell{1.0F}, ValueCell{1.0F});
+    EXPECT_NE(ValueCell{1.0F}, ValueCell{1.5F});
+    EXPECT_EQ(ValueCell{std::int16_t{7}}, ValueCell{std::int16_t{7}});
+    EXPECT_NE(ValueCell{std::int16_t{7}}, ValueCell{std::int16_t{8}});
+    EXPECT_NE(ValueCell{1.0}, ValueCell{2.0});
+    EXPECT_NE(ValueCell{"1"}, ValueCell{"2"});
+    EXPECT_EQ(ValueCell{true}, ValueCell{true});
+    EXPECT_NE(ValueCell{}, ValueCell{""});
     EXPECT_NE(ValueCell{true}, ValueCell{false});
     EXPECT_EQ(ValueCell{}, ValueCell{});
 }

@@ -446,6 +446,24 @@ TEST(FormInput, ALetterLeadsToTheNextOptionThatBeginsWithIt) {
     EXPECT_EQ(form.focus, &form.mode[1]) << "a short cut is no letter";
 }
 
+TEST(FormInput, ArrowsGoFromOptionToOptionAroundTheEnds) {
+    SmallForm form;
+    const auto after = [&](int keyCode) {
+        pressKey(form, {.keyCode = keyCode});
+        return form.focus - &form.mode[0];
+    };
+    form.setFocus(form.mode[0]);
+    EXPECT_EQ(after(kKeyDown), 1);
+    EXPECT_EQ(after(kKeyRight), 2);
+    EXPECT_EQ(after(kKeyDown), 0);
+    EXPECT_EQ(after(kKeyUp), 2);
+    EXPECT_EQ(after(kKeyLeft), 1);
+    EXPECT_TRUE(form.mode[1].checked);
+    form.mode[2].enabled = false;
+    EXPECT_EQ(after(kKeyDown), 0) << "what takes no input is passed over";
+    EXPECT_EQ(after(kKeyUp), 1);
+}
+
 TEST(FormInput, OptionsThatStandAloneAreOneGroup) {
     SmallForm form;
     form.mode[1].checked = true;

@@ -2,6 +2,7 @@
 //
 // What the form says besides its captions: the entry line at rest, the name line, keys that rest.
 #include "engine/key_names.h"
+#include "keypads/keypad_table.h"
 #include "support/calculator_fixture.h"
 
 #include <gtest/gtest.h>
@@ -179,6 +180,40 @@ TEST_F(FormWords, ARowOfTheTapeOrTheStackComesBackBehindWhatIsTyped) {
         doubleClickRow(form(), form().lstDisplayReg, 0);
         EXPECT_EQ(everything(), before) << "a line that is filled up holds nothing";
     }
+}
+
+TEST_F(FormWords, ALineOfABaseComesBackWithoutTheBlanksBehindIt) {
+    s().modes.BaseMode = true;
+    calc().tape.clear(0);
+    calc().tape.add("#1010 1010   ", ValueCell("#10101010b"));
+    calc().tape.add("And            #1010b", ValueCell("#1010b"));
+    doubleClickRow(form(), form().lstDisplayReg, 0);
+    EXPECT_EQ(x(), "#10101010b");
+    EXPECT_TRUE(tape().back().starts_with("Rtrv")) << tape().back();
+    doubleClickRow(form(), form().lstDisplayReg, 1);
+    EXPECT_EQ(x(), "#1010b");
+    EXPECT_TRUE(tape().back().starts_with("  #1010b")) << "what stands behind two blanks is the label";
+}
+
+TEST_F(FormWords, TheRightButtonOpensTheTopicOfTheKeyOrOfTheMode) {
+    const auto topic = [this](std::size_t key, std::uint8_t mask) {
+        platform.helpTopics.clear();
+        rightClick(form(), form().cmdFunctions.at(key), mask);
+        return platform.helpTopics.empty() ? 0 : platform.helpTopics.front();
+    };
+    for (const KeypadTable* table : keypadTables()) {
+        calc().keypads().ShowKeypad(table->id);
+        for (std::size_t key = 0; key < kBankKeys; ++key) {
+            EXPECT_EQ(topic(key, 0), table->rows.at(key).helpTopic) << table->name << key;
+            EXPECT_EQ(topic(key, kShift), 0) << table->name << key;
+        }
+    }
+    calc().keypads().ShowKeypad(Keypad::Standard);
+    choose(form().cmdF12);
+    EXPECT_EQ(topic(3, 0), 650);
+    choose(form().cmdF12);
+    choose(form().cmdF11);
+    EXPECT_EQ(topic(3, kCtrl), 650);
 }
 
 }  // namespace
