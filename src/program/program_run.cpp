@@ -12,30 +12,41 @@ namespace tallyforge {
 void ProgramRun::run(const std::string& label) {
     findLabel(label);
     while (!over()) {
-        const WrittenLine line = nextLine();
+        goOneLineOn();
         tick();
-        if (line.skipped()) {
-            continue;
+        const ProgramLine* line = text->known(position_);
+        if (line == nullptr) {
+            if (text->line(position_).skipped()) {
+                continue;
+            }
+            line = &takenApart();
         }
-        if (text->full() && tools.control.running == 1) {
-            // No line is under way, here or in a run around this one.
-            text->forgetPrepared();
-        }
-        const ProgramLine& ready = text->prepared(position_, state.variables);
         if (std::exchange(behindIf_, false)) {
-            runBehindIf(ready);
+            runBehindIf(*line);
         } else {
-            runLine(ready);
+            runLine(*line);
         }
     }
 }
 
-WrittenLine ProgramRun::nextLine() {
+const ProgramLine& ProgramRun::takenApart() {
+    if (text->full() && tools.control.running == 1) {
+        // No line is under way, here or in a run around this one.
+        text->forgetPrepared();
+    }
+    return text->prepared(position_, state.variables);
+}
+
+void ProgramRun::goOneLineOn() {
     if (position_ >= text->count()) {
         throw ProgramFault(ProgramFaultNumber::PastEndOfFile);
     }
     ++position_;
     ++lineNumber_;
+}
+
+WrittenLine ProgramRun::nextLine() {
+    goOneLineOn();
     return text->line(position_);
 }
 

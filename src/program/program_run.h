@@ -60,7 +60,9 @@ private:
     };
     using Words = std::vector<ProgramWord>;
 
+    void goOneLineOn();
     WrittenLine nextLine();
+    [[nodiscard]] const ProgramLine& takenApart();
     void runLine(const ProgramLine& line);
     void runBehindIf(const ProgramLine& line);
     void runIf(const ProgramLine& line);

@@ -92,6 +92,10 @@ public:
     /// The same, taken apart with the names of `variables`. Raises std::bad_alloc for a line of more words
     /// than are kept.
     [[nodiscard]] const ProgramLine& prepared(int number, const Variables& variables);
+    /// The same where it has been taken apart already, else nullptr.
+    [[nodiscard]] const ProgramLine* known(int number) const {
+        return prepared_[static_cast<std::size_t>(number) - 1].get();
+    }
     /// Whether as many lines have been taken apart as are kept.
     [[nodiscard]] bool full() const { return words_ >= kMostWords; }
     /// No line is taken apart any more; none that prepared() gave may be in use.

@@ -202,6 +202,12 @@ bool refusedPaste(const CalculatorAtHand& hand, const Act& act) {
     return isKey(act, "Ctrl+V") && !x.isTagged() && !x.tryNumber(hand.s().format.DecimalChar);
 }
 
+/// Ctrl+V finds a text that is no plain number, as a web page or a sheet has it.
+void copySomething(CalculatorAtHand& hand) {
+    hand.platform.clipboard = *rc::gen::element<std::string>("1,234.56", "1.234,56", "12abc", "a,b", "x y", "#1Fb",
+                                                             "  7 ", std::string(300, '7'), std::string(300, 'z'));
+}
+
 /// A cell's number, or its text where it has none, for comparison.
 std::string asRead(const Engine& calc, const ValueCell& cell) {
     return cell.isEmpty() ? "0" : calc.text(cell);
@@ -258,6 +264,7 @@ TEST(Properties, ResetAndUndoBringBackWhatWasThere) {
     EXPECT_TRUE(rc::check("stack, tape, values, registers and names", [&fresh] {
         CalculatorAtHand hand;
         startInSomeLocale(hand);
+        copySomething(hand);
         for (const Act& act : someActs()) {
             play(hand, act);
         }
@@ -320,10 +327,19 @@ void save(CalculatorAtHand& hand, Control& entry, const std::string& name) {
     hand.platform.answers.clear();
 }
 
+/// Whether a box has said that the file holds less than there is.
+bool toldOfWhatIsLeftOut(const CalculatorAtHand& hand, std::string_view title) {
+    const auto& boxes = hand.platform.boxes;
+    return std::any_of(boxes.begin(), boxes.end(), [title](const MessageBox& box) {
+        return box.title == title && box.text.starts_with("A file cannot hold");
+    });
+}
+
 TEST(Properties, WhatIsSavedIsThereAfterARestart) {
     EXPECT_TRUE(rc::check("tape, registers and settings", [] {
         CalculatorAtHand hand;
         startInSomeLocale(hand);
+        copySomething(hand);
         for (const Act& act : someActs()) {
             play(hand, act);
         }
@@ -338,16 +354,18 @@ TEST(Properties, WhatIsSavedIsThereAfterARestart) {
         const auto settings = settingsShown(hand);
         save(hand, hand.form().mnuSaveTape, "day.tape");
         save(hand, hand.form().mnuSaveMem, "day.reg");
+        const bool toldOfTheTape = toldOfWhatIsLeftOut(hand, "Save Running Tape");
+        const bool toldOfRegisters = toldOfWhatIsLeftOut(hand, "Save Memory Registers");
         const auto stackAndTape = hand.stackAndTape();
         const auto registers = hand.registers();
         closeForm(hand.form());
         hand.start();
         RC_ASSERT(settingsShown(hand) == settings);
         save(hand, hand.form().mnuRetMem, "day.reg");
-        RC_ASSERT(hand.registers() == registers);
+        RC_ASSERT(toldOfRegisters || hand.registers() == registers);
         save(hand, hand.form().mnuTape, "day.tape");
-        RC_ASSERT(hand.stackAndTape() == stackAndTape);
-        RC_ASSERT(hand.registers() == registers);
+        RC_ASSERT(toldOfTheTape || hand.stackAndTape() == stackAndTape);
+        RC_ASSERT(toldOfTheTape || hand.registers() == registers);
     }));
 }
 
