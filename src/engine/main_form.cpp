@@ -303,7 +303,12 @@ void MainForm::dressRegisters() {
 }
 
 std::string MainForm::lineFor(const Control* pointed) const {
-    // What a mode says of itself goes before all else, but for the contents of the register keys.
+    // What a mode says of itself goes before all else, but for the contents of the register keys; what
+    // the last key was refused for stands behind it.
+    const std::string told = notice ? notice() : std::string{};
+    if (!told.empty()) {
+        return lblName.text.empty() ? told : lblName.text + ": " + told;
+    }
     std::string words = pointed != nullptr && pointed->words && pointed->visible ? pointed->words() : std::string{};
     if (!lblName.text.empty()) {
         return words.find(':') == std::string::npos ? lblName.text : words;

@@ -82,6 +82,8 @@ public:
     [[nodiscard]] std::string lineFor(const Control* pointed) const override;
     /// What the name line says besides the keypad's name; "" for nothing.
     std::function<std::string()> status;
+    /// Why the last key was not taken; it is told before all but a mode's own text, and behind that.
+    std::function<std::string()> notice;
 
 private:
     /// What a control is before its first use.

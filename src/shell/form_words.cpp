@@ -81,9 +81,12 @@ std::string refusedText(const Engine& calc) {
            (readings.empty() ? "" : "; Shift+Ctrl+V reads " + shortened(readings.front()));
 }
 
-/// Why the line did not take what was typed.
+/// Why the line did not take what was typed; nothing where it did.
 std::string dropped(const Engine& calc) {
     const char typed = calc.s.entry.Dropped;
+    if (typed == '\0') {
+        return {};
+    }
     const char decimal = calc.s.format.DecimalChar;
     const std::string& line = calc.form.txtXreg.text;
     if (line.size() >= calc.form.txtXreg.maxLength) {
@@ -100,9 +103,6 @@ std::string dropped(const Engine& calc) {
 
 std::string statusLine(const Engine& calc) {
     const EngineState& s = calc.s;
-    if (s.entry.Dropped != '\0') {
-        return dropped(calc);
-    }
     const bool latched = !calc.form.optKey.back().checked;
     if (calc.form.shaAlt.visible && !latched) {
         return "Alt: click Alt below, then the key";
@@ -181,6 +181,7 @@ void hangWords(Engine& calc, Clipboard& clipboard) {
     form.mnuPaste.shortCut = "Ctrl+V";
     form.mnuHelpIntro.shortCut = "F1";
     form.status = [&calc] { return statusLine(calc); };
+    form.notice = [&calc] { return dropped(calc); };
     form.copyText = [&calc](std::string_view text) { calc.platform.setClipboardText(text); };
     hangFunctionKeys(calc, clipboard);
 }

@@ -57,6 +57,27 @@ TEST_F(WindowFace, ADroppedCharacterFlashesTheEdgeAndIsNamed) {
     EXPECT_EQ(nameLine(), "The entry line is full");
 }
 
+TEST_F(WindowFace, WhatWasDroppedIsNamedInAModeAndUnderThePointer) {
+    strike(Qt::Key_F12);
+    ASSERT_TRUE(engine().s.modes.MemoryArrayMode);
+    type("1.5");
+    EXPECT_EQ(nameLine(), "Memory Array");
+    type(".");
+    EXPECT_EQ(nameLine(), "Memory Array: There is a \".\" already");
+    EXPECT_EQ(form().lblName.text, "Memory Array");
+    EXPECT_GT(count(form().txtXreg, theme().lamp), 100);
+    type("2");
+    EXPECT_EQ(nameLine(), "Memory Array");
+    strike(Qt::Key_F12);
+    view().pointAt(&form().cmdFunctions.at(1));
+    const QString words = nameLine();
+    EXPECT_NE(words, "Standard");
+    type("1.5.");
+    EXPECT_EQ(nameLine(), "There is a \".\" already");
+    type("2");
+    EXPECT_EQ(nameLine(), words);
+}
+
 TEST_F(WindowFace, AListenerHearsWhatWasDropped) {
     type("1");
     std::vector<QString> heard;
