@@ -77,6 +77,7 @@ int render(const QString& picture, const QString& script, double scale) {
     const QTemporaryDir folder;
     HeadlessOptions options;
     options.data = folder.path().toStdString();
+    options.home = QApplication::applicationDirPath().toStdString();
     std::ostringstream complaints;
     KeyScript keys(
         options, [](std::string_view) {}, [&](std::string_view line) { complaints << line << '\n'; });

@@ -4,12 +4,11 @@
 // painted, the first time and later; from a letter of a search to what it has found; from a key to
 // the list or chart painted. Ends with 1 where a limit is missed.
 #include "desktops/qt/help_window.h"
-#include "desktops/qt/main_window.h"
-#include "desktops/qt/qt_platform.h"
 #include "help/help_file.h"
 #include "platform/file_store.h"
 #include "platform/form_input.h"
-#include "shell/calculator.h"
+
+#include "shown_calculator.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -127,14 +126,11 @@ bool measureHelp(qt::QtPlatform& platform) {
 int main(int argc, char** argv) {
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     QApplication application(argc, argv);
-    qt::QtPlatform platform;
-    Calculator calculator(platform);
-    calculator.load();
+    ShownCalculator shown;
+    Calculator& calculator = shown.calculator;
     MainForm& form = calculator.engine().form;
-    qt::MainWindow window(form, '.');
-    window.present();
-    window.show();
-    QApplication::processEvents();
+    qt::MainWindow& window = shown.window;
+    qt::QtPlatform& platform = shown.platform;
     QApplication::instance()->installEventFilter(&watch());
     bool held = measureHelp(platform);
     platform.setWindow(&window);

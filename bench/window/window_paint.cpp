@@ -3,10 +3,9 @@
 // window_paint: the calculator's window in this process, from a modifier that goes down to the bank
 // painted with its captions, and from a new size to the window painted in it. Ends with 1 where a
 // limit is missed.
-#include "desktops/qt/main_window.h"
-#include "desktops/qt/qt_platform.h"
 #include "platform/form_input.h"
-#include "shell/calculator.h"
+
+#include "shown_calculator.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -55,14 +54,10 @@ bool report(const char* what, const Times& times, double limit) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    qt::QtPlatform platform;
-    Calculator calculator(platform);
-    calculator.load();
+    ShownCalculator shown;
+    Calculator& calculator = shown.calculator;
     MainForm& form = calculator.engine().form;
-    qt::MainWindow window(form, '.');
-    window.present();
-    window.show();
-    QApplication::processEvents();
+    qt::MainWindow& window = shown.window;
     bool held = true;
     // Keypads that are shown without a hint, which would wait for its answer.
     for (const auto& [name, keypad] :
