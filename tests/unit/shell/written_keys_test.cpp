@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tallyforge {
@@ -119,6 +121,53 @@ TEST_F(WrittenKeys, EachSetOfInputsLeavesWhatIsWritten) {
         }
     }
     expectAsWritten("key_sets", all_);
+}
+
+// Every key, option, row and menu entry of the form in every mode: where the keyboard is afterwards,
+// and what stands.
+TEST_F(WrittenKeys, EachClickOnTheFormLeavesWhatIsWritten) {
+    using EntersMode = Control* (*)(MainForm&);
+    const std::pair<std::string_view, EntersMode> modes[] = {{"standard", nullptr},
+                                                             {"binary", [](MainForm& f) { return &f.mnuEngBinary; }},
+                                                             {"program", [](MainForm& f) { return &f.cmdF11; }},
+                                                             {"registers", [](MainForm& f) { return &f.cmdF12; }},
+                                                             {"held", [](MainForm& f) { return &f.optKey.at(0); }}};
+    for (const auto& [mode, enterMode] : modes) {
+        start();
+        for (std::size_t at = 0; at < form().controls().size(); ++at) {
+            for (const std::string_view typed : {"", "12"}) {
+                if (!form().controls().at(at)->click) {
+                    continue;
+                }
+                start();
+                enter("2");
+                enter("3");
+                if (enterMode != nullptr) {
+                    choose(*enterMode(form()));
+                }
+                type(typed);
+                Control& control = *form().controls().at(at);
+                if (&control == &form().mnuFileExit) {
+                    continue;
+                }
+                platform.boxes.clear();
+                calc().tape.clear(0);
+                s().entry.Dropped = '~';
+                form().setFocus(form().lstStack);
+                form().txtXreg.caret = 0;
+                const std::string before = left();
+                const bool taken = control.rows != nullptr ? clickRow(form(), control, 0) : click(form(), control);
+                if (taken) {
+                    const bool changed = left() != before;
+                    all_.push_back(std::string(mode) + " \"" + std::string(typed) + "\" " + control.fullName() + ": " +
+                                   form().focus->fullName() + " " + std::to_string(form().txtXreg.caret) +
+                                   (s().entry.Dropped == '\0' ? "" : " dropped") + (changed ? " " + left() : ""));
+                    std::replace(all_.back().begin(), all_.back().end(), '\n', '\\');
+                }
+            }
+        }
+    }
+    expectAsWritten("form_clicks", all_);
 }
 
 TEST_F(WrittenKeys, AFactorialShowsAllItsDigitsUpToThatOfSixteen) {
