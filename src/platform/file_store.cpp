@@ -263,13 +263,10 @@ std::string readWhole(const std::filesystem::path& path, std::size_t limit) {
         const std::size_t used = bytes.size();
         bytes.resize(used + kBlock);
         const ssize_t got = ::read(file.number(), bytes.data() + used, kBlock);
-        if (got < 0 && errno == EINTR) {
-            bytes.resize(used);
-            continue;
-        }
+        const int problem = got < 0 ? errno : 0;
         bytes.resize(used + (got > 0 ? static_cast<std::size_t>(got) : 0));
-        if (got < 0) {
-            throw FileError{problemOf(errno)};
+        if (problem != 0 && problem != EINTR) {
+            throw FileError{problemOf(problem)};
         }
         if (bytes.size() > limit) {
             throw FileError{FileProblem::TooLarge};

@@ -110,5 +110,20 @@ TEST(QuietRun, LeavesWhatAWatchedOneLeaves) {
     }
 }
 
+// Where a number with its label grows beyond a line of the tape.
+TEST(QuietRun, WritesNumbersOfEachLengthBesideTheirLabelsAsAWatchedOneDoes) {
+    for (int digits = 0; digits <= 12; ++digits) {
+        std::string program = "# aa bb\nlbl init\nend\nlbl a\ndsp " + std::to_string(digits) + "\n";
+        for (int power = 5; power <= 17; ++power) {
+            const std::string ten = "1e" + std::to_string(power);
+            for (const std::string& number : {ten, "-" + ten, ten.substr(1).insert(0, "9.99999999")}) {
+                program += number + "\nenter\nlstx\n";
+            }
+        }
+        program += "end\n";
+        ASSERT_EQ(runOf(program, true), runOf(program, false)) << digits;
+    }
+}
+
 }  // namespace
 }  // namespace tallyforge
