@@ -30,7 +30,9 @@ TEST_F(ProgramModeKeys, WithoutNamesTheKeysCarryTheirLetters) {
 }
 
 TEST_F(ProgramModeKeys, AKeyLeavesTheKeyboardWithTheEntryLine) {
+    form().setFocus(form().cmdEnter);
     loadProgram("# aa\nlbl init\nend\nlbl a\nend\nlbl b\naa = 1\nend\n");
+    EXPECT_EQ(form().focus, &form().txtXreg) << "behind a load, too";
     for (const std::size_t key : {kKeyA, kKeyB}) {
         type("~");
         form().setFocus(form().cmdEnter);
