@@ -29,10 +29,11 @@ std::string shortened(const std::string& text) {
 /// X as the display shows numbers; nothing before the first one.
 std::string restingX(const Engine& calc) {
     const ValueCell& x = calc.s.stack.Xreg;
-    if (calc.s.stack.depth() == 0 || x.isEmptyText()) {
+    const auto number = x.isTagged() ? std::nullopt : x.tryNumber(calc.s.format.DecimalChar);
+    // A text that was refused rests there before the first number, too.
+    if (x.isEmptyText() || (calc.s.stack.depth() == 0 && (number || x.isTagged()))) {
         return {};
     }
-    const auto number = x.isTagged() ? std::nullopt : x.tryNumber(calc.s.format.DecimalChar);
     if (!number) {
         const std::string text = calc.text(x);
         return x.isTagged() ? text : '"' + shortened(text) + '"';
