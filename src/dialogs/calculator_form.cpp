@@ -125,7 +125,6 @@ void CalculatorForm::typeInField(int index, int& key) {
     field.caret = field.text.size();
 }
 
-// Tab belongs to the fields; with Ctrl it leaves them for the keys and comes back from there.
 bool CalculatorForm::printsPage(KeyEvent event) {
     if (event.keyCode != 'P' || event.shift != kCtrl) {
         return false;
@@ -135,6 +134,7 @@ bool CalculatorForm::printsPage(KeyEvent event) {
     return true;
 }
 
+// Tab belongs to the fields; with Ctrl it leaves them for the keys and comes back from there.
 bool CalculatorForm::leavesFields(KeyEvent event) {
     if (event.keyCode != kKeyTab || (event.shift & kCtrl) == 0) {
         return false;

@@ -139,6 +139,8 @@ void MainForm::dressLists() {
         {.kind = ControlKind::List, .tip = " Running Tape Display ", .spoken = "Running tape", .font = kNumbers});
     lstDisplayReg.fromBottom = true;
     put(lstStack, "lstStack", {.kind = ControlKind::List, .tip = " Stack ", .spoken = "Stack", .font = kNumbers});
+    // One row more than the tape in the same height.
+    lstStack.rowHeight = 175;
     for (int i = 0; i < static_cast<int>(lblStkReg.size()); ++i) {
         put(lblStkReg.at(static_cast<std::size_t>(i)), "lblStkReg",
             {.kind = ControlKind::Label, .spoken = "Row mark", .font = kNumbers, .visible = false}, i);

@@ -78,6 +78,8 @@ void MainForm::dressMenus() {
         entry.menu = row.menu;
     }
     mnuSkins.checked = true;
+    mnuAOT.placesWindow = true;
+    mnuPosition.placesWindow = true;
 }
 
 }  // namespace tallyforge

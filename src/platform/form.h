@@ -109,20 +109,22 @@ struct Control {
     bool rightAligned = false;  ///< fields and labels
     std::string menu;           ///< menu entries: name of the menu that holds them
     ListRows* rows = nullptr;   ///< lists and choices
+    int rowHeight = 200;        ///< lists: height of a row of nine points, twips
     std::vector<int> columns;   ///< lists: where the text behind each tab character begins, twips
     std::string group;          ///< options: those of one group exclude each other; "" is the name's
     bool tabStop = true;        ///< Tab stops here
     bool takesEnter = false;    ///< fields: Enter, Tab or Esc come to its key handlers and
     bool takesTab = false;      ///< do nothing else
     bool takesEscape = false;
-    std::string typedBy;     ///< keys: characters of the keyboard that press it
-    int struckBy = 0;        ///< keys: code of the key that presses it and types nothing
-    bool live = false;       ///< what becomes of its text, or its last row, is told to a listener
-    int walkStop = 0;        ///< where typing has a field of its own: the stop of Tab that it belongs to, from 1
-    int progress = 0;        ///< 0 to 100
-    int refusals = 0;        ///< fields: counts what was typed and dropped; each flashes the edge
-    std::string shortCut{};  ///< menu entries: the keys that do the same, shown beside the caption
-    Drawing drawing{};       ///< pictures
+    std::string typedBy;        ///< keys: characters of the keyboard that press it
+    int struckBy = 0;           ///< keys: code of the key that presses it and types nothing
+    bool live = false;          ///< what becomes of its text, or its last row, is told to a listener
+    int walkStop = 0;           ///< where typing has a field of its own: the stop of Tab that it belongs to, from 1
+    int progress = 0;           ///< 0 to 100
+    int refusals = 0;           ///< fields: counts what was typed and dropped; each flashes the edge
+    std::string shortCut{};     ///< menu entries: the keys that do the same, shown beside the caption
+    bool placesWindow = false;  ///< menu entries: of no use where windows cannot be placed
+    Drawing drawing{};          ///< pictures
 
     /// Keys: it would do nothing at present (under the modifiers that are held), and is painted dim.
     std::function<bool()> idle;

@@ -12,10 +12,7 @@ namespace tallyforge::qt {
 
 namespace {
 
-/// Height of a list row; seven of them fill the tape.
-constexpr double kRowTwips = 200.0;
 constexpr double kListFontShare = 0.86;
-constexpr double kStackRowTwips = 175.0;
 constexpr double kRadius = 40.0;       ///< of keys, fields and lists, twips
 constexpr double kFieldMargin = 60.0;  ///< twips
 
@@ -206,10 +203,8 @@ void paintLamp(QPainter& painter, const QRectF& area, const Theme& theme) {
 }
 
 ListMetrics listMetrics(const Control& list, double height, double pixelsPerTwip) {
-    // The stack list shows one row more than the tape in the same height.
-    const double twips = list.name == "lstStack" ? kStackRowTwips : kRowTwips;
     ListMetrics metrics;
-    metrics.rowHeight = twips * pixelsPerTwip * static_cast<double>(list.font.points) / 9.0;
+    metrics.rowHeight = list.rowHeight * pixelsPerTwip * static_cast<double>(list.font.points) / 9.0;
     metrics.visibleRows = static_cast<std::size_t>(std::max(1.0, std::floor((height + 1.0) / metrics.rowHeight)));
     if (list.fromBottom && list.rows != nullptr) {
         const auto shown = static_cast<double>(std::min(metrics.visibleRows, list.rows->count()));

@@ -75,7 +75,7 @@ void MainWindow::buildMenus() {
         } else if (control->kind == ControlKind::MenuEntry) {
             QAction* action = menus.at(control->menu)->addAction(caption(*control));
             connect(action, &QAction::triggered, this, [this, control] { choose(*control); });
-            if (control->name == "mnuAOT" || control->name == "mnuPosition") {
+            if (control->placesWindow) {
                 action->setVisible(canPlaceWindows());
             }
             actions_.push_back({control, action});
