@@ -18,7 +18,7 @@ std::string_view trimmed(std::string_view text) {
     return first == text.npos ? std::string_view{} : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-std::optional<double> readNumber(std::string_view word, char decimal) {
+std::optional<double> readAmount(std::string_view word, char decimal) {
     std::string text(word.starts_with('+') ? word.substr(1) : word);
     const char other = decimal == '.' ? ',' : '.';
     if (text.find(other) != std::string::npos) {
@@ -57,7 +57,7 @@ LineConverter::Known& LineConverter::lookUp(std::string_view words, bool& isNew)
 LineConverter::Answer LineConverter::convert(std::string_view line) {
     line = trimmed(line);
     const auto blank = line.find_first_of(" \t");
-    const auto number = readNumber(line.substr(0, blank), decimal_);
+    const auto number = readAmount(line.substr(0, blank), decimal_);
     if (!number) {
         return {.text = "no number: " + std::string(line)};
     }

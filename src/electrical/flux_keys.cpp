@@ -45,7 +45,7 @@ constexpr MultiInput::Shape kCapacityShape{.resetLabel = "Reset Flux Cap.",
                                            .echoLook = {.digits = 3, .bySize = true}};
 
 /// X and Y of half a cycle with the form factor k.
-struct WaveStep {
+struct FluxStep {
     double (*of)(double x, double y, double k) = nullptr;
     double formFactor = kSineHalfCycle;
     std::string_view label{};
@@ -60,7 +60,7 @@ double volts(double x, double y, double k) {
 }
 
 // By HalfWave.
-constexpr std::array<WaveStep, 6> kWaveSteps{{{ratio, kSineHalfCycle, "V-S"},
+constexpr std::array<FluxStep, 6> kWaveSteps{{{ratio, kSineHalfCycle, "V-S"},
                                               {volts, kSineHalfCycle, "E(V)"},
                                               {ratio, kSquareHalfCycle, "V-S"},
                                               {volts, kSquareHalfCycle, "E(V)"},
@@ -91,7 +91,7 @@ void fluxOfDensity(Engine& calc) {
 }
 
 void halfWave(Engine& calc, HalfWave which) {
-    const WaveStep& step = kWaveSteps.at(static_cast<std::size_t>(which));
+    const FluxStep& step = kWaveSteps.at(static_cast<std::size_t>(which));
     replaceOperands(calc, 2, {step.of(calc.xNumber(), operandBelow(calc, 1), step.formFactor), step.label});
     chooseDigits(calc);
 }

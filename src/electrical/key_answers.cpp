@@ -17,7 +17,7 @@ void answerBySize(Engine& calc, const Result& result, int digits) {
     chooseDigits(calc, digits);
 }
 
-void refuse(Engine& calc, const Refusal& refusal) {
+void refuse(Engine& calc, const KeyRefusal& refusal) {
     calc.message(refusal.kind, refusal.title, refusal.text);
     if (refusal.label.empty()) {
         leaveX(calc);

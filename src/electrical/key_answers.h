@@ -20,7 +20,7 @@ void answerWithDigits(Engine& calc, const Result& result, int digits, int operan
 void answerBySize(Engine& calc, const Result& result, int digits = 2);
 
 /// Why a look-up has no result.
-struct Refusal {
+struct KeyRefusal {
     std::string_view text{};
     std::string_view title = "Error!";
     BoxKind kind = BoxKind::Stop;
@@ -29,7 +29,7 @@ struct Refusal {
 };
 
 /// Shows the box; X and the stack stay.
-void refuse(Engine& calc, const Refusal& refusal);
+void refuse(Engine& calc, const KeyRefusal& refusal);
 
 /// Whether `value` has no fraction.
 [[nodiscard]] bool isWhole(double value);

@@ -22,8 +22,8 @@ constexpr int kLargestScrew = 14;
 constexpr double kThreadsPlaces = 100.0;
 
 constexpr std::string_view kTitle = "Machine Screw Sizes";
-constexpr Refusal kNotWhole{.text = "Please enter an integer!", .title = kTitle};
-constexpr Refusal kNoSuchScrew{.text = "Enter a size between -2 (000) and 14", .title = kTitle};
+constexpr KeyRefusal kNotWhole{.text = "Please enter an integer!", .title = kTitle};
+constexpr KeyRefusal kNoSuchScrew{.text = "Enter a size between -2 (000) and 14", .title = kTitle};
 
 constexpr std::array<TableRow, 29> kTapRows{{{-200, 71}, {-100, 65}, {0, 55},    {156, 54},  {164, 53},  {172, 53},
                                              {256, 50},  {264, 50},  {348, 47},  {356, 45},  {436, 44},  {440, 43},

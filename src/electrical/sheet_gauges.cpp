@@ -40,7 +40,7 @@ constexpr std::array<TableRow, 44> kAluminumRows{
 
 /// The thickness under a label of `before`, the gauge and `behind`, or the box.
 void lookUp(Engine& calc, const LookupTable& table, std::string_view before, std::string_view behind,
-            const Refusal& refusal) {
+            const KeyRefusal& refusal) {
     const double gauge = calc.xNumber();
     if (const auto inches = table.at(gauge)) {
         const std::string label = std::string(before) + plainSize(static_cast<int>(gauge)) + std::string(behind);

@@ -25,9 +25,9 @@ constexpr int kInchDigits = 6;
 constexpr int kMillimetreDigits = 4;
 constexpr int kGaugeDigits = 0;
 
-constexpr Refusal kNotWhole{.text = "Use integers only!", .label = "Error"};
-constexpr Refusal kNoSuchWeight{.text = "Number outside of range: - 3 to 60", .label = "Error"};
-constexpr Refusal kBeyondSingle{.text = "Number outside of range: -3 to 60", .label = "Error"};
+constexpr KeyRefusal kNotWhole{.text = "Use integers only!", .label = "Error"};
+constexpr KeyRefusal kNoSuchWeight{.text = "Number outside of range: - 3 to 60", .label = "Error"};
+constexpr KeyRefusal kBeyondSingle{.text = "Number outside of range: -3 to 60", .label = "Error"};
 
 /// Pounds per foot of the gauge in X; empty after its box.
 std::optional<double> poundsPerFoot(Engine& calc) {

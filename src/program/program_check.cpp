@@ -22,7 +22,7 @@ constexpr std::string_view kInit = "init";
 /// Keys whose letter is a label of its own; the other four have captions that stay.
 constexpr std::string_view kKeyLetters = "abcdefghijklmnopqrst";
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     return "\"" + std::string(text) + "\"";
 }
 
@@ -125,21 +125,21 @@ void Checker::checkDeclaration() {
 
 void Checker::checkName(int line, const std::string& name) {
     const auto wins = [&](std::string_view what) {
-        add(line, "name " + quoted(name) + " is taken for " + std::string(what));
+        add(line, "name " + inQuotes(name) + " is taken for " + std::string(what));
     };
     const bool letter = name.front() >= 'a' && name.front() <= 'z';
     const bool digit = name.front() >= '0' && name.front() <= '9';
     if (const Statement statement = statementOf(name); statement != Statement::None) {
         const auto row = std::ranges::find(statementRows(), statement, &StatementRow::statement);
-        wins("the word " + quoted(row->word));
+        wins("the word " + inQuotes(row->word));
     } else if (findFunction(name) != nullptr || ClassifyOperator(name).kind == OperatorClass::Then) {
         wins("the word of that name");
     } else if (digit && name.front() != '0') {
         wins("a number");
     } else if (!letter && !digit) {
-        add(line, "name " + quoted(name) + " does not begin with a letter");
+        add(line, "name " + inQuotes(name) + " does not begin with a letter");
     } else if (letter && name.size() == 1) {
-        add(line, "name " + quoted(name) + " is too short: two characters at least");
+        add(line, "name " + inQuotes(name) + " is too short: two characters at least");
     }
 }
 
@@ -169,11 +169,11 @@ void Checker::collectCalls() {
 void Checker::checkLabel(int line) {
     const std::string label{text_.line(line).text.substr(kLabelWord.size())};
     if (line == text_.count()) {
-        add(line, "label " + quoted(label) + " stands on the last line and is not found");
+        add(line, "label " + inQuotes(label) + " stands on the last line and is not found");
     } else if (!labels_.insert(label).second) {
-        add(line, "label " + quoted(label) + " is there already, in line " + std::to_string(*text_.label(label)));
+        add(line, "label " + inQuotes(label) + " is there already, in line " + std::to_string(*text_.label(label)));
     } else if (!called_.contains(label)) {
-        add(line, "label " + quoted(label) + " is never called");
+        add(line, "label " + inQuotes(label) + " is never called");
     }
     section_ = line;
 }
@@ -225,7 +225,7 @@ void Checker::checkLine(int line) {
 
 void Checker::checkSeveral(int line, const ProgramLine& ready) {
     if (ready.variable < 0) {
-        const std::string first = quoted(ready.words.front().text);
+        const std::string first = inQuotes(ready.words.front().text);
         add(line, ready.isAssignment ? "variable " + first + " is not declared"
                                      : first + " is no variable: a line of three words or more begins with one");
     }
@@ -254,14 +254,14 @@ void Checker::checkComparison(int line, const ProgramLine& ready) {
     if (found == ready.words.end() || ClassifyOperator(found->text).kind == OperatorClass::Then) {
         add(line, "\"if\" without a comparison");
     } else if (op != "=" && op != "<>" && op != "<" && op != ">") {
-        add(line, quoted(found->text) + " is no comparison");
+        add(line, inQuotes(found->text) + " is no comparison");
     } else if (found->text != op) {
-        add(line, quoted(found->text) + " means " + quoted(op));
+        add(line, inQuotes(found->text) + " means " + inQuotes(op));
     } else if ((op == "<" || op == ">") && (isZero(ready.test.left) || isZero(ready.test.right))) {
         const std::string side = sideOf(isZero(ready.test.right) ? ready.test.left : ready.test.right);
         const bool asked = std::ranges::any_of(open_, [&](const OpenIf& outer) { return outer.notZero == side; });
         if (!asked) {
-            add(line, quoted(op) + " holds of 0 and 0, too: ask for \"<> 0\" first");
+            add(line, inQuotes(op) + " holds of 0 and 0, too: ask for \"<> 0\" first");
         }
     }
 }
@@ -274,12 +274,12 @@ void Checker::checkWords(int line, const Words& words, std::size_t from) {
 
 void Checker::checkWord(int line, const ProgramWord& word) {
     if (word.kind == Kind::Unknown) {
-        add(line, "unknown word " + quoted(word.text) + ": it pushes 0");
+        add(line, "unknown word " + inQuotes(word.text) + ": it pushes 0");
     } else if (word.kind == Kind::NoNumber || word.failure != 0) {
-        add(line, quoted(word.text) + " is no number");
+        add(line, inQuotes(word.text) + " is no number");
     } else if ((word.statement == Statement::Gsb || word.statement == Statement::Glb) && word.target == 0) {
         constexpr std::size_t kOperand = 4;
-        add(line, "label " + quoted(word.text.substr(std::min(kOperand, word.text.size()))) + " is missing");
+        add(line, "label " + inQuotes(word.text.substr(std::min(kOperand, word.text.size()))) + " is missing");
     } else if (word.statement == Statement::If) {
         add(line, "\"if\" within a line has nothing to compare");
     }

@@ -104,7 +104,7 @@ void ProgramRun::pushSeconds() {
 void ProgramRun::trac(const ProgramWord& word) {
     if (word.text == "trac") {
         tools.mode.toggleTrace(KeyColour::PaleYellow);
-    } else if (trimmed(from(word.text, 6)) == "1") {
+    } else if (withoutBlanks(from(word.text, 6)) == "1") {
         listVariables();
     } else {
         throw ProgramFault(ProgramFaultNumber::IllegalCharacter, " illegal character" + nearLine());
@@ -119,7 +119,7 @@ void ProgramRun::listVariables() {
 }
 
 void ProgramRun::mark(const ProgramWord& word, bool bold) {
-    std::string caption{trimmed(from(word.text, 5))};
+    std::string caption{withoutBlanks(from(word.text, 5))};
     if (!bold && caption.size() == 1) {
         caption = capitals(caption);
     }
@@ -247,7 +247,7 @@ void ProgramRun::digits(const ProgramWord& word) {
     if (!digitsBefore_) {
         digitsBefore_ = calc.s.format.DisplayDigits;
     }
-    calc.setEntry(trimmed(from(word.text, 5)));
+    calc.setEntry(withoutBlanks(from(word.text, 5)));
     calc.display.cmdDigits_Click();
 }
 

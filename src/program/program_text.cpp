@@ -120,7 +120,7 @@ bool takeNumber(ProgramWord& word) {
 
 /// Operand of a statement that is followed by a number, from character `from` on.
 void takeOperand(ProgramWord& word, std::size_t from) {
-    const std::string_view text = trimmed(std::string_view{word.text}.substr(std::min(from, word.text.size())));
+    const std::string_view text = withoutBlanks(std::string_view{word.text}.substr(std::min(from, word.text.size())));
     if (!text.empty()) {
         readWhole(word, text);
     }
@@ -221,7 +221,7 @@ std::string capitals(std::string_view text) {
     return out;
 }
 
-std::string_view trimmed(std::string_view text) {
+std::string_view withoutBlanks(std::string_view text) {
     const auto first = text.find_first_not_of(' ');
     return first == text.npos ? std::string_view{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
@@ -263,7 +263,7 @@ ProgramText::ProgramText(std::string_view file) {
 void ProgramText::addLine(std::string_view line) {
     std::string written{line};
     std::replace(written.begin(), written.end(), '\t', ' ');
-    const std::string_view kept = trimmed(written);
+    const std::string_view kept = withoutBlanks(written);
     lines_.push_back({static_cast<std::uint32_t>(written_.size()), static_cast<std::uint32_t>(kept.size())});
     written_ += kept;
 }

@@ -135,7 +135,7 @@ private:
 /// `text` in capitals, Latin-1 letters too.
 [[nodiscard]] std::string capitals(std::string_view text);
 /// `text` without blanks at the ends.
-[[nodiscard]] std::string_view trimmed(std::string_view text);
+[[nodiscard]] std::string_view withoutBlanks(std::string_view text);
 /// The words of `text` between its blanks.
 [[nodiscard]] std::vector<std::string_view> splitAtBlanks(std::string_view text);
 

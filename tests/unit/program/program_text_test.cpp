@@ -76,8 +76,8 @@ TEST(ProgramText, LinesEndInAnyOfThreeWays) {
 }
 
 TEST(ProgramText, BlanksAreNoWords) {
-    EXPECT_EQ(trimmed("  a b  "), "a b");
-    EXPECT_EQ(trimmed("   "), "");
+    EXPECT_EQ(withoutBlanks("  a b  "), "a b");
+    EXPECT_EQ(withoutBlanks("   "), "");
     EXPECT_EQ(splitAtBlanks("  a  bc d "), (std::vector<std::string_view>{"a", "bc", "d"}));
     EXPECT_TRUE(splitAtBlanks("   ").empty());
     EXPECT_TRUE(splitAtBlanks("").empty());
