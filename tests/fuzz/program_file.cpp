@@ -36,7 +36,7 @@ void checkText(std::string_view bytes) {
     ProgramText text(bytes);
     for (int number = 1; number <= text.count(); ++number) {
         const ProgramLine& line = text.prepared(number, variables);
-        require(line.skipped() || !line.words.empty());
+        require(text.line(number).skipped() || !line.words.empty());
         const int endif = text.endifOf(number);
         require(endif == 0 || (endif > number && endif <= text.count()));
     }
