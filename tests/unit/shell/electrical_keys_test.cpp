@@ -316,6 +316,15 @@ TEST_F(EngineeringBank, SurfaceOfACylinderAndTheRiseOverIt) {
     EXPECT_EQ(x(), "1");
 }
 
+TEST_F(EngineeringBank, ARiseForgetsTheDimensionsBeforeIt) {
+    input("5", 22, kCtrl);
+    input("3", 22);
+    input("2", 22, kAlt);
+    EXPECT_EQ(read(), "Dia(cm)            2.00") << "no height is left to make a surface of";
+    input("5", 22, kCtrl);
+    EXPECT_EQ(last(2), (Lines{"Ht(cm)             5.00", "cm²               37.70"}));
+}
+
 TEST_F(MagneticsBank, CoreLossRefusesWhatItsCurvesDoNotHold) {
     input("100", 4, kCtrl);
     input("5000", 4);
