@@ -132,6 +132,7 @@ void CalculatorForm::finish() {
 
 void CalculatorForm::arrange() {
     int top = kMargin;
+    int rowsEnd = 0;
     lblUse_.place = {.left = kMargin, .top = top, .width = kKeyWidth, .height = kFieldHeight};
     for (int i = 0; i < fieldCount(); ++i) {
         top += kLine;
@@ -144,6 +145,7 @@ void CalculatorForm::arrange() {
         put(lblVal_.at(static_cast<std::size_t>(i)), look.symbolWidth);
         put(txtVal(i), kFieldWidth);
         put(lblUnits(i), look.unitWidth);
+        rowsEnd = left;
     }
     top += kLine;
     top = arrangeOwn(top);
@@ -152,7 +154,7 @@ void CalculatorForm::arrange() {
         key->place = {.left = left, .top = top + kMargin, .width = kKeyWidth, .height = kKeyHeight};
         left += kKeyWidth + kMargin / 2;
     }
-    int right = arrangeFrames(left + kMargin);
+    int right = arrangeFrames(std::max(left, rowsEnd) + kMargin);
     place.height = top + kKeyHeight + 2 * kMargin;
     if (look.hasPicture) {
         constexpr int kPictureWidth = 3600;

@@ -62,11 +62,13 @@ void drawMark(QPainter& painter, const QStyleOption& option, bool round) {
     QRect area(0, 0, side, side);
     area.moveCenter(option.rect.center());
     const QColor& ink = enabled ? theme.text : theme.dimText;
+    // A thin round line needs more of it than a straight one to be seen as well.
+    const QColor& edge = enabled ? theme.secondary : theme.fieldEdge;
     const double inset = side * 0.28;
     const QRectF inside = QRectF(area).adjusted(inset, inset, -inset, -inset);
     const bool on = (option.state & QStyle::State_On) != 0;
     if (round) {
-        painter.setPen(QPen(theme.fieldEdge, 1.0));
+        painter.setPen(QPen(edge, 1.0));
         painter.setBrush(theme.field);
         painter.drawEllipse(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5));
         if (on) {
@@ -76,7 +78,7 @@ void drawMark(QPainter& painter, const QStyleOption& option, bool round) {
         }
         return;
     }
-    box(painter, area, theme.field, theme.fieldEdge);
+    box(painter, area, theme.field, edge);
     if (on) {
         painter.setPen(QPen(ink, 2.0));
         painter.drawPolyline(QPolygonF{{inside.left(), inside.center().y()},
