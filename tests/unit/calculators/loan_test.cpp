@@ -71,6 +71,10 @@ protected:
             hand.enter(value);
         }
     }
+    static void enterIn(const DialogAtHand& hand, int field, const char* value) {
+        hand.clickOn("txtVal", field);
+        hand.enter(value);
+    }
 };
 
 TEST_F(LoanTest, TheExample) {
@@ -181,10 +185,8 @@ TEST_F(LoanTest, OfYearsPaymentsAYearAndPeriodsTheThirdFollowsInAnyOrder) {
     const auto given = [&](int first, const char* one, int second, const char* other) {
         std::vector<std::string> fields;
         openLoan([&](DialogAtHand hand) {
-            hand.clickOn("txtVal", first);
-            hand.enter(one);
-            hand.clickOn("txtVal", second);
-            hand.enter(other);
+            enterIn(hand, first, one);
+            enterIn(hand, second, other);
             fields = {hand.field(kYears), hand.field(kPpy), hand.field(kPeriods)};
         });
         platform.boxes.clear();
@@ -204,10 +206,8 @@ TEST_F(LoanTest, InterestsOfAYearAndOfAPeriodFollowFromEachOther) {
     const auto given = [&](int first, const char* one, int second, const char* other) {
         std::vector<std::string> fields;
         openLoan([&](DialogAtHand hand) {
-            hand.clickOn("txtVal", first);
-            hand.enter(one);
-            hand.clickOn("txtVal", second);
-            hand.enter(other);
+            enterIn(hand, first, one);
+            enterIn(hand, second, other);
             fields = {hand.at("lblUnits", kApr).text, hand.at("lblUnits", kRate).text};
         });
         return fields;
